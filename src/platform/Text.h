@@ -1,0 +1,55 @@
+// Text: conversions and picture formats. Nothing here depends on the process's locale. Texts are UTF-8;
+// positions and lengths count characters of the ASCII range (the program's own texts and the digits typed).
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Currency.h"
+#include "platform/Date.h"
+#include "platform/Integer.h"
+
+namespace sorvane {
+
+// The number that the text begins with (blanks are skipped), 0 when there is none: Val("12abc") is 12. Never
+// raises.
+double Val(std::string_view text);
+
+// The text as a number: the whole text, blanks around it, thousands commas allowed; else raises 13.
+double CDbl(std::string_view text);
+
+// CDbl rounded half to even into 16 bits; text that is no number raises 13, too large 6.
+Integer CInt(std::string_view text);
+
+// Plain decimal text of a whole number, without blanks.
+std::string Str(long number);
+
+inline int Len(std::string_view text) { return static_cast<int>(text.size()); }
+// `length` characters from the 1-based `start`; what lies behind the end is left out. start below 1 raises 5.
+std::string Mid(std::string_view text, int start, int length);
+std::string_view TrimBlanks(std::string_view text);
+
+// The amount through a picture of '#', '0', ',', '.', literal signs and an optional second section behind ';'
+// for negative amounts; without one a negative amount gets a leading '-'. Rounds half away from zero.
+// Pictures in use: "###,###,##0.00", "###,###,##0.00;(###,###,##0.00)", "###,###,###.00;(###,###,###.00)",
+// "##,###,##0.00", "##,###,##0.00;(##,###,##0.00)", "###.#0", "###.00".
+std::string Format(Currency amount, std::string_view picture);
+// The same for a text: a text that reads as an amount (a "$" and blanks are passed over) is formatted as that
+// amount, any other text comes back as it is.
+std::string FormatText(std::string_view text, std::string_view picture);
+
+// The text behind blanks until it is at least `width` characters long ("@@@@@@@@" is width 8).
+std::string PadLeft(std::string_view text, int width);
+
+// The items joined by ", ".
+template <class Range>
+std::string JoinNumbers(const Range& numbers) {
+    std::string joined;
+    for (const auto& number : numbers) {
+        if (!joined.empty()) joined += ", ";
+        joined += Str(number);
+    }
+    return joined;
+}
+
+}  // namespace sorvane
