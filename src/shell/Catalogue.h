@@ -1,0 +1,86 @@
+// The lotteries the program knows: the menu tree, the games on it, the game keys and the add-on games. What
+// differs between regions is a cell here; only odd cells are written, the others follow from the regular
+// name.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "shell/Family.h"
+
+namespace sorvane {
+
+// What a menu entry does.
+enum class MenuAction { Menu, Game, Notice, Exit, Request, Report, About, Dead };
+
+// An entry of the menu tree, in order; `level` 0 stands on the menu bar.
+struct MenuEntry {
+    int level;
+    std::string_view name;
+    std::string_view caption;
+    MenuAction action;
+};
+std::span<const MenuEntry> MenuTree();
+
+// A menu entry that opens a game window.
+struct Game {
+    std::string_view menu;  // its menu entry
+    std::string_view LottoFlag;
+    std::string_view ExtraFlag;
+    Family opens;
+    std::string_view title;
+    // Facts that nothing reads; where one is absent the variable keeps the last game's value.
+    std::optional<int> MaxTicketsOnSheet = {};
+    std::optional<int> TicketPriceCents = {};
+    std::optional<int> FreePlays = {};
+    // Where the title is written: the window that opens, but for Play 4, whose title goes to the hidden
+    // frmPick3.
+    std::optional<Family> titleGoesTo = {};
+};
+std::span<const Game> Games();
+const Game* FindGame(std::string_view menu);
+
+// A game key and its tables. An empty cell reads as told beside it.
+struct GameKey {
+    std::string_view LottoFlag;
+    Family in;
+    std::string_view Played;
+    std::string_view Win;
+    std::string_view ExtraFlagAtCreate =
+        {};  // digit games: the add-on key that names their Win table; empty: LottoFlag
+    std::string_view LoadPlayed = {};      // at load, cancel and exit; empty: Played
+    std::string_view WinningsKey = {};     // the key that Enter Winnings compares; empty: LottoFlag
+    std::string_view WinningsPlayed = {};  // the table it then asks; empty: Played
+    std::string_view QuickPickKey = {};    // the key that the generator compares; empty: LottoFlag
+    bool CheckNamesTables = true;          // a check sets TableName for this key
+    bool CreatesAtLoad = true;             // the window's CreateAllTables knows the key
+    bool HalfPrice = false;                // a ticket costs half a dollar
+};
+std::span<const GameKey> GameKeys();
+// The row of the key in this family; null when the family's comparison chain knows no such key.
+const GameKey* FindKey(Family family, std::string_view LottoFlag);
+
+// Names of the tables at each place of use; nothing when the chain there matches no key, and the name stays
+// what it was.
+std::optional<std::string> PlayedTable(Family family, std::string_view LottoFlag);  // save
+std::optional<std::string> LoadTable(Family family, std::string_view LottoFlag);    // load, cancel, exit
+std::optional<std::string> CheckTable(Family family, std::string_view LottoFlag);   // check: tickets
+std::optional<std::string> WinTable(Family family, std::string_view LottoFlag);  // check and tallies: draws
+std::optional<std::string> WinningsTable(Family family, std::string_view LottoFlag);  // Enter Winnings
+
+// An add-on game.
+struct AddOn {
+    std::string_view ExtraFlag;
+    std::string_view Played;
+    std::string_view Win;
+    int ShapeCode;          // 1 digits of a number, 4 four numbers
+    int Digits;             // digits of the number; 0 for four numbers
+    bool CountedOnSheet;    // as many tickets as txtNoOfExtra says; else one, by chkEncore
+    std::string_view Name;  // in "<Name> number is too short..."; empty for The Plus
+};
+std::span<const AddOn> AddOns();
+const AddOn* FindAddOn(std::string_view ExtraFlag);
+
+}  // namespace sorvane

@@ -1,0 +1,60 @@
+// Every table of the database: fourteen shapes and the scratch table. Writers set fields by position, so the
+// order of the fields is part of the design. A fresh database holds no table; each appears when somebody
+// needs it.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "store/StoreRoutine.h"
+
+namespace sorvane {
+
+// A field of a shape. `count` above 1 stands for fields numbered from 1: "Ball_" with 6 is Ball_1 to Ball_6.
+struct ShapeField {
+    std::string_view name;
+    Dao::FieldType type;
+    int count = 1;
+};
+
+// A creator: makes a table of its shape, then its two indexes (the scratch table has none), and sets
+// Global::TableOpened to 1 once the table stands. It does not ask whether the table exists. A failure shows
+// the creator's box and leaves TableOpened as it was, unless the indexes failed: then the table stands
+// without them.
+struct Creator {
+    std::span<const ShapeField> fields;
+    ErrorTail tail = Tails::Create;
+    bool indexed = true;
+    void operator()(Run& run, const std::string& DbName, const std::string& TableName,
+                    const std::string& PrimaryField, const std::string& SecondField) const;
+};
+
+extern const Creator CreateSpentTable;
+extern const Creator CreateWinningsTable;
+extern const Creator CreatePlayed6Table;
+extern const Creator CreateWin6Table;
+extern const Creator CreatePlayed7Table;
+extern const Creator CreateWin7Table;
+extern const Creator CreatePlayedPick3Table;
+extern const Creator CreateWinPick3Table;
+extern const Creator CreatePlayedPick4Table;
+extern const Creator CreateWinPick4Table;
+extern const Creator CreatePlayedAddOnTable;
+extern const Creator CreateWinAddOnTable;
+extern const Creator CreatePlayedKenoTable;
+extern const Creator CreateWinKenoTable;
+extern const Creator CreateTempTable;
+
+// Names of the two index fields, which are also the indexes' names.
+inline const std::string PrimaryFieldName = "ID1";
+inline const std::string DateFieldName = "Date";
+
+// Makes the pair of tables of a shape code: 1 digit add-on, 3 and 4 digits, 6, 7, 20 keno; any other does
+// nothing. The played table is made under TableName (for code 4 under the name that ExtraFlag tells, in a
+// probing loop); then TableName becomes the matching Win table's, which is made in a probing loop. Where no
+// key matches, the name stays what it was and nothing further is made.
+void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
+                        const std::string& PrimaryField, const std::string& SecondField);
+
+}  // namespace sorvane

@@ -1,0 +1,18 @@
+// The only two routines that delete rows.
+#pragma once
+
+#include <string>
+
+#include "shell/Global.h"
+
+namespace sorvane {
+
+// Removes every row of the draw date from the table, whichever game it belongs to. An empty table, or one
+// without rows of that date, stays as it is. More than 32,767 rows in the table are an overflow, shown as any
+// other error.
+void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& TableName, Date DrawDate);
+
+// Removes all rows of the table.
+void DeleteAllRows(Run& run, const std::string& DbName, const std::string& TableName);
+
+}  // namespace sorvane
