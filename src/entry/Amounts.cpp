@@ -1,0 +1,37 @@
+#include "entry/Amounts.h"
+
+#include "platform/Text.h"
+#include "shell/Catalogue.h"
+
+namespace sorvane {
+
+std::string DefaultAmount(Family family, std::string_view LottoFlag, int tickets) {
+    const GameKey* key = FindKey(family, LottoFlag);
+    if (key && key->HalfPrice) {
+        const std::string half = (Currency::FromTenThousandths(Currency::Scale / 2) * tickets).ToText();
+        return half + (tickets % 2 == 0 ? ".00" : "0");
+    }
+    if (family == Family::frm749) return Str(2L * tickets) + ".00";
+    // The leading blank of the keno amount is meant.
+    return (family == Family::frmKeno70 ? " " : "") + Str(tickets) + ".00";
+}
+
+bool IsFlorida(std::string_view LottoFlag) { return LottoFlag == "FLACash3" || LottoFlag == "FLAPlay4"; }
+
+std::string WagerAmount(WagerOption option, std::string_view LottoFlag, int tickets) {
+    const Currency count = Currency::FromInt(tickets);
+    switch (option) {
+        case WagerOption::One:
+            if (!IsFlorida(LottoFlag)) return Format(count, "###.00");
+            return Format(Currency::FromTenThousandths(Currency::Scale / 2) * tickets, "###.#0");
+        case WagerOption::Two:
+            return Format(IsFlorida(LottoFlag) ? count : count * 2, "###.00");
+        case WagerOption::Five:
+            return Format(count * 5, "###.00");
+        case WagerOption::Ten:
+            return Format(count * 10, "###.00");
+    }
+    return {};
+}
+
+}  // namespace sorvane

@@ -1,0 +1,114 @@
+#include "entry/CreateAllTables.h"
+
+#include <optional>
+#include <span>
+
+#include "entry/EntryFacts.h"
+#include "shell/Catalogue.h"
+#include "store/CheckTB_DBExists.h"
+#include "store/CreateTables.h"
+
+namespace sorvane {
+
+namespace {
+
+struct TableName {
+    std::string name;
+    int shape;
+};
+
+// One table: who names it, and who makes it. Without a creator the shape code does, and makes the Win table
+// with it.
+struct TableStep {
+    std::optional<TableName> (*Name)(Family family, const Global& global);
+    const Creator* creator = nullptr;
+    bool onlyWhenNamed = false;
+};
+
+std::optional<TableName> MainPlayed(Family family, const Global& global) {
+    const GameKey* key = FindKey(family, global.LottoFlag);
+    if (!key || !key->CreatesAtLoad) return {};
+    return TableName{std::string(key->Played), NumbersPerTicket[family]};
+}
+
+std::optional<TableName> MainWin(Family family, const Global& global) {
+    const GameKey* key = FindKey(family, global.LottoFlag);
+    if (!key) return {};
+    return TableName{std::string(key->Win), NumbersPerTicket[family]};
+}
+
+std::optional<TableName> AddOnPlayed(Family family, const Global& global) {
+    const AddOn* addOn = FindAddOn(global.ExtraFlag);
+    if (!addOn || (Creates[family] & KeyBit(global.ExtraFlag)) == 0) return {};
+    return TableName{std::string(addOn->Played), addOn->ShapeCode};
+}
+
+// Daily Keno asks for its Encore table by the game, not by the add-on.
+std::optional<TableName> KenoEncore(Family, const Global& global) {
+    if (global.LottoFlag != "ONTKeno") return {};
+    return TableName{"PlayedEncore", 1};
+}
+
+std::optional<TableName> LottarioPlayed(Family, const Global&) { return TableName{"PlayedLottario", 6}; }
+std::optional<TableName> LottarioEncore(Family, const Global&) { return TableName{"PlayedEncore", 1}; }
+std::optional<TableName> EarlyBirdWin(Family, const Global&) { return TableName{"WinEarlyBird", 1}; }
+std::optional<TableName> LottarioWin(Family, const Global& global) {
+    if (global.LottoFlag != "Lottario") return {};
+    return TableName{"WinLottario", 6};
+}
+std::optional<TableName> Play4Win(Family, const Global&) { return TableName{"WinFLAPlay4", 4}; }
+std::optional<TableName> Temp(Family family, const Global&) {
+    return TableName{"Temp", NumbersPerTicket[family]};
+}
+
+const TableStep LottoSteps[] = {{MainPlayed}, {AddOnPlayed}, {Temp, &CreateTempTable}};
+const TableStep LottarioSteps[] = {{LottarioPlayed},
+                                   {LottarioEncore},
+                                   {EarlyBirdWin, &CreateWinPick4Table},
+                                   {LottarioWin, &CreateWin6Table, true},
+                                   {Temp, &CreateTempTable}};
+const TableStep Keno70Steps[] = {
+    {MainPlayed}, {MainWin, &CreateWinKenoTable}, {KenoEncore}, {Temp, &CreateTempTable}};
+const TableStep Keno80Steps[] = {{Temp, &CreateTempTable}};
+const TableStep Pick3Steps[] = {{MainPlayed}, {MainWin, &CreateWinPick3Table}, {AddOnPlayed}};
+const TableStep Pick4Steps[] = {{MainPlayed}, {Play4Win, &CreateWinPick4Table}};
+
+const PerFamily<std::span<const TableStep>>& Steps() {
+    static const PerFamily<std::span<const TableStep>> steps{
+        {LottoSteps, LottoSteps, LottarioSteps, Keno70Steps, Keno80Steps, Pick3Steps, Pick4Steps}};
+    return steps;
+}
+
+}  // namespace
+
+void CreateAllTables(Run& run, Family family, WindowState& state) {
+    state.DbName = DatabasePath(run.global.AppPath);
+    const auto makeSure = [&](const Creator& creator) {
+        MakeSureOf(run, state.DbName, state.TableName,
+                   [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+    };
+    CheckDatabaseExists(run, state.DbName);
+    state.TableName = "Spent";
+    makeSure(CreateSpentTable);
+    state.TableName = "Winnings";
+    makeSure(CreateWinningsTable);
+
+    state.NumbersPerTicket = NumbersPerTicket[family];
+    for (const TableStep& step : Steps()[family]) {
+        if (const auto named = step.Name(family, run.global)) {
+            state.TableName = named->name;
+            state.NumbersPerTicket = named->shape;
+        } else if (step.onlyWhenNamed) {
+            continue;
+        }
+        if (step.creator) makeSure(*step.creator);
+        else
+            MakeSureOf(run, state.DbName, state.TableName, [&] {
+                CreateTableByShape(run, state.DbName, state.TableName, state.NumbersPerTicket,
+                                   PrimaryFieldName, DateFieldName);
+            });
+    }
+    state.NumbersPerTicket = NumbersPerTicket[family];
+}
+
+}  // namespace sorvane

@@ -1,0 +1,73 @@
+// Facts of the families that ticket entry asks, one line a fact, seven values beside each other.
+#pragma once
+
+#include <string_view>
+
+#include "shell/Family.h"
+
+namespace sorvane {
+
+// Where Enter in a field moves the focus.
+enum class Go { Stay, Extra, Make, Box0, List0 };
+// What limits the add-on count: nothing, the tickets of the sheet (under "Extra" alone), or ten.
+enum class Cap { None, Sheet, Ten };
+
+// Add-on keys as a set.
+namespace Keys {
+inline constexpr unsigned None = 0, Encore = 1, Extra = 2, Plus = 4, Quebec = 8, TagKey = 16, West = 32;
+inline constexpr unsigned East = Encore | Extra | Plus | Quebec | TagKey;
+}  // namespace Keys
+// The bit of an ExtraFlag; None for a key that is no add-on.
+constexpr unsigned KeyBit(std::string_view ExtraFlag) {
+    if (ExtraFlag == "Encore") return Keys::Encore;
+    if (ExtraFlag == "Extra") return Keys::Extra;
+    if (ExtraFlag == "ThePlus") return Keys::Plus;
+    if (ExtraFlag == "QCExtra") return Keys::Quebec;
+    if (ExtraFlag == "Tag") return Keys::TagKey;
+    if (ExtraFlag == "WESTExtra") return Keys::West;
+    return Keys::None;
+}
+
+inline constexpr bool yes = true;
+inline constexpr bool no = false;
+
+// clang-format off
+//                                                     649    749    645    K70    K80    P3     P4
+inline constexpr PerFamily<int>  GridNumbers        {{ 49,    49,    45,    70,    80,    0,     0     }};
+inline constexpr PerFamily<int>  TicketLength       {{ 6,     7,     6,     0,     20,    3,     4     }};  // 0: as chosen per ticket
+inline constexpr PerFamily<int>  NumbersPerTicket   {{ 6,     7,     6,     20,    20,    3,     4     }};  // also the shape code
+inline constexpr PerFamily<int>  SheetFactor        {{ 1,     3,     2,     1,     1,     1,     1     }};  // bonus tickets counted in
+inline constexpr PerFamily<std::string_view> BonusKey{{ "",   "Super 7", "Lottario", "", "", "",     ""    }};  // the factor holds for this key alone
+inline constexpr PerFamily<bool> HasDollarsLabel    {{ yes,   no,    yes,   yes,   yes,   no,    no    }};
+inline constexpr PerFamily<bool> HasLabel1          {{ no,    yes,   no,    no,    no,    yes,   yes   }};  // in place of lblNoTickets
+inline constexpr PerFamily<bool> HasEncore          {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};  // txtEncore, chkEncore, lblExtra
+inline constexpr PerFamily<bool> HasPlay4           {{ yes,   yes,   no,    no,    no,    no,    no    }};
+inline constexpr PerFamily<bool> HasNoOfExtra       {{ yes,   yes,   yes,   yes,   yes,   yes,   no    }};  // keno 80: there, without a flow
+inline constexpr PerFamily<bool> HasExtraFlow       {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
+inline constexpr PerFamily<bool> HasWheel           {{ yes,   yes,   yes,   yes,   yes,   no,    no    }};
+inline constexpr PerFamily<bool> ExtraFiltersKeys   {{ yes,   yes,   no,    yes,   yes,   yes,   no    }};  // Lottario's count takes any key: meant
+inline constexpr PerFamily<Go>   EnterInCount0      {{ Go::Extra, Go::Stay, Go::Stay, Go::Make, Go::Make, Go::Stay, Go::Stay }};
+inline constexpr PerFamily<Go>   EnterInCount1      {{ Go::Extra, Go::Stay, Go::Make, Go::Make, Go::Make, Go::Stay, Go::Stay }};
+inline constexpr PerFamily<Go>   EnterInExtra       {{ Go::Box0, Go::Stay, Go::Stay, Go::Box0, Go::Stay, Go::List0, Go::Stay }};
+inline constexpr PerFamily<Cap>  ExtraLimit         {{ Cap::Sheet, Cap::Sheet, Cap::Ten, Cap::Sheet, Cap::None, Cap::Sheet, Cap::None }};
+inline constexpr PerFamily<std::string_view> PointAmount{{ "0.00", "0.00", "0.00", " 0.00", "0.00", "0.00", "0.00" }};
+inline constexpr PerFamily<bool> CountOpensGrid     {{ yes,   yes,   yes,   no,    yes,   no,    no    }};
+inline constexpr PerFamily<bool> NotSavedReloads    {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
+inline constexpr PerFamily<bool> StoresBeforeAsk    {{ no,    no,    no,    no,    no,    yes,   yes   }};
+inline constexpr PerFamily<bool> ProbesAtSave       {{ no,    no,    no,    no,    yes,   no,    yes   }};
+inline constexpr PerFamily<bool> AddOnAfterBox      {{ no,    no,    yes,   no,    no,    no,    no    }};
+inline constexpr PerFamily<bool> SpentAfterBox      {{ no,    no,    no,    no,    no,    yes,   yes   }};
+inline constexpr PerFamily<bool> NextSheetEndsAddOns{{ no,    yes,   yes,   no,    no,    no,    no    }};  // frm649 keeps the phase: meant
+inline constexpr PerFamily<bool> TablesAfterSave    {{ yes,   yes,   yes,   yes,   no,    yes,   yes   }};
+inline constexpr PerFamily<bool> CancelCleansUp     {{ no,    no,    no,    yes,   no,    no,    no    }};
+inline constexpr PerFamily<bool> CorrectionEndsAtOnce {{ no,  yes,   yes,   no,    no,    no,    no    }};
+inline constexpr PerFamily<bool> CorrectionStopsAtZero{{ yes, yes,   yes,   no,    no,    yes,   yes   }};
+inline constexpr PerFamily<bool> LoadNamesNext      {{ no,    no,    no,    yes,   no,    yes,   no    }};
+inline constexpr PerFamily<bool> ShortGuardForAll   {{ no,    yes,   yes,   yes,   no,    yes,   no    }};  // frm649: Encore and Extra alone go on
+// Which add-on keys a window saves, makes tables for, and cleans up.
+inline constexpr PerFamily<unsigned> Saves          {{ Keys::East, Keys::Encore | Keys::West | Keys::Quebec | Keys::TagKey | Keys::Extra, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};
+inline constexpr PerFamily<unsigned> Creates        {{ Keys::East, Keys::East | Keys::West, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};
+inline constexpr PerFamily<unsigned> Cleans         {{ Keys::East | Keys::West, Keys::East | Keys::West, Keys::East | Keys::West, Keys::Encore, Keys::Encore, Keys::East | Keys::West, Keys::East | Keys::West }};
+// clang-format on
+
+}  // namespace sorvane

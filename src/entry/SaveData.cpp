@@ -1,0 +1,183 @@
+#include "entry/SaveData.h"
+
+namespace sorvane {
+
+namespace {
+
+// Balls of a keno ticket that reach the table.
+constexpr int KenoBallsKept = 10;
+
+template <int N>
+void PutNumbers(Dao::Recordset& Rs, int at, const Slots<Integer, N>& numbers, int count) {
+    for (int i = 0; i < count; ++i) Rs[at + i] = numbers(i);
+}
+
+// The new row's fields behind its key come from `fill(recordset, RowNo)`.
+template <class Fill>
+void AddRow(Dao::Recordset& Rs, int key, int RowNo, Fill fill) {
+    Rs.AddNew();
+    Rs[0] = key;
+    fill(Rs, RowNo);
+    Rs.Update();
+}
+
+template <class Fill>
+void WriteSheet(Run& run, const StoreArgs& at, int rows, Fill fill) {
+    StoreRoutine(run, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        for (int RowNo = 0; RowNo < rows; ++RowNo) {
+            const int count = Rs.RecordCount();
+            if (count > 0) Rs.MoveLast();
+            AddRow(Rs, count + 1, RowNo, fill);
+        }
+    });
+}
+
+int RowsWithBonus(const Global& g, std::string_view key, int factor) {
+    return g.LottoFlag == key ? g.NoOfTicketsOnSheet * factor : int{g.NoOfTicketsOnSheet};
+}
+
+// Digit tickets: way of play and mark behind the digits; a mark is written only when it is set.
+template <class Ticket>
+void WriteDigits(Run& run, const StoreArgs& at, const Array<Ticket>& tickets) {
+    const Global& g = run.global;
+    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+        const Ticket& ticket = tickets(RowNo);
+        const int digits = decltype(ticket.Numbers)::Count;
+        Rs[1] = g.LottoFlag;
+        Rs[2] = at.WindowDate;
+        PutNumbers(Rs, 3, ticket.Numbers, digits);
+        Rs[3 + digits] = g.PlayOption;
+        if (ticket.Regular == True) Rs[4 + digits] = true;
+    });
+}
+
+}  // namespace
+
+void SaveLotto6Tickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+        const Lotto6Ticket& ticket = g.Lotto6Tickets(RowNo);
+        Rs[1] = at.WindowDate;
+        PutNumbers(Rs, 2, ticket.Numbers, 6);
+        Rs[8] = ticket.Regular == True;
+    });
+}
+
+void SaveLottarioTickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    WriteSheet(run, at, RowsWithBonus(g, "Lottario", 2), [&](Dao::Recordset& Rs, int RowNo) {
+        const Lotto6Ticket& ticket = g.Lotto6Tickets(RowNo);
+        Rs[1] = at.WindowDate;
+        PutNumbers(Rs, 2, ticket.Numbers, 6);
+        if (g.LottoFlag != "Lottario") return;
+        Rs[8] = ticket.Regular == True;
+        Rs[9] = ticket.EarlyBird == True;
+    });
+}
+
+void SaveLotto7Tickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    WriteSheet(run, at, RowsWithBonus(g, "Super 7", 3), [&](Dao::Recordset& Rs, int RowNo) {
+        const Lotto7Ticket& ticket = g.Lotto7Tickets(RowNo);
+        Rs[1] = at.WindowDate;
+        PutNumbers(Rs, 2, ticket.Numbers, 7);
+        if (g.LottoFlag == "Super 7") Rs[9] = ticket.Regular == True;
+    });
+}
+
+void SaveKenoTickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+        const KenoTicket& ticket = g.KenoTickets(RowNo);
+        Rs[1] = at.WindowDate;
+        Rs[2] = g.LottoFlag;
+        PutNumbers(Rs, 3, ticket.Numbers, KenoBallsKept);
+        Rs[13] = ticket.Wager;
+        Rs[14] = ticket.NoOfBalls;
+        Rs[15] = ticket.Regular == True;
+    });
+}
+
+void SavePick3Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.global.Pick3Tickets); }
+void SavePick4Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.global.Pick4Tickets); }
+
+void SaveAddOnTickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    const int digits = g.ExtraFlag == "WESTExtra" ? 7 : 6;
+    StoreRoutine(run, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        // Unlike the other writers this one counts once, before the loop.
+        const int count = Rs.RecordCount();
+        if (count > 0) Rs.MoveLast();
+        for (int RowNo = 0; RowNo < g.NoOfExtra; ++RowNo)
+            AddRow(Rs, count + 1 + RowNo, RowNo, [&](Dao::Recordset& row, int) {
+                row[1] = g.LottoFlag;
+                row[2] = at.WindowDate;
+                PutNumbers(row, 3, g.AddOnTickets(RowNo).Numbers, digits);
+            });
+    });
+}
+
+void SaveExtraTickets(Run& run, const StoreArgs& at) {
+    const Global& g = run.global;
+    WriteSheet(run, at, g.NoOfExtra, [&](Dao::Recordset& Rs, int RowNo) {
+        Rs[1] = g.LottoFlag;
+        Rs[2] = at.WindowDate;
+        PutNumbers(Rs, 3, g.ExtraTickets(RowNo).Numbers, 4);
+    });
+}
+
+namespace {
+
+Answer AskToAmend(Run& run) {
+    Global& g = run.global;
+    g.Msg = "You have already entered a Winning amount for this" + g.NL +
+            "Lottery on this Draw Date. Do you wish to amend your" + g.NL + "entry?";
+    return run.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "Correct Winnings?");
+}
+
+void PutAmount(Dao::Recordset& Rs, const Global& g, Date date) {
+    Rs[1] = g.LottoFlag;
+    Rs[2] = date;
+    Rs[3] = g.Dollars;
+    Rs.Update();
+}
+
+// The row of the date belongs to the game and winnings are being entered: the amount is amended, or left on
+// No.
+bool AmendedInstead(Run& run, Dao::Recordset& Rs, Date date) {
+    const Global& g = run.global;
+    Rs.Index("Date");
+    Rs.Seek(date);
+    if (Rs.NoMatch()) {
+        Rs.MoveLast();
+        return false;
+    }
+    if (g.EnteringWinnings != On) return false;
+    const Dao::Value key = Rs[1];
+    if (key.IsNull() || key.ToText() != g.LottoFlag) return false;
+    if (AskToAmend(run) == Answer::Yes) {
+        Rs.Edit();
+        PutAmount(Rs, g, date);
+    }
+    return true;
+}
+
+}  // namespace
+
+void StoreLedgerAmount(Run& run, const StoreArgs& at) {
+    StoreRoutine(run, Tails::Ledger, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        const int count = Rs.RecordCount();
+        if (count > 0 && AmendedInstead(run, Rs, at.WindowDate)) return;
+        Rs.AddNew();
+        Rs[0] = count + 1;
+        PutAmount(Rs, run.global, at.WindowDate);
+    });
+}
+
+}  // namespace sorvane

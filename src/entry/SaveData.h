@@ -1,0 +1,29 @@
+// The writers: the tickets of one sheet from the global arrays into a table, and the one writer of both
+// ledgers.
+#pragma once
+
+#include "store/StoreRoutine.h"
+
+namespace sorvane {
+
+// Each opens the table named in `at`, adds its rows under the date in `at`, and closes. `ID1` is the number
+// of rows plus one, not the largest key plus one: after a deletion a key can be taken, which shows its box.
+// Every row is durable when it is written; rows written before an error stay. An error shows its box, and the
+// caller goes on.
+void SaveLotto6Tickets(Run& run, const StoreArgs& at);  // NoOfTicketsOnSheet rows
+void SaveLottarioTickets(Run& run,
+                         const StoreArgs& at);  // twice as many for Lottario: bonus tickets are rows too
+void SaveLotto7Tickets(Run& run, const StoreArgs& at);  // three times as many for Super 7
+void SaveKenoTickets(Run& run, const StoreArgs& at);    // ten balls a row, also of a ticket that has twenty
+void SavePick3Tickets(Run& run, const StoreArgs& at);
+void SavePick4Tickets(Run& run, const StoreArgs& at);
+void SaveAddOnTickets(Run& run,
+                      const StoreArgs& at);  // NoOfExtra rows; the seventh digit for "WESTExtra" alone
+void SaveExtraTickets(Run& run, const StoreArgs& at);  // NoOfExtra rows
+
+// Adds a row with `Dollars` to the ledger named in `at`. While EnteringWinnings is On and the first row of
+// the date belongs to the game, asks whether to amend it instead (title "Correct Winnings?"). An amount that
+// does not convert shows "Please enter a valid amount and try again." and writes nothing.
+void StoreLedgerAmount(Run& run, const StoreArgs& at);
+
+}  // namespace sorvane
