@@ -1,0 +1,78 @@
+// Bar charts.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Control.h"
+
+namespace sorvane::forms {
+
+// A grid of numbers: rows along the axis, one series of bars a column. Rows and columns count from 1; an
+// index outside the counts raises 9 where it is set. Hovering a bar shows its value. Nothing is drawn, and
+// next to nothing spent, before the chart is seen.
+class Chart : public QWidget, public Control {
+  public:
+    explicit Chart(std::string_view name);
+    ~Chart() override;
+
+    void SetTitle(std::string_view title);
+    std::string Title() const;
+    // The captions below the bars and beside them.
+    void SetAxes(std::string_view bars, std::string_view values);
+
+    // New rows and columns hold 0, without labels.
+    int RowCount() const { return static_cast<int>(rowLabels_.size()); }
+    void SetRowCount(int count);
+    int ColumnCount() const { return static_cast<int>(columns_.size()); }
+    void SetColumnCount(int count);
+
+    // The cell and the column that Data and ColumnLabel mean; 1 at the start.
+    int Row() const { return row_; }
+    void SetRow(int row);
+    int Column() const { return column_; }
+    void SetColumn(int column);
+
+    double Data() const;
+    void SetData(double value);
+    // A text reads as its number: "       1,234.50" is 1234.5; one that is no number raises 13.
+    void SetData(std::string_view text);
+    void SetData(const char* text) { SetData(std::string_view(text)); }
+
+    // The legend of the column; without any label there is no legend.
+    std::string ColumnLabel() const;
+    void SetColumnLabel(std::string_view label);
+    // Labels of the rows from the first on; rows without one bear their number.
+    void SetRowLabels(const std::vector<std::string>& labels);
+    // Puts every cell to 0; counts, labels and the cell in hand stay.
+    void Clear();
+
+    QSize sizeHint() const override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    struct Series {
+        std::string label;
+        std::vector<double> values;
+    };
+    class View;
+    double& Cell();
+    void Changed();
+    void Build();
+
+    std::string title_, barsCaption_, valuesCaption_;
+    std::vector<std::string> rowLabels_;
+    std::vector<Series> columns_;
+    int row_ = 1, column_ = 1;
+    bool stale_ = true;
+    View* view_ = nullptr;
+};
+
+}  // namespace sorvane::forms

@@ -1,0 +1,45 @@
+// Sizes, spacings and colours: derived from the font and the palette, so that every scale and theme holds.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QIcon>
+#include <QPalette>
+
+class QBoxLayout;
+class QGridLayout;
+class QWidget;
+
+namespace sorvane::forms::Look {
+
+// Pixels, in proportion to the font.
+int Space(const QWidget& widget);   // between two controls that belong together
+int Gap(const QWidget& widget);     // between groups
+int Margin(const QWidget& widget);  // around the content of a window or page
+int BallSize(const QWidget& widget);
+// The width of so many digits, for fields of numbers.
+int DigitsWidth(const QWidget& widget, int digits);
+
+// The system's fixed-pitch font at the size of the application's font, or at so many points.
+QFont FixedFont(int points = 0);
+
+// Contrast of two colours, 1 to 21.
+double Contrast(const QColor& one, const QColor& other);
+// The ink, moved towards black or white until it stands off the paper by at least `ratio`.
+QColor Readable(QColor ink, const QColor& paper, double ratio = 4.5);
+
+// The colours of a number ball.
+struct Ball {
+    QColor paper, ink, ring;
+};
+Ball BallColours(const QPalette& palette, bool ticked, bool enabled);
+// The ring around the control that has the focus.
+QColor FocusRing(const QPalette& palette);
+// The text of hints in empty lists.
+QColor Hint(const QPalette& palette);
+// The colour of a chart's column, from 0.
+QColor Series(const QPalette& palette, int column);
+// The mark before a winner's line: a star in the colours of the palette.
+QIcon Winner(const QPalette& palette, int size);
+
+}  // namespace sorvane::forms::Look

@@ -1,0 +1,23 @@
+// A number of the play slip.
+#pragma once
+
+#include "forms/CheckBox.h"
+
+namespace sorvane::forms {
+
+// A check box painted as a round ball that can be hit anywhere. Its states differ in shape as well as colour:
+// free (ring), ticked (filled, with a tick), disabled (thin broken ring), disabled and ticked (filled pale,
+// with a tick), focused (a second ring around it).
+class NumberBall : public CheckBox {
+  public:
+    explicit NumberBall(std::string_view name, std::string_view caption = {});
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    bool hitButton(const QPoint& at) const override;
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace sorvane::forms

@@ -1,0 +1,29 @@
+// A drawing, sharp at every size.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "forms/Control.h"
+
+class QSvgRenderer;
+
+namespace sorvane::forms {
+
+class Picture : public QWidget, public Control {
+  public:
+    // The text of an SVG drawing; one that can't be read shows nothing.
+    explicit Picture(std::string_view name, std::string_view svg = {});
+    ~Picture() override;
+    void SetSvg(std::string_view svg);
+    QSize sizeHint() const override;
+
+  protected:
+    // Painted as large as fits, in its own proportions.
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    std::unique_ptr<QSvgRenderer> drawing_;
+};
+
+}  // namespace sorvane::forms

@@ -1,0 +1,121 @@
+// The rules of events: who runs handlers, who gets the focus and when.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <list>
+#include <utility>
+#include <vector>
+
+#include "platform/RunTimeError.h"
+
+namespace sorvane::forms {
+
+class Control;
+
+// Owned by the Application. Single-threaded, like Qt's windows.
+class Runtime {
+    // One a modal window or box, and one at the bottom for what runs before any window is shown.
+    struct Level {
+        QPointer<QWidget> window;               // null: a box, or a window that was left
+        QPointer<QWidget> active;               // the control that has the focus, as the handlers know it
+        std::vector<QPointer<QWidget>> wanted;  // focus asked for by handlers
+        int depth = 0;                          // handlers running on this level
+        bool moving = false;                    // a LostFocus is running
+    };
+
+  public:
+    Runtime() { levels_.emplace_back(); }
+    Runtime(const Runtime&) = delete;
+    Runtime& operator=(const Runtime&) = delete;
+
+    // The runtime of the application that is running.
+    static Runtime& Current();
+
+    // Runs a handler. What it throws ends it and is shown in a box; nothing passes on. When the outermost
+    // handler has ended, the focus goes where it was asked to go.
+    template <class Handler>
+    void Run(Handler handler) {
+        Level& level = levels_.back();
+        ++level.depth;
+        if (const int number = Caught(handler)) ShowUnhandled(number);
+        if (--level.depth == 0) GiveWanted(level);
+    }
+
+    // Control::SetFocus.
+    void SetFocus(QWidget& widget);
+    // Takes the focus from a widget and what is in it, before it is hidden or disabled.
+    void TakeFocusFrom(QWidget& widget);
+    // Qt has moved the focus.
+    void FocusChanged(QWidget* now);
+    // Fires LostFocus and GotFocus for the moves since the last call.
+    void Settle();
+
+    // While one of these lives, moves of the focus are kept; the last one to go settles them.
+    class Hold {
+      public:
+        Hold();
+        ~Hold();
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        // Settles now if this is the outermost; true in that case.
+        bool Release();
+
+      private:
+        bool released_ = false;
+    };
+
+    // Stands around every box, system dialog and shown window: its own focus, its own handlers.
+    class Modal {
+      public:
+        explicit Modal(QWidget* window = nullptr);
+        // Reactivates the window below.
+        ~Modal();
+        Modal(const Modal&) = delete;
+        Modal& operator=(const Modal&) = delete;
+        // The window is left: no events of focus any more.
+        void Detach();
+
+      private:
+        std::list<Level>::iterator level_;
+        bool suspendedBusyPointer_ = false;
+    };
+
+    // The window in front, null when there is none.
+    QWidget* Front() const;
+    // How many boxes and windows have been shown so far; when it has grown, something was shown meanwhile.
+    int Shown() const { return shown_; }
+    // Whether the press that is being delivered is for this widget (and may just have brought it the focus).
+    bool IsPressed(const QWidget& widget) const;
+
+  private:
+    friend class Application;
+    // A press of the mouse on its way.
+    struct Press {
+        QWidget* receiver;
+        int shown;
+    };
+    template <class Handler>
+    static int Caught(Handler& handler) {
+        try {
+            handler();
+            return 0;
+        } catch (const RunTimeError& error) {
+            return error.Number();
+        } catch (const std::bad_alloc&) {
+            return ErrorNumber::OutOfMemory;
+        } catch (const std::exception&) {
+            return InternalError;
+        }
+    }
+    static constexpr int InternalError = 51;
+    static void ShowUnhandled(int number);
+    void GiveWanted(Level& level);
+
+    std::list<Level> levels_;
+    int shown_ = 0, hold_ = 0;
+    bool held_ = false;
+    Press* press_ = nullptr;
+};
+
+}  // namespace sorvane::forms

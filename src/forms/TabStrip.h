@@ -1,0 +1,36 @@
+// Pages with tabs.
+#pragma once
+
+#include <QTabWidget>
+
+#include "forms/Control.h"
+
+namespace sorvane::forms {
+
+// On a change of tab the page is in front first; then LostFocus and GotFocus of the controls that the change
+// concerns; then Click. Access keys of tabs yield to those of the controls on the page.
+class TabStrip : public QTabWidget, public Control {
+  public:
+    explicit TabStrip(std::string_view name);
+
+    // Adds a page; it is declared behind the tab strip. The caption is kept as given, '&' included.
+    void AddTab(QWidget& page, std::string_view caption);
+    // The tab in front, from 0.
+    int Tab() const { return currentIndex(); }
+    // Brings a tab in front; fires Click when it was another one.
+    void SetTab(int index);
+    // The caption of the tab in front.
+    std::string Caption() const;
+    // Click: another tab has come in front, by the user or by the program.
+    void OnClick(std::function<void()> handler) { click_ = std::move(handler); }
+
+  protected:
+    bool event(QEvent* event) override;
+
+  private:
+    class Bar;
+    class Change;
+    std::function<void()> click_;
+};
+
+}  // namespace sorvane::forms

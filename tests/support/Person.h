@@ -1,0 +1,105 @@
+// A person at the screen: real events on real windows, and answers to the boxes that come up.
+#pragma once
+
+#include <QObject>
+#include <QPoint>
+#include <QPointer>
+#include <QWidget>
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/Services.h"
+
+class QAbstractItemView;
+
+namespace sorvane::test {
+
+// One person a test; created after the application. Everything goes to the window in front, as from a real
+// mouse and keyboard: what is disabled, hidden or behind a modal window is not reached, and touching it is a
+// failure.
+//
+// Boxes and windows that an action brings up are told before the action, in the order in which they come. One
+// that nobody told fails the test and is closed; one that was told and never came fails it at the end.
+class Person : public QObject {
+  public:
+    Person();
+    ~Person() override;
+
+    // The window in front: the one that is modal, or the main window.
+    QWidget& Front() const;
+
+    // A click in the middle of a widget, or at a point of it.
+    void Click(QWidget& widget);
+    void Click(QWidget& widget, QPoint at);
+    void Press(QWidget& widget);
+    void Press(QWidget& widget, QPoint at);
+    // Lets go wherever the mouse was pressed; nothing when that widget is gone or behind a modal window.
+    void Release();
+    void DoubleClick(QWidget& widget);
+    // A click, or a double-click, on a row of a list, and on a tab.
+    void ClickRow(QAbstractItemView& list, int row);
+    void DoubleClickRow(QAbstractItemView& list, int row);
+    void ClickTab(std::string_view captionStart);
+    // The close box of the window's frame.
+    void Close(QWidget& window);
+
+    // Keys go to the widget that has the focus.
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void Tab() { Key(Qt::Key_Tab); }
+    void BackTab() { Key(Qt::Key_Backtab, Qt::ShiftModifier); }
+    void Enter() { Key(Qt::Key_Return); }
+    void AccessKey(char letter);
+    void Type(std::string_view text);
+    // Clicks the widget, then types.
+    void Type(QWidget& widget, std::string_view text);
+    // What an input method commits.
+    void Commit(std::string_view text);
+
+    // A message box that will come: answered by a click on its button. `meanwhile` runs while it is up.
+    void Expect(std::string_view title, std::string_view text, Answer answer = Answer::Ok,
+                int style = BoxStyle::Ok, std::function<void()> meanwhile = nullptr);
+    // A modal window of ours that will come; `act` uses it and has to leave it.
+    void ExpectWindow(std::string_view name, std::function<void(QWidget&)> act);
+    // How many of those told have not come yet.
+    int Awaited() const { return static_cast<int>(awaited_.size()); }
+
+    // The widget of this Qt class and name in the window in front; a failure when there is none.
+    template <class Class>
+    Class& Find(std::string_view name) const {
+        return static_cast<Class&>(*FindIn(Front(), Class::staticMetaObject, name));
+    }
+    template <class Class>
+    static Class& FindIn(const QWidget& window, std::string_view name) {
+        return static_cast<Class&>(*FindIn(window, Class::staticMetaObject, name));
+    }
+
+    // Lets everything that is waiting to be handled happen.
+    static void Settle();
+
+    bool eventFilter(QObject* receiver, QEvent* event) override;
+
+  private:
+    struct Awaited_ {
+        std::string title, text;
+        Answer answer = Answer::Ok;
+        int style = BoxStyle::Ok;
+        std::function<void()> meanwhile;
+        std::string window;
+        std::function<void(QWidget&)> act;
+    };
+    static QObject* FindIn(const QWidget& window, const QMetaObject& type, std::string_view name);
+    void Appeared(QWidget& modal);
+    void AnswerBox(class QMessageBox& box);
+    void UseWindow(QWidget& window);
+    void Unexpected(QWidget& modal);
+    bool Reachable(const QWidget& widget) const;
+
+    std::deque<Awaited_> awaited_;
+    QPointer<QWidget> pressed_;
+    QPoint pressedAt_;
+    int unexpected_ = 0;
+};
+
+}  // namespace sorvane::test
