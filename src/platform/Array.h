@@ -1,6 +1,7 @@
 // Arrays that can be unsized, resized with or without their contents, and read past their end.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "platform/RunTimeError.h"
@@ -11,13 +12,14 @@ namespace sorvane {
 template <class T>
 class Array {
   public:
-    // Empties and sizes to 0..upper (upper -1 leaves no element; below raises 9).
+    // Empties and sizes to 0..upper (upper -1 leaves no element; below raises 9 and changes nothing).
     void Redim(int upper) {
+        const std::size_t count = Count(upper);
         items_.clear();
-        Resize(upper);
+        Resize(count);
     }
-    // Sizes to 0..upper; elements that stay keep their contents, new ones are zero or empty.
-    void RedimPreserve(int upper) { Resize(upper); }
+    // Sizes to 0..upper as Redim does; elements that stay keep their contents, new ones are zero or empty.
+    void RedimPreserve(int upper) { Resize(Count(upper)); }
     void Erase() {
         items_.clear();
         sized_ = false;
@@ -31,9 +33,12 @@ class Array {
     const T& operator()(int index) const { return items_[At(index)]; }
 
   private:
-    void Resize(int upper) {
+    static std::size_t Count(int upper) {
         if (upper < -1) Raise(ErrorNumber::SubscriptOutOfRange);
-        items_.resize(static_cast<std::size_t>(upper + 1));
+        return upper < 0 ? 0 : static_cast<std::size_t>(upper) + 1;
+    }
+    void Resize(std::size_t count) {
+        items_.resize(count);
         sized_ = true;
     }
     std::size_t At(int index) const {

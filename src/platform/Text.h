@@ -11,26 +11,31 @@
 
 namespace sorvane {
 
-// The number that the text begins with (blanks are skipped), 0 when there is none: Val("12abc") is 12. Never
-// raises.
+// The number that the text begins with (blanks before it are passed over), 0 when there is none: Val("12abc")
+// is 12. Never raises; beyond the range of a double it is the largest one.
 double Val(std::string_view text);
 
-// The text as a number: the whole text, blanks around it, thousands commas allowed; else raises 13.
+// The text as a number: the whole text, as Currency::FromText reads it; else raises 13, too large 6.
 double CDbl(std::string_view text);
 
-// CDbl rounded half to even into 16 bits; text that is no number raises 13, too large 6.
+// The same rounded half to even into 16 bits; text that is no number raises 13, too large 6.
 Integer CInt(std::string_view text);
 
 // Plain decimal text of a whole number, without blanks.
 std::string Str(long number);
 
 inline int Len(std::string_view text) { return static_cast<int>(text.size()); }
-// `length` characters from the 1-based `start`; what lies behind the end is left out. start below 1 raises 5.
+// `length` characters from the 1-based `start`; what lies behind the end is left out. start below 1 or length
+// below 0 raises 5.
 std::string Mid(std::string_view text, int start, int length);
+// Without the blanks and tabs at both ends.
 std::string_view TrimBlanks(std::string_view text);
 
-// The amount through a picture of '#', '0', ',', '.', literal signs and an optional second section behind ';'
-// for negative amounts; without one a negative amount gets a leading '-'. Rounds half away from zero.
+// The amount through a picture of '#' (a digit where the amount has one), '0' (a digit in any case), ',' in
+// the whole part (thousands are parted), '.', and literal signs before and behind them. A second section
+// behind ';' is for negative amounts, which it shows without a sign; without one a negative amount gets a
+// leading '-'. An amount that rounds to zero shows as zero, never negative. Rounds half away from zero to as
+// many decimals as the picture has places. Anything else in a picture raises 5.
 // Pictures in use: "###,###,##0.00", "###,###,##0.00;(###,###,##0.00)", "###,###,###.00;(###,###,###.00)",
 // "##,###,##0.00", "##,###,##0.00;(##,###,##0.00)", "###.#0", "###.00".
 std::string Format(Currency amount, std::string_view picture);

@@ -20,6 +20,7 @@
 #include "platform/Date.h"
 #include "platform/RunTimeError.h"
 #include "platform/Services.h"
+#include "platform/SplitMix.h"
 
 namespace sorvane::testing {
 
@@ -145,14 +146,14 @@ class FixedClock final : public Clock {
 class FixedRandom final : public RandomSource {
   public:
     // An endless sequence that the seed determines, on every machine the same.
-    explicit FixedRandom(std::uint64_t seed = 1) : state_(seed) {}
+    explicit FixedRandom(std::uint64_t seed = 1) : mix_(seed) {}
     // These values one after the other, each from 0 up to but not including 1; a draw beyond the last throws
     // std::out_of_range.
     explicit FixedRandom(std::vector<double> values) : values_(std::move(values)), scripted_(true) {}
 
     void Randomize() override { ++randomized; }
     double Rnd() override {
-        if (!scripted_) return static_cast<double>(Mix() >> 11) * 0x1.0p-53;
+        if (!scripted_) return mix_.Unit();
         if (drawn_ == values_.size()) throw std::out_of_range("more random numbers drawn than scripted");
         return values_[drawn_++];
     }
@@ -160,13 +161,7 @@ class FixedRandom final : public RandomSource {
     int randomized = 0;
 
   private:
-    std::uint64_t Mix() {
-        std::uint64_t mixed = state_ += 0x9E3779B97F4A7C15U;
-        mixed = (mixed ^ (mixed >> 30)) * 0xBF58476D1CE4E5B9U;
-        mixed = (mixed ^ (mixed >> 27)) * 0x94D049BB133111EBU;
-        return mixed ^ (mixed >> 31);
-    }
-    std::uint64_t state_ = 0;
+    SplitMix mix_{0};
     std::vector<double> values_;
     std::size_t drawn_ = 0;
     bool scripted_ = false;

@@ -1,0 +1,193 @@
+#include "platform/Text.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include "platform/Decimal.h"
+#include "platform/RunTimeError.h"
+
+namespace sorvane {
+
+namespace {
+
+Decimal WholeNumber(std::string_view text) {
+    std::optional<Decimal> number = Decimal::Read(text);
+    if (!number) Raise(ErrorNumber::TypeMismatch);
+    return *std::move(number);
+}
+
+constexpr std::string_view Places = "#0,.";
+
+// Digits of one side of a picture: how many at least, and how many at most behind the point.
+struct Part {
+    std::size_t least = 0;
+    std::size_t places = 0;
+};
+
+// One section of a picture.
+struct Section {
+    std::string_view before;
+    std::string_view behind;
+    Part whole;
+    Part fraction;
+    bool grouped = false;
+    bool point = false;
+};
+
+void ReadWhole(std::string_view places, Section& section) {
+    for (const char place : places) {
+        if (place == ',') {
+            section.grouped = true;
+            continue;
+        }
+        if (place == '0' || section.whole.least > 0) ++section.whole.least;
+    }
+}
+
+void ReadFraction(std::string_view places, Section& section) {
+    section.fraction.places = places.size();
+    section.fraction.least = places.find_last_of('0') + 1;  // npos + 1 is 0
+}
+
+Section ReadSection(std::string_view picture) {
+    Section section;
+    const std::size_t first = picture.find_first_of(Places);
+    section.before = picture.substr(0, first);
+    if (first == std::string_view::npos) return section;
+    const std::size_t last = picture.find_last_of(Places);
+    section.behind = picture.substr(last + 1);
+    const std::string_view places = picture.substr(first, last + 1 - first);
+    const std::size_t point = places.find('.');
+    section.point = point != std::string_view::npos;
+    const std::string_view whole = places.substr(0, point);
+    const std::string_view fraction = section.point ? places.substr(point + 1) : std::string_view();
+    if (whole.find_first_not_of("#0,") != std::string_view::npos ||
+        fraction.find_first_not_of("#0") != std::string_view::npos)
+        Raise(ErrorNumber::InvalidProcedureCall);
+    ReadWhole(whole, section);
+    ReadFraction(fraction, section);
+    return section;
+}
+
+struct Picture {
+    Section first;
+    std::optional<Section> negative;
+};
+
+Picture ReadPicture(std::string_view picture) {
+    const std::size_t semicolon = picture.find(';');
+    Picture sections{ReadSection(picture.substr(0, semicolon)), {}};
+    if (semicolon == std::string_view::npos) return sections;
+    const std::string_view second = picture.substr(semicolon + 1);
+    if (second.find(';') != std::string_view::npos) Raise(ErrorNumber::InvalidProcedureCall);
+    if (!second.empty()) sections.negative = ReadSection(second);
+    return sections;
+}
+
+// An amount without its sign, in the digits that a section leaves of it: the first `decimals` of four.
+struct Rounded {
+    std::uint64_t whole;
+    std::string fraction;
+    bool IsZero() const { return whole == 0 && fraction.find_first_not_of('0') == std::string::npos; }
+};
+
+Rounded Round(Currency amount, const Section& section) {
+    const std::size_t decimals = std::min(section.fraction.places, Currency::Decimals);
+    std::uint64_t unit = 1;  // of the last digit kept, in ten-thousandths
+    for (std::size_t place = decimals; place < Currency::Decimals; ++place) unit *= 10;
+    const std::uint64_t units = (amount.Magnitude() + unit / 2) / unit;
+    const std::uint64_t perWhole = static_cast<std::uint64_t>(Currency::Scale) / unit;
+    std::string fraction = std::to_string(perWhole + units % perWhole).substr(1);
+    return {units / perWhole, std::move(fraction)};
+}
+
+std::string WholeDigits(std::uint64_t whole, const Section& section) {
+    std::string digits = whole == 0 ? std::string() : std::to_string(whole);
+    if (digits.size() < section.whole.least) digits.insert(0, section.whole.least - digits.size(), '0');
+    if (!section.grouped) return digits;
+    for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, 1, ',');
+    return digits;
+}
+
+std::string FractionDigits(std::string fraction, const Section& section) {
+    fraction.erase(fraction.find_last_not_of('0') + 1);
+    if (fraction.size() < section.fraction.least) fraction.resize(section.fraction.least, '0');
+    return fraction;
+}
+
+std::string Write(const Rounded& amount, const Section& section) {
+    std::string text(section.before);
+    text += WholeDigits(amount.whole, section);
+    if (section.point) text += '.';
+    text += FractionDigits(amount.fraction, section);
+    return text.append(section.behind);
+}
+
+}  // namespace
+
+double Val(std::string_view text) {
+    const std::optional<Decimal> number = Decimal::ReadPrefix(text);
+    if (!number) return 0;
+    constexpr double Largest = std::numeric_limits<double>::max();
+    return std::clamp(number->ToDouble(), -Largest, Largest);
+}
+
+double CDbl(std::string_view text) {
+    const double value = WholeNumber(text).ToDouble();
+    if (std::isinf(value)) Raise(ErrorNumber::Overflow);
+    return value;
+}
+
+Integer CInt(std::string_view text) {
+    const std::int64_t value = WholeNumber(text).Scaled(0);
+    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
+        Raise(ErrorNumber::Overflow);
+    return Integer(static_cast<int>(value));
+}
+
+std::string Str(long number) { return std::to_string(number); }
+
+std::string Mid(std::string_view text, int start, int length) {
+    if (start < 1 || length < 0) Raise(ErrorNumber::InvalidProcedureCall);
+    const std::size_t from = std::min(static_cast<std::size_t>(start) - 1, text.size());
+    return std::string(text.substr(from, static_cast<std::size_t>(length)));
+}
+
+std::string_view TrimBlanks(std::string_view text) {
+    constexpr std::string_view Blanks = " \t";
+    const std::size_t first = text.find_first_not_of(Blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(Blanks) + 1 - first);
+}
+
+std::string Format(Currency amount, std::string_view picture) {
+    const Picture sections = ReadPicture(picture);
+    const bool negative = amount < Currency();
+    if (negative && sections.negative) {
+        const Rounded rounded = Round(amount, *sections.negative);
+        if (!rounded.IsZero()) return Write(rounded, *sections.negative);
+    }
+    const Rounded rounded = Round(amount, sections.first);
+    const bool minus = negative && !sections.negative && !rounded.IsZero();
+    return (minus ? "-" : "") + Write(rounded, sections.first);
+}
+
+std::string FormatText(std::string_view text, std::string_view picture) {
+    std::string_view number = TrimBlanks(text);
+    if (!number.empty() && number.front() == '$') number.remove_prefix(1);
+    Currency amount;
+    const bool reads = Ignoring({ErrorNumber::TypeMismatch, ErrorNumber::Overflow},
+                                [&] { amount = Currency::FromText(number); });
+    if (!reads) return std::string(text);
+    return Format(amount, picture);
+}
+
+std::string PadLeft(std::string_view text, int width) {
+    const std::size_t wanted = width < 0 ? 0 : static_cast<std::size_t>(width);
+    std::string padded(text.size() < wanted ? wanted - text.size() : 0, ' ');
+    return padded.append(text);
+}
+
+}  // namespace sorvane
