@@ -40,6 +40,7 @@ constexpr Row Sentences[] = {
     {ErrorNumber::Locked, "The database is locked by another program"},
     {ErrorNumber::NoSuchField, "The table has no such field"},
     {ErrorNumber::NotADatabase, "The file is no database or is damaged"},
+    {ErrorNumber::ObjectClosed, "The object is closed"},
     {ErrorNumber::Conversion, "The value does not convert to its field's type"},
     {ErrorNumber::DialogCancelled, "Cancel was selected"},
 };

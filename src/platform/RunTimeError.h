@@ -43,6 +43,7 @@ inline constexpr int RecordDeleted = 3167;
 inline constexpr int Locked = 3260;
 inline constexpr int NoSuchField = 3265;
 inline constexpr int NotADatabase = 3343;
+inline constexpr int ObjectClosed = 3420;
 inline constexpr int Conversion = 3421;
 inline constexpr int DialogCancelled = 32755;
 }  // namespace ErrorNumber

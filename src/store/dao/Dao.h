@@ -4,8 +4,8 @@
 // 3015 index not found, 3019 no index set, 3020 Update without AddNew or Edit, 3021 no current record, 3022
 // key taken, 3024 file not found, 3026 disk full, 3043 disk or network error, 3051 no permission or not a
 // file, 3058 Null in a primary key, 3078 table not found (SQL), 3163 text too long, 3167 record deleted, 3260
-// locked by another, 3265 no such field, 3343 not a database or damaged, 3421 value does not convert, 94 Null
-// read into a value. Any verb may raise the disk, lock and damage numbers.
+// locked by another, 3265 no such field, 3343 not a database or damaged, 3420 verb on a closed object, 3421
+// value does not convert, 94 Null read into a value. Any verb may raise the disk, lock and damage numbers.
 #pragma once
 
 #include <cstdint>
@@ -13,6 +13,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -32,6 +33,7 @@ struct OpenFlags {
 
 // Numbers of the engine's field types; what stands in the file is the name beside each.
 enum class FieldType {
+    Other = 0,     // declared by somebody else: holds whatever is stored
     Boolean = 1,   // BOOLEAN, 0 or 1, False when never written
     Integer = 3,   // INTEGER(16)
     Long = 4,      // LONG, 32 bits
@@ -74,6 +76,8 @@ class Value {
 };
 
 class Recordset;
+class RecordsetState;
+class DatabaseState;
 
 // A field of the current row: reads from it, and writes to it between AddNew or Edit and Update.
 class Field {
@@ -137,9 +141,9 @@ class Recordset {
   private:
     friend class Database;
     friend class Field;
-    class State;
-    explicit Recordset(std::unique_ptr<State> state);
-    std::unique_ptr<State> state_;
+    explicit Recordset(std::unique_ptr<RecordsetState> state);
+    RecordsetState& Live() const;
+    std::unique_ptr<RecordsetState> state_;
 };
 
 // A table under construction. Its verbs append; Database::Append makes it.
@@ -187,10 +191,9 @@ class Database {
 
   private:
     friend class Engine;
-    friend class Workspace;
-    class State;
-    explicit Database(std::unique_ptr<State> state);
-    std::unique_ptr<State> state_;
+    explicit Database(std::unique_ptr<DatabaseState> state);
+    DatabaseState& Live() const;
+    std::unique_ptr<DatabaseState> state_;
 };
 
 class Workspace {

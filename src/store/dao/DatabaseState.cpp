@@ -1,0 +1,121 @@
+#include "store/dao/DatabaseState.h"
+
+#include <utility>
+
+#include "platform/RunTimeError.h"
+
+namespace sorvane::Dao {
+
+void RecordsetState::Opened() {
+    database_->recordsets_.push_back(this);
+    database_->flags_.RsOpen = On;
+    opened_ = true;
+}
+
+RecordsetState::~RecordsetState() {
+    if (!IsOpen() || !opened_) return;
+    std::erase(database_->recordsets_, this);
+    database_->flags_.RsOpen = Off;
+}
+
+void RecordsetState::Close() {
+    Release();
+    DatabaseState& database = *std::exchange(database_, nullptr);
+    std::erase(database.recordsets_, this);
+    database.flags_.RsOpen = Off;
+}
+
+DatabaseState::DatabaseState(const std::string& path, const std::string& vfs, OpenFlags& flags)
+    : connection_(path, vfs, OpenAs::Existing), flags_(flags) {
+    flags_.DbOpen = On;
+}
+
+DatabaseState::~DatabaseState() {
+    // A commit that fails here has no statement left to report it; who needs to know calls Close.
+    if (IsOpen()) ErrorOf([this] { Close(); });
+}
+
+void DatabaseState::Close() {
+    while (!recordsets_.empty()) recordsets_.back()->Close();
+    dataVersion_ = {};
+    Connection closing = std::move(connection_);
+    flags_.DbOpen = Off;
+    if (closing.InTransaction()) closing.Execute("COMMIT");
+}
+
+std::optional<std::string> DatabaseState::FindTable(std::string_view name) const {
+    Statement find = Prepare(
+        "SELECT name FROM sqlite_schema WHERE type = 'table' AND rootpage > 0 "
+        "AND name = ?1 COLLATE NOCASE AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'");
+    find.Bind(1, std::string(name));
+    if (!find.Step()) return std::nullopt;
+    return find.Text(0);
+}
+
+bool DatabaseState::Exists(std::string_view name) const {
+    Statement find = Prepare("SELECT 1 FROM sqlite_schema WHERE name = ?1 COLLATE NOCASE");
+    find.Bind(1, std::string(name));
+    return find.Step();
+}
+
+std::vector<Column> DatabaseState::ColumnsOf(std::string_view table) const {
+    Statement list = Prepare("SELECT name, type FROM pragma_table_info(?1) ORDER BY cid");
+    list.Bind(1, std::string(table));
+    std::vector<Column> columns;
+    while (list.Step()) columns.push_back(ColumnOf(list.Text(0), list.Text(1)));
+    return columns;
+}
+
+void DatabaseState::Append(const TableDef& table) {
+    if (Exists(table.Name())) Raise(ErrorNumber::TableExists);
+    std::string fields;
+    for (const TableDef::FieldDef& field : table.Fields()) {
+        if (!fields.empty()) fields += ", ";
+        fields += Quoted(field.name) + " " + DeclaredType(field.type, field.size);
+    }
+    Statement create = Prepare("CREATE TABLE " + Quoted(table.Name()) + " (" + fields + ")");
+    Write(create);
+}
+
+void DatabaseState::AppendIndex(std::string_view table, std::string_view name, std::string_view field,
+                                bool primary) {
+    const auto found = FindTable(table);
+    if (!found) Raise(ErrorNumber::TableNotFound);
+    const std::string index = IndexName(*found, name);
+    if (Exists(index)) Raise(ErrorNumber::TableExists);
+    const std::vector<Column> columns = ColumnsOf(*found);
+    const std::string key = Quoted(columns[static_cast<std::size_t>(OrdinalOf(columns, field))].name);
+    if (primary && Prepare("SELECT 1 FROM " + Quoted(*found) + " WHERE " + key + " IS NULL").Step())
+        Raise(ErrorNumber::NullInKey);
+    Statement create = Prepare(std::string("CREATE ") + (primary ? "UNIQUE " : "") + "INDEX " +
+                               Quoted(index) + " ON " + Quoted(*found) + " (" + key + ")");
+    Write(create);
+}
+
+int DatabaseState::Write(Statement& statement) {
+    // A walk that is open on this connection would make a lock held by somebody else fail at once instead of
+    // being waited for.
+    LeaveAll();
+    ++writes_;
+    if (oneCommit_ && !connection_.InTransaction()) connection_.Execute("BEGIN IMMEDIATE");
+    statement.Step();
+    return sqlite3_changes(connection_.Handle());
+}
+
+std::int64_t DatabaseState::DataVersion() {
+    if (!dataVersion_) dataVersion_ = Prepare("PRAGMA data_version");
+    dataVersion_.Step();
+    const std::int64_t version = dataVersion_.Int64(0);
+    dataVersion_.Reset();
+    return version;
+}
+
+void DatabaseState::LeaveAll() {
+    for (RecordsetState* recordset : recordsets_) recordset->Leave();
+}
+
+std::string IndexName(std::string_view table, std::string_view index) {
+    return std::string(table) + "." + std::string(index);
+}
+
+}  // namespace sorvane::Dao

@@ -1,0 +1,155 @@
+#include "store/dao/Sqlite.h"
+
+#include <utility>
+
+#include "platform/RunTimeError.h"
+
+namespace sorvane::Dao {
+
+namespace {
+
+constexpr int BusyMilliseconds = 1000;
+
+int NumberOfConstraint(int result) {
+    switch (result) {
+        case SQLITE_CONSTRAINT_UNIQUE:
+        case SQLITE_CONSTRAINT_PRIMARYKEY:
+        case SQLITE_CONSTRAINT_ROWID:
+            return ErrorNumber::KeyTaken;
+        case SQLITE_CONSTRAINT_NOTNULL:
+            return ErrorNumber::NullInKey;
+        default:
+            return ErrorNumber::Conversion;
+    }
+}
+
+int NumberOf(int result) {
+    if (result == SQLITE_IOERR_NOMEM) return ErrorNumber::OutOfMemory;
+    switch (result & 0xff) {
+        case SQLITE_NOMEM:
+            return ErrorNumber::OutOfMemory;
+        case SQLITE_FULL:
+            return ErrorNumber::DiskFull;
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+        case SQLITE_PROTOCOL:
+            return ErrorNumber::Locked;
+        case SQLITE_READONLY:
+        case SQLITE_PERM:
+        case SQLITE_AUTH:
+        case SQLITE_CANTOPEN:
+            return ErrorNumber::NoPermission;
+        case SQLITE_IOERR:
+            return ErrorNumber::DiskError;
+        case SQLITE_CONSTRAINT:
+            return NumberOfConstraint(result);
+        case SQLITE_TOOBIG:
+        case SQLITE_MISMATCH:
+            return ErrorNumber::Conversion;
+        default:
+            return ErrorNumber::NotADatabase;
+    }
+}
+
+}  // namespace
+
+void RaiseResult(int result) { Raise(NumberOf(result)); }
+
+std::string Quoted(std::string_view name) {
+    std::string quoted = "\"";
+    for (const char letter : name) {
+        if (letter == '"') quoted += '"';
+        quoted += letter;
+    }
+    return quoted + '"';
+}
+
+Statement::Statement(sqlite3* connection, std::string_view sql) {
+    sqlite3_stmt* handle = nullptr;
+    const int result =
+        sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &handle, nullptr);
+    handle_.reset(handle);
+    if (result != SQLITE_OK) RaiseResult(result);
+}
+
+void Statement::Bind(int parameter, const Cell& cell) {
+    struct Binder {
+        sqlite3_stmt* handle;
+        int parameter;
+        int operator()(std::monostate) const { return sqlite3_bind_null(handle, parameter); }
+        int operator()(std::int64_t number) const { return sqlite3_bind_int64(handle, parameter, number); }
+        int operator()(double number) const { return sqlite3_bind_double(handle, parameter, number); }
+        int operator()(const std::string& text) const {
+            return sqlite3_bind_text64(handle, parameter, text.data(), text.size(), SQLITE_TRANSIENT,
+                                       SQLITE_UTF8);
+        }
+        int operator()(const Blob& blob) const {
+            return sqlite3_bind_blob64(handle, parameter, blob.bytes.data(), blob.bytes.size(),
+                                       SQLITE_TRANSIENT);
+        }
+    };
+    const int result = std::visit(Binder{handle_.get(), parameter}, cell);
+    if (result != SQLITE_OK) RaiseResult(result);
+}
+
+bool Statement::Step() {
+    const int result = sqlite3_step(handle_.get());
+    if (result == SQLITE_ROW) return true;
+    Reset();
+    if (result != SQLITE_DONE) RaiseResult(result);
+    return false;
+}
+
+std::string Statement::Text(int column) const {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(handle_.get(), column));
+    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column));
+    return bytes == nullptr ? std::string() : std::string(bytes, size);
+}
+
+Cell Statement::At(int column) const {
+    switch (sqlite3_column_type(handle_.get(), column)) {
+        case SQLITE_INTEGER:
+            return Int64(column);
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(handle_.get(), column);
+        case SQLITE_TEXT:
+            return Text(column);
+        case SQLITE_BLOB:
+            return Blob{Text(column)};
+        default:
+            return {};
+    }
+}
+
+Connection::Connection(const std::string& path, const std::string& vfs, OpenAs as) {
+    const int flags =
+        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (as == OpenAs::New ? SQLITE_OPEN_CREATE : 0);
+    sqlite3* handle = nullptr;
+    const int result = sqlite3_open_v2(path.c_str(), &handle, flags, vfs.empty() ? nullptr : vfs.c_str());
+    handle_.reset(handle);
+    if (result != SQLITE_OK) RaiseResult(handle == nullptr ? result : sqlite3_extended_errcode(handle));
+    Configure();
+}
+
+void Connection::Configure() {
+    sqlite3_extended_result_codes(Handle(), 1);
+    sqlite3_busy_timeout(Handle(), BusyMilliseconds);
+    constexpr std::pair<int, int> Switches[] = {
+        {SQLITE_DBCONFIG_DEFENSIVE, 1},   {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
+        {SQLITE_DBCONFIG_ENABLE_VIEW, 0}, {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},
+        {SQLITE_DBCONFIG_DQS_DML, 0},     {SQLITE_DBCONFIG_DQS_DDL, 0},
+        {SQLITE_DBCONFIG_ENABLE_FKEY, 0},
+    };
+    for (const auto& [name, value] : Switches) sqlite3_db_config(Handle(), name, value, nullptr);
+    Execute("PRAGMA cell_size_check = ON");
+    Execute("PRAGMA mmap_size = 0");
+    Execute("PRAGMA temp_store = MEMORY");
+    Execute("PRAGMA synchronous = EXTRA");
+    // Another tool may have left the file with a write-ahead log: then one file is not all of it, and a
+    // folder that may only be read cannot open it.
+    Statement journal = Prepare("PRAGMA journal_mode = DELETE");
+    if (!journal.Step() || journal.Text(0) != "delete") Raise(ErrorNumber::Locked);
+    Execute("SELECT count(*) FROM sqlite_schema");
+}
+
+}  // namespace sorvane::Dao

@@ -1,0 +1,347 @@
+#include "store/dao/TableRecordset.h"
+
+#include <utility>
+
+#include "platform/RunTimeError.h"
+
+namespace sorvane::Dao {
+
+namespace {
+
+// A stranger's table may have fields with these names; at most two of them leave one free.
+std::string RowidOf(const std::vector<Column>& columns) {
+    for (const char* name : {"rowid", "_rowid_", "oid"}) {
+        if (ErrorOf([&] { OrdinalOf(columns, name); }) != 0) return name;
+    }
+    Raise(ErrorNumber::NotADatabase);
+}
+
+std::string ListOf(const std::vector<Column>& columns) {
+    std::string list;
+    for (const Column& column : columns) {
+        if (!list.empty()) list += ", ";
+        list += Quoted(column.name);
+    }
+    return list;
+}
+
+std::size_t At(int ordinal) { return static_cast<std::size_t>(ordinal); }
+
+}  // namespace
+
+TableRecordset::TableRecordset(DatabaseState& database, std::string table)
+    : RecordsetState(database),
+      table_(std::move(table)),
+      columns_(database.ColumnsOf(table_)),
+      rowid_(RowidOf(columns_)),
+      values_(columns_.size()) {
+    selected_ = "SELECT " + rowid_ + ", " + ListOf(columns_) + " FROM " + Quoted(table_);
+    Prepared(Query::First);
+    Opened();
+}
+
+void TableRecordset::Release() {
+    statements_ = {};
+    walk_.reset();
+}
+
+// The row-value form (key, rowid) > (?, ?) would walk all rows of one key at each entry.
+std::string TableRecordset::TailOf(Query query) const {
+    const std::string key = Indexed() ? Quoted(columns_[At(key_)].name) : std::string();
+    const std::string order = " ORDER BY " + (Indexed() ? key + ", " : "") + rowid_;
+    switch (query) {
+        case Query::First:
+            return order + " LIMIT 1";
+        case Query::Last:
+            return " ORDER BY " + (Indexed() ? key + " DESC, " : "") + rowid_ + " DESC LIMIT 1";
+        case Query::Behind:
+            return " WHERE " + (Indexed() ? key + " IS ?2 AND " : "") + rowid_ + " > ?1 ORDER BY " + rowid_;
+        case Query::NextKey:
+            return " WHERE " + key + " > ?1" + order;
+        case Query::NextKeyBehindNull:
+            return " WHERE " + key + " IS NOT NULL" + order;
+        case Query::Find:
+            return " WHERE " + key + " IS ?1" + order + " LIMIT 1";
+        case Query::FindDay:
+            return " WHERE " + key + " >= ?1 AND " + key + " < ?2" + order + " LIMIT 1";
+        case Query::ByRow:
+            return " WHERE " + rowid_ + " = ?1";
+    }
+    return {};
+}
+
+Statement& TableRecordset::Prepared(Query query) {
+    Statement& statement = statements_[static_cast<std::size_t>(query)];
+    if (!statement) {
+        const bool byIndex = Indexed() && query != Query::ByRow;
+        statement =
+            Database().Prepare(selected_ + (byIndex ? " INDEXED BY " + Quoted(index_) : "") + TailOf(query));
+    }
+    return statement;
+}
+
+// Reads the one row of the query; when there is one it is the current row.
+bool TableRecordset::Fetch(Query query, const Cell& first, const Cell& second) {
+    Leave();
+    Statement& statement = Prepared(query);
+    const int parameters = sqlite3_bind_parameter_count(statement.Handle());
+    if (parameters > 0) statement.Bind(1, first);
+    if (parameters > 1) statement.Bind(2, second);
+    if (!statement.Step()) return false;
+    Take(statement);
+    statement.Reset();
+    place_ = Place::Row;
+    return true;
+}
+
+void TableRecordset::Take(const Statement& row) {
+    row_ = row.Int64(0);
+    rowKey_ = Indexed() ? row.At(key_ + 1) : Cell();
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        values_[i] = ReadValue(row, static_cast<int>(i) + 1, columns_[i].type);
+}
+
+void TableRecordset::Leave() {
+    if (!walk_) return;
+    Statement& statement = Prepared(*walk_);
+    walk_.reset();
+    Take(statement);
+    statement.Reset();
+}
+
+void TableRecordset::Settle() {
+    if (place_ == Place::Opened && !Fetch(Query::First)) place_ = Place::Empty;
+}
+
+void TableRecordset::NeedRow() {
+    Settle();
+    if (place_ == Place::Deleted) Raise(ErrorNumber::RecordDeleted);
+    if (place_ != Place::Row) Raise(ErrorNumber::NoCurrentRecord);
+}
+
+int TableRecordset::RecordCount() {
+    const std::int64_t version = Database().DataVersion();
+    if (!count_ || version != countVersion_ || Database().Writes() != countWrites_) {
+        count_.reset();
+        Statement counting = Database().Prepare("SELECT count(*) FROM " + Quoted(table_));
+        counting.Step();
+        count_ = static_cast<int>(counting.Int64(0));
+        countVersion_ = version;
+        countWrites_ = Database().Writes();
+    }
+    return *count_;
+}
+
+bool TableRecordset::BOF() {
+    Settle();
+    return place_ == Place::Empty;
+}
+
+bool TableRecordset::AtEOF() {
+    Settle();
+    return place_ == Place::Empty || place_ == Place::AtEnd;
+}
+
+void TableRecordset::Index(std::string_view name) {
+    Leave();
+    pending_.reset();
+    Statement find = Database().Prepare(
+        "SELECT s.name, x.cid FROM sqlite_schema s, pragma_index_xinfo(s.name) x "
+        "WHERE s.type = 'index' AND s.tbl_name = ?1 AND s.name = ?2 COLLATE NOCASE "
+        "AND x.seqno = 0 AND x.cid >= 0");
+    find.Bind(1, table_);
+    find.Bind(2, IndexName(table_, name));
+    if (!find.Step()) Raise(ErrorNumber::IndexNotFound);
+    index_ = find.Text(0);
+    key_ = static_cast<int>(find.Int64(1));
+    statements_ = {};
+    place_ = Place::Nowhere;
+}
+
+void TableRecordset::Seek(const Value& key) {
+    if (!Indexed()) Raise(ErrorNumber::NoIndexSet);
+    pending_.reset();
+    const Column& column = columns_[At(key_)];
+    const Value wanted = Converted(key, column);
+    bool found = false;
+    if (column.type == FieldType::Date && !wanted.IsNull()) {
+        const auto day = static_cast<double>(wanted.ToDate().Day());
+        found = Fetch(Query::FindDay, day, day + 1);
+    } else {
+        found = Fetch(Query::Find, ToCell(wanted));
+    }
+    noMatch_ = !found;
+    if (noMatch_) place_ = Place::Nowhere;
+}
+
+void TableRecordset::MoveFirst() {
+    pending_.reset();
+    if (Fetch(Query::First)) return;
+    place_ = Place::Empty;
+    Raise(ErrorNumber::NoCurrentRecord);
+}
+
+void TableRecordset::MoveLast() {
+    pending_.reset();
+    if (Fetch(Query::Last)) return;
+    place_ = Place::Empty;
+    Raise(ErrorNumber::NoCurrentRecord);
+}
+
+// Binds the walk that goes on behind the position.
+TableRecordset::Query TableRecordset::Enter() {
+    Statement& statement = Prepared(Query::Behind);
+    statement.Bind(1, row_);
+    if (Indexed()) statement.Bind(2, rowKey_);
+    return Query::Behind;
+}
+
+TableRecordset::Query TableRecordset::EnterNextKey() {
+    if (std::holds_alternative<std::monostate>(rowKey_)) {
+        Prepared(Query::NextKeyBehindNull);
+        return Query::NextKeyBehindNull;
+    }
+    Prepared(Query::NextKey).Bind(1, rowKey_);
+    return Query::NextKey;
+}
+
+// Rows whose numbers do not rise where they must are those of a damaged file, which may go round for ever.
+bool TableRecordset::StepWalk(Query query) {
+    Statement& statement = Prepared(query);
+    if (!statement.Step()) return false;
+    const std::int64_t row = statement.Int64(0);
+    if (query == Query::Behind && row <= row_) {
+        statement.Reset();
+        Raise(ErrorNumber::NotADatabase);
+    }
+    row_ = row;
+    return true;
+}
+
+void TableRecordset::MoveNext() {
+    pending_.reset();
+    Settle();
+    if (place_ != Place::Row && place_ != Place::Deleted) Raise(ErrorNumber::NoCurrentRecord);
+    // A step that fails takes the row it stood on with it, unless that row is kept in memory.
+    if (walk_) place_ = Place::Nowhere;
+    std::optional<Query> walk = std::exchange(walk_, std::nullopt);
+    if (!walk) walk = Enter();
+    bool onRow = StepWalk(*walk);
+    if (!onRow && Indexed() && *walk == Query::Behind) {
+        walk = EnterNextKey();
+        onRow = StepWalk(*walk);
+    }
+    place_ = onRow ? Place::Row : Place::AtEnd;
+    if (onRow) walk_ = walk;
+}
+
+Value TableRecordset::Get(int ordinal) {
+    if (pending_) return pending_->values[At(ordinal)];
+    if (walk_) return ReadValue(Prepared(*walk_), ordinal + 1, columns_[At(ordinal)].type);
+    NeedRow();
+    return values_[At(ordinal)];
+}
+
+void TableRecordset::Set(int ordinal, const Value& value) {
+    if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
+    pending_->values[At(ordinal)] = Converted(value, columns_[At(ordinal)]);
+    pending_->touched[At(ordinal)] = true;
+}
+
+void TableRecordset::AddNew() {
+    Leave();
+    Pending pending{true, {}, std::vector<bool>(columns_.size(), true)};
+    for (const Column& column : columns_) pending.values.push_back(Converted({}, column));
+    pending_ = std::move(pending);
+}
+
+void TableRecordset::Edit() {
+    Leave();
+    pending_.reset();
+    NeedRow();
+    // What another connection wrote into the row since shows now.
+    if (!Fetch(Query::ByRow, row_)) {
+        place_ = Place::Deleted;
+        Raise(ErrorNumber::RecordDeleted);
+    }
+    pending_ = Pending{false, values_, std::vector<bool>(columns_.size(), false)};
+}
+
+Statement TableRecordset::InsertOf(const Pending& pending) {
+    std::string marks;
+    for (std::size_t i = 0; i < columns_.size(); ++i) marks += i == 0 ? "?" : ", ?";
+    Statement insert = Database().Prepare("INSERT INTO " + Quoted(table_) + " (" + ListOf(columns_) +
+                                          ") VALUES (" + marks + ")");
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        insert.Bind(static_cast<int>(i) + 1, ToCell(pending.values[i]));
+    return insert;
+}
+
+Statement TableRecordset::UpdateOf(const Pending& pending) {
+    std::string sets;
+    for (std::size_t i = 0; i < columns_.size(); ++i) {
+        if (!pending.touched[i]) continue;
+        sets += (sets.empty() ? "" : ", ") + Quoted(columns_[i].name) + " = ?";
+    }
+    Statement update =
+        Database().Prepare("UPDATE " + Quoted(table_) + " SET " + sets + " WHERE " + rowid_ + " = ?");
+    int parameter = 0;
+    for (std::size_t i = 0; i < columns_.size(); ++i)
+        if (pending.touched[i]) update.Bind(++parameter, ToCell(pending.values[i]));
+    update.Bind(++parameter, row_);
+    return update;
+}
+
+// SQLite lets any number of Nulls into a unique index.
+void TableRecordset::RefuseNullKeys(const Pending& pending) {
+    if (!primary_) {
+        primary_.emplace();
+        Statement list = Database().Prepare(
+            "SELECT x.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x "
+            "WHERE i.\"unique\" AND i.origin = 'c' AND x.seqno = 0 AND x.cid >= 0");
+        list.Bind(1, table_);
+        while (list.Step()) primary_->push_back(static_cast<int>(list.Int64(0)));
+    }
+    for (const int ordinal : *primary_) {
+        if (pending.touched[At(ordinal)] && pending.values[At(ordinal)].IsNull())
+            Raise(ErrorNumber::NullInKey);
+    }
+}
+
+int TableRecordset::Write(Statement& statement, int added) {
+    const bool counted = count_ && countWrites_ == Database().Writes();
+    const int changed = Database().Write(statement);
+    if (counted) {
+        *count_ += added * changed;
+        countWrites_ = Database().Writes();
+    }
+    return changed;
+}
+
+void TableRecordset::Update() {
+    if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
+    RefuseNullKeys(*pending_);
+    if (pending_->adding) {
+        Statement insert = InsertOf(*pending_);
+        Write(insert, 1);
+    } else if (pending_->touched != std::vector<bool>(columns_.size(), false)) {
+        Statement update = UpdateOf(*pending_);
+        if (Write(update, 0) == 0) Raise(ErrorNumber::RecordDeleted);
+        values_ = std::move(pending_->values);
+        if (Indexed()) rowKey_ = ToCell(values_[At(key_)]);
+    }
+    pending_.reset();
+}
+
+void TableRecordset::Delete() {
+    Leave();
+    pending_.reset();
+    NeedRow();
+    Statement remove = Database().Prepare("DELETE FROM " + Quoted(table_) + " WHERE " + rowid_ + " = ?1");
+    remove.Bind(1, row_);
+    const int removed = Write(remove, -1);
+    place_ = Place::Deleted;
+    if (removed == 0) Raise(ErrorNumber::RecordDeleted);
+}
+
+}  // namespace sorvane::Dao
