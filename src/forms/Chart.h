@@ -9,6 +9,10 @@
 
 #include "forms/Control.h"
 
+class QAbstractBarSeries;
+class QChart;
+class QChartView;
+
 namespace sorvane::forms {
 
 // A grid of numbers: rows along the axis, one series of bars a column. Rows and columns count from 1; an
@@ -36,14 +40,14 @@ class Chart : public QWidget, public Control {
     int Column() const { return column_; }
     void SetColumn(int column);
 
-    double Data() const;
+    double Data();
     void SetData(double value);
     // A text reads as its number: "       1,234.50" is 1234.5; one that is no number raises 13.
     void SetData(std::string_view text);
     void SetData(const char* text) { SetData(std::string_view(text)); }
 
     // The legend of the column; without any label there is no legend.
-    std::string ColumnLabel() const;
+    std::string ColumnLabel();
     void SetColumnLabel(std::string_view label);
     // Labels of the rows from the first on; rows without one bear their number.
     void SetRowLabels(const std::vector<std::string>& labels);
@@ -55,24 +59,28 @@ class Chart : public QWidget, public Control {
   protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
   private:
     struct Series {
         std::string label;
         std::vector<double> values;
     };
-    class View;
+    Series& InHand();
     double& Cell();
+    std::string RowLabel(std::size_t row) const;  // from 0
     void Changed();
-    void Build();
+    void Draw();
+    QChart* NewChart();
+    QAbstractBarSeries* NewSeries();
+    void AddAxes(QChart& chart, const QColor& ink) const;
 
     std::string title_, barsCaption_, valuesCaption_;
     std::vector<std::string> rowLabels_;
     std::vector<Series> columns_;
     int row_ = 1, column_ = 1;
-    bool stale_ = true;
-    View* view_ = nullptr;
+    bool stale_ = true;     // what is drawn, if anything, is not what the cells say
+    bool waiting_ = false;  // drawing will come once the handlers are done
+    QChartView* view_ = nullptr;
 };
 
 }  // namespace sorvane::forms

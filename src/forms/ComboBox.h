@@ -31,8 +31,6 @@ class ComboBox : public KeyFilter<QComboBox>, public Control {
 
     // Change: the text has become another one, by the user or by the program.
     void OnChange(std::function<void()> handler) { change_ = std::move(handler); }
-    // Click: the user has chosen an entry of the list.
-    void OnClick(std::function<void()> handler) { click_ = std::move(handler); }
     // Selects the whole text of an editable one.
     void SelectAll();
 
@@ -41,7 +39,7 @@ class ComboBox : public KeyFilter<QComboBox>, public Control {
 
   private:
     void TextMayHaveChanged();
-    std::function<void()> change_, click_;
+    std::function<void()> change_;
     QString lastText_;
     bool filling_ = false;
 };

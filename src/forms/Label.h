@@ -7,7 +7,7 @@
 
 namespace sorvane::forms {
 
-// Plain text; '&' before a letter marks the access key of the label's buddy.
+// Plain text. '&' before a letter marks the access key when the label has a buddy.
 class Label : public QLabel, public Control {
   public:
     explicit Label(std::string_view name, std::string_view caption = {});
@@ -21,10 +21,6 @@ class Label : public QLabel, public Control {
 
   protected:
     bool event(QEvent* event) override;
-
-  private:
-    void Paint();
-    std::string caption_;
 };
 
 }  // namespace sorvane::forms

@@ -16,6 +16,8 @@ class Picture : public QWidget, public Control {
     explicit Picture(std::string_view name, std::string_view svg = {});
     ~Picture() override;
     void SetSvg(std::string_view svg);
+    // A drawing from a file or from a resource (":/...").
+    void SetFile(std::string_view path);
     QSize sizeHint() const override;
 
   protected:
@@ -23,6 +25,7 @@ class Picture : public QWidget, public Control {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void Loaded();
     std::unique_ptr<QSvgRenderer> drawing_;
 };
 

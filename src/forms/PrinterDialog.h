@@ -36,6 +36,7 @@ class PrinterDialog final : public Printer {
     struct Document;
     Document& InHand();
     QPrinter& Device();
+    void CheckDevice();
 
     Chooser chooser_;
     int points_ = 12;

@@ -3,7 +3,10 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <exception>
+#include <functional>
 #include <list>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -19,9 +22,12 @@ class Runtime {
     struct Level {
         QPointer<QWidget> window;               // null: a box, or a window that was left
         QPointer<QWidget> active;               // the control that has the focus, as the handlers know it
+        QPointer<QWidget> lost;                 // the widget that had to give the focus up
         std::vector<QPointer<QWidget>> wanted;  // focus asked for by handlers
         int depth = 0;                          // handlers running on this level
         bool moving = false;                    // a LostFocus is running
+        int hold = 0;                           // moves of the focus are kept
+        bool held = false;                      // one was kept
     };
 
   public:
@@ -44,8 +50,10 @@ class Runtime {
 
     // Control::SetFocus.
     void SetFocus(QWidget& widget);
-    // Takes the focus from a widget and what is in it, before it is hidden or disabled.
-    void TakeFocusFrom(QWidget& widget);
+    // Hides or disables a widget by `change`. If the focus is on it or in it, the focus goes nowhere until
+    // the handler in hand has ended, then to Window::SetFallbackFocus unless a handler asked for another
+    // place.
+    void WithoutFocus(QWidget& widget, const std::function<void()>& change);
     // Qt has moved the focus.
     void FocusChanged(QWidget* now);
     // Fires LostFocus and GotFocus for the moves since the last call.
@@ -62,6 +70,7 @@ class Runtime {
         bool Release();
 
       private:
+        Level& level_;
         bool released_ = false;
     };
 
@@ -75,6 +84,8 @@ class Runtime {
         Modal& operator=(const Modal&) = delete;
         // The window is left: no events of focus any more.
         void Detach();
+        // The window is shown again.
+        void Attach(QWidget& window) { level_->window = &window; }
 
       private:
         std::list<Level>::iterator level_;
@@ -113,8 +124,7 @@ class Runtime {
     void GiveWanted(Level& level);
 
     std::list<Level> levels_;
-    int shown_ = 0, hold_ = 0;
-    bool held_ = false;
+    int shown_ = 0;
     Press* press_ = nullptr;
 };
 

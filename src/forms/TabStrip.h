@@ -25,7 +25,7 @@ class TabStrip : public QTabWidget, public Control {
     void OnClick(std::function<void()> handler) { click_ = std::move(handler); }
 
   protected:
-    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     class Bar;

@@ -29,6 +29,7 @@ class TextBox : public KeyFilter<QLineEdit>, public Control {
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
     std::function<void()> change_;

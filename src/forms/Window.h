@@ -32,7 +32,7 @@ class Window : public QWidget {
     void SetCaption(std::string_view caption);
 
     // Shows the window in front of the one that is in front now, which takes no input meanwhile, and returns
-    // when it has been left by Unload(). Does nothing while it is shown already.
+    // when it has been left by Unload(). Does nothing while an earlier call has not returned.
     void ShowModal();
     // Shows the window and returns at once: for the main window.
     void Show();
@@ -66,8 +66,8 @@ class Window : public QWidget {
   private:
     friend class Runtime;
     void Appear(Qt::WindowModality modality);
-    // The widget that takes the focus when the control that had it can't keep it; null when there is none.
-    QWidget* Fallback() const;
+    // The widget that takes the focus when `lost` (may be null) can't keep it; null when there is none.
+    QWidget* Fallback(QWidget* lost);
     void TitleToSystem();
 
     std::unique_ptr<Runtime::Modal> level_;

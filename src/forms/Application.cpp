@@ -1,0 +1,39 @@
+#include "forms/Application.h"
+
+#include <QMouseEvent>
+#include <QWidget>
+#include <utility>
+
+namespace sorvane::forms {
+
+namespace {
+
+bool IsPress(const QObject& receiver, const QEvent& event) {
+    return receiver.isWidgetType() &&
+           (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick);
+}
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setQuitOnLastWindowClosed(false);
+    installEventFilter(this);
+    connect(this, &QApplication::focusChanged, this,
+            [this](QWidget*, QWidget* now) { runtime_.FocusChanged(now); });
+}
+
+// Qt gives the focus inside notify, before the widget gets the press.
+bool Application::notify(QObject* receiver, QEvent* event) {
+    if (!IsPress(*receiver, *event)) return QApplication::notify(receiver, event);
+    Runtime::Press press{static_cast<QWidget*>(receiver), runtime_.shown_};
+    Runtime::Press* outer = std::exchange(runtime_.press_, &press);
+    const bool done = QApplication::notify(receiver, event);
+    runtime_.press_ = outer;
+    return done;
+}
+
+bool Application::eventFilter(QObject* receiver, QEvent* event) {
+    return IsPress(*receiver, *event) && runtime_.press_ && runtime_.press_->shown != runtime_.shown_;
+}
+
+}  // namespace sorvane::forms

@@ -1,0 +1,254 @@
+#include "forms/Chart.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QLegend>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QValueAxis>
+#include <algorithm>
+#include <cmath>
+
+#include "forms/Look.h"
+#include "forms/Utf8.h"
+#include "platform/Currency.h"
+#include "platform/RunTimeError.h"
+#include "platform/Text.h"
+
+namespace sorvane::forms {
+
+namespace {
+
+// With more bars than this the labels stand upright.
+constexpr int MostLevelLabels = 20;
+
+std::string ValueText(double value) {
+    const auto amount = Currency::FromTenThousandths(std::llround(value * Currency::Scale));
+    std::string text = Format(amount, "###,###,##0.00");
+    if (text.ends_with(".00")) text.resize(text.size() - 3);
+    return text;
+}
+
+// The axis ends at a round number that divides into steps of 1, 2 or 5 times a power of ten.
+struct Scale {
+    double top;
+    int steps;
+};
+Scale ScaleFor(double largest, bool whole) {
+    constexpr int MostSteps = 8;
+    double step = 1;
+    if (!whole)
+        while (step * MostSteps / 10 > largest && step > 0.01) step /= 10;
+    for (int turn = 0; step * MostSteps < largest; ++turn) step *= turn % 3 == 1 ? 2.5 : 2;
+    const int steps = std::max(1, static_cast<int>(std::ceil(largest / step)));
+    return {step * steps, steps};
+}
+
+}  // namespace
+
+Chart::Chart(std::string_view name) : Control(*this, name), rowLabels_(1), columns_(1) {
+    columns_[0].values.resize(1);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+Chart::~Chart() = default;
+
+void Chart::SetTitle(std::string_view title) {
+    title_ = title;
+    setAccessibleName(ToQt(title));
+    Changed();
+}
+std::string Chart::Title() const { return title_; }
+
+void Chart::SetAxes(std::string_view bars, std::string_view values) {
+    barsCaption_ = bars;
+    valuesCaption_ = values;
+    Changed();
+}
+
+void Chart::SetRowCount(int count) {
+    if (count < 0) Raise(ErrorNumber::SubscriptOutOfRange);
+    rowLabels_.resize(static_cast<std::size_t>(count));
+    for (Series& column : columns_) column.values.resize(rowLabels_.size());
+    Changed();
+}
+
+void Chart::SetColumnCount(int count) {
+    if (count < 0) Raise(ErrorNumber::SubscriptOutOfRange);
+    columns_.resize(static_cast<std::size_t>(count));
+    for (Series& column : columns_) column.values.resize(rowLabels_.size());
+    Changed();
+}
+
+void Chart::SetRow(int row) {
+    if (row < 1 || row > RowCount()) Raise(ErrorNumber::SubscriptOutOfRange);
+    row_ = row;
+}
+
+void Chart::SetColumn(int column) {
+    if (column < 1 || column > ColumnCount()) Raise(ErrorNumber::SubscriptOutOfRange);
+    column_ = column;
+}
+
+Chart::Series& Chart::InHand() {
+    if (column_ > ColumnCount()) Raise(ErrorNumber::SubscriptOutOfRange);
+    return columns_[static_cast<std::size_t>(column_ - 1)];
+}
+
+double& Chart::Cell() {
+    if (row_ > RowCount()) Raise(ErrorNumber::SubscriptOutOfRange);
+    return InHand().values[static_cast<std::size_t>(row_ - 1)];
+}
+
+double Chart::Data() { return Cell(); }
+
+void Chart::SetData(double value) {
+    Cell() = value;
+    Changed();
+}
+
+void Chart::SetData(std::string_view text) { SetData(CDbl(text)); }
+
+std::string Chart::ColumnLabel() { return InHand().label; }
+
+void Chart::SetColumnLabel(std::string_view label) {
+    InHand().label = label;
+    Changed();
+}
+
+void Chart::SetRowLabels(const std::vector<std::string>& labels) {
+    for (std::size_t row = 0; row < std::min(labels.size(), rowLabels_.size()); ++row)
+        rowLabels_[row] = labels[row];
+    Changed();
+}
+
+void Chart::Clear() {
+    for (Series& column : columns_) std::fill(column.values.begin(), column.values.end(), 0.0);
+    Changed();
+}
+
+QSize Chart::sizeHint() const { return QSize(48, 24) * fontMetrics().height() / 2; }
+
+void Chart::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (stale_) Draw();
+}
+
+void Chart::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) Changed();
+}
+
+void Chart::Changed() {
+    stale_ = true;
+    if (!isVisible() || waiting_) return;
+    waiting_ = true;  // many cells change in a row: one drawing for all of them
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            waiting_ = false;
+            if (stale_ && isVisible()) Draw();
+        },
+        Qt::QueuedConnection);
+}
+
+std::string Chart::RowLabel(std::size_t row) const {
+    if (!rowLabels_[row].empty() || RowCount() == 1) return rowLabels_[row];
+    return std::to_string(row + 1);
+}
+
+void Chart::Draw() {
+    if (!view_) {
+        view_ = new QChartView(this);
+        view_->setFrameShape(QFrame::NoFrame);
+        view_->setFocusPolicy(Qt::NoFocus);
+        view_->setRenderHint(QPainter::Antialiasing);
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(view_);
+    }
+    const std::unique_ptr<QChart> old(view_->chart());
+    view_->setChart(NewChart());
+    stale_ = false;
+}
+
+QChart* Chart::NewChart() {
+    auto* chart = new QChart;
+    const QColor paper = palette().color(QPalette::Base), ink = palette().color(QPalette::Text);
+    QFont heading = font();
+    heading.setBold(true);
+    chart->setBackgroundBrush(paper);
+    chart->setBackgroundRoundness(0);
+    chart->setTitle(ToQt(title_));
+    chart->setTitleFont(heading);
+    chart->setTitleBrush(ink);
+    chart->addSeries(NewSeries());
+    AddAxes(*chart, ink);
+    const bool labelled =
+        std::any_of(columns_.begin(), columns_.end(), [](auto& c) { return !c.label.empty(); });
+    chart->legend()->setVisible(labelled);
+    chart->legend()->setFont(font());
+    chart->legend()->setLabelColor(ink);
+    chart->legend()->setAlignment(Qt::AlignBottom);
+    return chart;
+}
+
+QAbstractBarSeries* Chart::NewSeries() {
+    auto* series = new QBarSeries;
+    series->setBarWidth(0.8);
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+        auto* set = new QBarSet(ToQt(columns_[column].label));
+        set->setColor(Look::Series(palette(), static_cast<int>(column)));
+        set->setBorderColor(Look::Series(palette(), static_cast<int>(column)));
+        for (const double value : columns_[column].values) *set << value;
+        series->append(set);
+    }
+    connect(series, &QAbstractBarSeries::hovered, this, [this](bool on, int row, QBarSet* set) {
+        if (!on) return QToolTip::hideText();
+        const std::string label = RowLabel(static_cast<std::size_t>(row));
+        const std::string name = label.empty() ? ToUtf8(set->label()) : label;
+        QToolTip::showText(QCursor::pos(), ToQt(name + ": " + ValueText(set->at(row))), this);
+    });
+    return series;
+}
+
+void Chart::AddAxes(QChart& chart, const QColor& ink) const {
+    auto* bars = new QBarCategoryAxis;
+    for (std::size_t row = 0; row < rowLabels_.size(); ++row) bars->append(ToQt(RowLabel(row)));
+    bars->setTitleText(ToQt(barsCaption_));
+    if (RowCount() > MostLevelLabels) bars->setLabelsAngle(-90);
+    bars->setGridLineVisible(false);
+
+    double largest = 1;
+    bool whole = true;
+    for (const Series& column : columns_)
+        for (const double value : column.values) {
+            largest = std::max(largest, value);
+            whole = whole && value == std::floor(value);
+        }
+    auto* values = new QValueAxis;
+    const Scale scale = ScaleFor(largest, whole);
+    values->setRange(0, scale.top);
+    values->setTickCount(scale.steps + 1);
+    values->setLabelFormat(scale.top / scale.steps == std::floor(scale.top / scale.steps) ? "%.0f" : "%.2f");
+    values->setTitleText(ToQt(valuesCaption_));
+
+    QColor grid = ink;
+    grid.setAlphaF(0.25f);
+    for (auto [axis, side] :
+         {std::pair<QAbstractAxis*, Qt::AlignmentFlag>{bars, Qt::AlignBottom}, {values, Qt::AlignLeft}}) {
+        axis->setLabelsColor(ink);
+        axis->setLabelsFont(font());
+        axis->setTitleFont(font());
+        axis->setTitleBrush(ink);
+        axis->setLinePenColor(ink);
+        axis->setGridLineColor(grid);
+        chart.addAxis(axis, side);
+        for (QAbstractSeries* series : chart.series()) series->attachAxis(axis);
+    }
+}
+
+}  // namespace sorvane::forms

@@ -1,0 +1,178 @@
+#include "forms/ListBox.h"
+
+#include <QAbstractListModel>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "forms/Look.h"
+#include "forms/Utf8.h"
+#include "platform/RunTimeError.h"
+
+namespace sorvane::forms {
+
+class ListBox::Model : public QAbstractListModel {
+  public:
+    explicit Model(const QWidget& view) : view_(view) {}
+
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+    }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (!index.isValid()) return {};
+        const Row& row = rows_[static_cast<std::size_t>(index.row())];
+        switch (role) {
+            case Qt::DisplayRole:
+                return row.text;
+            case Qt::SizeHintRole:
+                return RowSize();
+            case Qt::DecorationRole:
+                return isWinner_ ? QVariant(row.winner ? star_ : blank_) : QVariant();
+            case Qt::FontRole:
+                return row.winner ? QVariant(Heavy()) : QVariant();
+            case Qt::AccessibleDescriptionRole:
+                return row.winner ? QVariant(QStringLiteral("Winner")) : QVariant();
+            default:
+                return {};
+        }
+    }
+    const QString& Text(int row) const { return rows_[static_cast<std::size_t>(row)].text; }
+
+    void Add(std::string_view text) {
+        const int row = rowCount();
+        beginInsertRows({}, row, row);
+        rows_.push_back({ToQt(text), isWinner_ && isWinner_(row, text)});
+        if (rows_.back().text.size() > rows_[widest_].text.size()) widest_ = rows_.size() - 1;
+        endInsertRows();
+    }
+    void Clear() {
+        beginResetModel();
+        rows_.clear();
+        widest_ = 0;
+        endResetModel();
+    }
+    void SetWinners(std::function<bool(int, std::string_view)> isWinner) {
+        beginResetModel();
+        isWinner_ = std::move(isWinner);
+        for (int i = 0; i < rowCount(); ++i)
+            rows_[static_cast<std::size_t>(i)].winner = isWinner_ && isWinner_(i, ToUtf8(Text(i)));
+        endResetModel();
+        PaletteOrFontChanged();
+    }
+    void PaletteOrFontChanged() {
+        if (!isWinner_) return;
+        const int side = view_.fontMetrics().height();
+        star_ = Look::Winner(view_.palette(), side);
+        QPixmap none(side, side);
+        none.fill(Qt::transparent);
+        blank_ = QIcon(none);
+    }
+
+  private:
+    struct Row {
+        QString text;
+        bool winner;
+    };
+    QFont Heavy() const {
+        QFont font = view_.font();
+        font.setBold(true);
+        return font;
+    }
+    // One size for all rows; the list asks for the first row only.
+    QSize RowSize() const {
+        const QFontMetrics metrics(Heavy());
+        const int icon = isWinner_ ? metrics.height() : 0;
+        return {metrics.horizontalAdvance(rows_[widest_].text) + icon + metrics.height(),
+                metrics.height() * 5 / 4};
+    }
+
+    const QWidget& view_;
+    std::vector<Row> rows_;
+    std::size_t widest_ = 0;
+    std::function<bool(int, std::string_view)> isWinner_;
+    QIcon star_, blank_;
+};
+
+ListBox::ListBox(std::string_view name) : Control(*this, name), model_(std::make_unique<Model>(*this)) {
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setModel(model_.get());
+}
+
+ListBox::~ListBox() = default;
+
+void ListBox::AddItem(std::string_view text) { model_->Add(text); }
+void ListBox::Clear() { model_->Clear(); }
+int ListBox::ListCount() const { return model_->rowCount(); }
+
+std::string ListBox::Text(int row) const {
+    if (row < 0 || row >= ListCount()) Raise(ErrorNumber::SubscriptOutOfRange);
+    return ToUtf8(model_->Text(row));
+}
+
+// The current row of the view is where the keyboard is, selected or not.
+int ListBox::ListIndex() const {
+    const auto rows = selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void ListBox::SetListIndex(int row) {
+    if (row >= ListCount()) return;
+    if (row < 0) selectionModel()->clear();
+    else setCurrentIndex(model_->index(row));
+}
+
+void ListBox::SetHint(std::string_view text) {
+    hint_ = ToQt(text);
+    setAccessibleDescription(hint_);
+    viewport()->update();
+}
+
+void ListBox::SetWinners(std::function<bool(int, std::string_view)> isWinner) {
+    model_->SetWinners(std::move(isWinner));
+}
+
+void ListBox::SetFixedPitch() { setFont(Look::FixedFont()); }
+
+void ListBox::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    QListView::mousePressEvent(event);
+}
+
+void ListBox::mouseReleaseEvent(QMouseEvent* event) {
+    QListView::mouseReleaseEvent(event);
+    if (std::exchange(pressed_, false) && indexAt(event->pos()).isValid() && ListIndex() >= 0) Fire(click_);
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    pressed_ = false;
+    QListView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) Fire(dblClick_);
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    const int before = ListIndex();
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (before >= 0) Fire(dblClick_);
+        return;
+    }
+    QListView::keyPressEvent(event);
+    if (const int now = ListIndex(); now >= 0 && now != before) Fire(click_);
+}
+
+void ListBox::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (ListCount() > 0 || hint_.isEmpty()) return;
+    QPainter painter(viewport());
+    painter.setPen(Look::Hint(palette()));
+    const int margin = Look::Gap(*this);
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignCenter | Qt::TextWordWrap, hint_);
+}
+
+void ListBox::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (model_ && (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange))
+        model_->PaletteOrFontChanged();
+}
+
+}  // namespace sorvane::forms

@@ -1,0 +1,122 @@
+#include "forms/Look.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
+#include <QWidget>
+#include <algorithm>
+#include <cmath>
+
+namespace sorvane::forms::Look {
+
+namespace {
+
+int FontHeights(const QWidget& widget, double heights) {
+    return std::max(1, static_cast<int>(std::lround(widget.fontMetrics().height() * heights)));
+}
+
+double Linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(const QColor& colour) {
+    return 0.2126 * Linear(colour.redF()) + 0.7152 * Linear(colour.greenF()) +
+           0.0722 * Linear(colour.blueF());
+}
+
+QColor Mix(const QColor& one, const QColor& other, double share) {
+    const auto mix = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                            mix(one.blueF(), other.blueF()));
+}
+
+// Lines and bars need to be seen, not read.
+constexpr double LineContrast = 3.0;
+
+}  // namespace
+
+int Space(const QWidget& widget) { return FontHeights(widget, 0.4); }
+int Gap(const QWidget& widget) { return FontHeights(widget, 0.8); }
+int Margin(const QWidget& widget) { return FontHeights(widget, 0.8); }
+int BallSize(const QWidget& widget) { return FontHeights(widget, 2.4); }
+int DigitsWidth(const QWidget& widget, int digits) {
+    return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + FontHeights(widget, 1.2);
+}
+
+QFont FixedFont(int points) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setStyleHint(QFont::TypeWriter);
+    font.setFixedPitch(true);
+    font.setPointSizeF(points > 0 ? points : QApplication::font().pointSizeF());
+    return font;
+}
+
+double Contrast(const QColor& one, const QColor& other) {
+    const double a = Luminance(one), b = Luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QColor Readable(QColor ink, const QColor& paper, double ratio) {
+    const QColor end = Contrast(Qt::black, paper) > Contrast(Qt::white, paper) ? Qt::black : Qt::white;
+    for (double share = 0.1; Contrast(ink, paper) < ratio && share <= 1.0; share += 0.1)
+        ink = Mix(ink, end, share);
+    return ink;
+}
+
+Ball BallColours(const QPalette& palette, bool ticked, bool enabled) {
+    const QColor window = palette.color(QPalette::Active, QPalette::Window);
+    QColor paper = window;
+    if (ticked) paper = palette.color(QPalette::Active, QPalette::Highlight);
+    else if (enabled) paper = palette.color(QPalette::Active, QPalette::Base);
+    if (ticked && !enabled) paper = Mix(paper, window, 0.7);
+    QColor ink =
+        palette.color(QPalette::Active, ticked && enabled ? QPalette::HighlightedText : QPalette::Text);
+    if (!enabled) ink = palette.color(QPalette::Disabled, QPalette::Text);
+    const QColor ring = palette.color(QPalette::Active, enabled ? QPalette::Dark : QPalette::Mid);
+    return {paper, Readable(ink, paper), Readable(ring, window, LineContrast)};
+}
+
+QColor FocusRing(const QPalette& palette) {
+    return Readable(palette.color(QPalette::Active, QPalette::Highlight), palette.color(QPalette::Window),
+                    LineContrast);
+}
+
+QColor Hint(const QPalette& palette) {
+    const QColor paper = palette.color(QPalette::Base);
+    return Readable(palette.color(QPalette::PlaceholderText), paper);
+}
+
+QColor Series(const QPalette& palette, int column) {
+    const QColor paper = palette.color(QPalette::Base);
+    QColor colour = palette.color(QPalette::Active, QPalette::Highlight);
+    // A turn of the hue, and lightness too, so that the columns differ without colour.
+    if (column > 0)
+        colour = QColor::fromHslF(std::fmod(colour.hslHueF() + 0.45f * static_cast<float>(column), 1.0f),
+                                  0.55f, 0.65f);
+    return Readable(colour, paper, LineContrast);
+}
+
+QIcon Winner(const QPalette& palette, int size) {
+    const auto star = [size](const QColor& colour) {
+        QPainterPath path;
+        for (int i = 0; i < 10; ++i) {
+            const double angle = M_PI * (i / 5.0 - 0.5), radius = size * (i % 2 ? 0.2 : 0.48);
+            const QPointF at(size / 2.0 + radius * std::cos(angle), size / 2.0 + radius * std::sin(angle));
+            i == 0 ? path.moveTo(at) : path.lineTo(at);
+        }
+        QPixmap picture(size * 4, size * 4);  // sharp on screens of any scale
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(4, 4);
+        painter.fillPath(path, colour);
+        return picture;
+    };
+    QIcon icon;
+    icon.addPixmap(star(Readable(palette.color(QPalette::Highlight), palette.color(QPalette::Base))));
+    icon.addPixmap(star(palette.color(QPalette::HighlightedText)), QIcon::Selected);
+    return icon;
+}
+
+}  // namespace sorvane::forms::Look

@@ -1,0 +1,65 @@
+#include "forms/MessageBoxes.h"
+
+#include <QMessageBox>
+
+#include "forms/Runtime.h"
+#include "forms/Utf8.h"
+
+namespace sorvane::forms {
+
+namespace {
+
+QMessageBox::StandardButtons ButtonsOf(int style) {
+    switch (style & 0x0F) {
+        case BoxStyle::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case BoxStyle::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case BoxStyle::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+QMessageBox::Icon IconOf(int style) {
+    switch (style & 0xF0) {
+        case BoxStyle::Stop:
+            return QMessageBox::Critical;
+        case BoxStyle::Exclamation:
+            return QMessageBox::Warning;
+        default:
+            return QMessageBox::NoIcon;
+    }
+}
+
+Answer AnswerOf(int button) {
+    switch (button) {
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Answer::Ok;
+    }
+}
+
+}  // namespace
+
+Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view title) {
+    QWidget* owner = Runtime::Current().Front();
+    const Runtime::Modal level;
+    // A carriage return would be a line break of its own on the screen.
+    QMessageBox box(IconOf(style), ToQt(title), ToQt(text).replace("\r\n", "\n"), ButtonsOf(style), owner);
+    box.setTextFormat(Qt::PlainText);
+    for (const auto way : {QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::No})
+        if (auto* button = box.button(way)) {
+            box.setEscapeButton(button);
+            break;
+        }
+    return AnswerOf(box.exec());
+}
+
+}  // namespace sorvane::forms

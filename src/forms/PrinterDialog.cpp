@@ -1,0 +1,120 @@
+#include "forms/PrinterDialog.h"
+
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <algorithm>
+#include <utility>
+
+#include "forms/Look.h"
+#include "forms/Runtime.h"
+#include "forms/Utf8.h"
+#include "platform/RunTimeError.h"
+
+namespace sorvane::forms {
+
+namespace {
+
+constexpr double TwipsPerInch = 1440;
+constexpr double EdgeTwips = TwipsPerInch / 2;
+constexpr int LargestFont = 500;
+
+bool AskTheSystem(QPrinter& printer) {
+    QWidget* owner = Runtime::Current().Front();
+    const Runtime::Modal level;
+    QPrintDialog dialog(&printer, owner);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+}  // namespace
+
+struct PrinterDialog::Document {
+    explicit Document(QPrinter& device) : printer(device) {
+        printer.setFullPage(true);
+        edge = EdgeTwips / TwipsPerInch * printer.resolution();
+        y = edge;
+        if (!painter.begin(&printer)) Raise(ErrorNumber::PrinterError);
+    }
+    void PrintLine(const QString& line, int points, double left) {
+        painter.setFont(Look::FixedFont(points));
+        const QFontMetricsF metrics = painter.fontMetrics();
+        const double room = printer.width() - left - edge / 2;
+        const auto fits = std::max(1, static_cast<int>(room / metrics.horizontalAdvance(QLatin1Char('0'))));
+        for (qsizetype from = 0; from == 0 || from < line.size(); from += fits) {
+            if (y + metrics.lineSpacing() > printer.height() - edge) BreakPage();
+            painter.drawText(QPointF(left, y + metrics.ascent()), line.mid(from, fits));
+            y += metrics.lineSpacing();
+        }
+    }
+    void BreakPage() {
+        if (!printer.newPage()) Raise(ErrorNumber::PrinterError);
+        y = edge;
+    }
+    bool Failed() const {
+        return printer.printerState() == QPrinter::Error || printer.printerState() == QPrinter::Aborted;
+    }
+
+    QPrinter& printer;
+    QPainter painter;
+    double edge, y;  // device pixels
+};
+
+PrinterDialog::PrinterDialog() : PrinterDialog(AskTheSystem) {}
+PrinterDialog::PrinterDialog(Chooser chooser) : chooser_(std::move(chooser)), leftEdge_(EdgeTwips) {}
+PrinterDialog::~PrinterDialog() = default;
+
+void PrinterDialog::FontSize(int points) {
+    if (points < 1 || points > LargestFont) Raise(ErrorNumber::PrinterProperty);
+    points_ = points;
+}
+
+void PrinterDialog::LeftEdge(double twips) {
+    if (twips < 0) Raise(ErrorNumber::PrinterProperty);
+    leftEdge_ = twips;
+}
+
+QPrinter& PrinterDialog::Device() {
+    if (!printer_) printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    return *printer_;
+}
+
+void PrinterDialog::ShowPrinter() {
+    if (!chooser_(Device())) Raise(ErrorNumber::DialogCancelled);
+    CheckDevice();
+}
+
+// Where the system has no printer, what is left is a file without a name.
+void PrinterDialog::CheckDevice() {
+    const bool nameless =
+        Device().outputFormat() == QPrinter::PdfFormat && Device().outputFileName().isEmpty();
+    if (nameless || !Device().isValid()) Raise(ErrorNumber::PrinterDriver);
+}
+
+PrinterDialog::Document& PrinterDialog::InHand() {
+    if (!document_) {
+        CheckDevice();
+        document_ = std::make_unique<Document>(Device());
+    }
+    return *document_;
+}
+
+void PrinterDialog::Print(std::string_view text) {
+    static const QRegularExpression lineBreak(QStringLiteral("\r\n|\n|\r"));
+    Document& document = InHand();
+    const double left = leftEdge_ / TwipsPerInch * Device().resolution();
+    for (const QString& line : ToQt(text).split(lineBreak)) document.PrintLine(line, points_, left);
+    if (document.Failed()) {
+        document_.reset();
+        Raise(ErrorNumber::PrinterError);
+    }
+}
+
+void PrinterDialog::EndDoc() {
+    InHand();
+    const auto document = std::exchange(document_, nullptr);
+    leftEdge_ = EdgeTwips;
+    if (!document->painter.end() || document->Failed()) Raise(ErrorNumber::PrinterError);
+}
+
+}  // namespace sorvane::forms

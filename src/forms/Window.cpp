@@ -1,0 +1,112 @@
+#include "forms/Window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QWindow>
+#include <algorithm>
+#include <utility>
+
+#include "forms/MessageBoxes.h"
+#include "forms/Utf8.h"
+
+namespace sorvane::forms {
+
+namespace {
+
+bool CanTakeFocus(const QWidget& widget) { return widget.isEnabled() && widget.isVisible(); }
+
+bool IsFieldForText(QWidget& widget) {
+    return qobject_cast<QLineEdit*>(&widget) || qobject_cast<QPlainTextEdit*>(&widget);
+}
+
+}  // namespace
+
+Window::Window(std::string_view name, Kind kind)
+    : QWidget(nullptr, kind == Kind::Main ? Qt::Window : Qt::Dialog) {
+    setObjectName(ToQt(name));
+}
+
+Window::~Window() { Unload(); }
+
+std::string Window::Name() const { return ToUtf8(objectName()); }
+std::string Window::Caption() const { return ToUtf8(windowTitle()); }
+
+void Window::SetCaption(std::string_view caption) {
+    setWindowTitle(ToQt(caption));
+    TitleToSystem();
+}
+
+// Without a title Qt would show the name of the application; a space without width shows nothing.
+void Window::TitleToSystem() {
+    if (windowTitle().isEmpty() && windowHandle()) windowHandle()->setTitle(QString(QChar(0x200B)));
+}
+
+void Window::ShowModal() {
+    if (loop_ || IsShown()) return;
+    QEventLoop loop;
+    loop_ = &loop;
+    Appear(Qt::ApplicationModal);
+    loop.exec();
+    loop_ = nullptr;
+    level_.reset();
+}
+
+void Window::Show() {
+    if (!IsShown()) Appear(Qt::NonModal);
+}
+
+void Window::Appear(Qt::WindowModality modality) {
+    const QWidget* below = Runtime::Current().Front();
+    if (level_) level_->Attach(*this);
+    else level_ = std::make_unique<Runtime::Modal>(this);
+    setWindowModality(modality);
+    create();
+    windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
+    if (firstFocus_ && firstFocus_->isEnabledTo(this) && firstFocus_->isVisibleTo(this))
+        firstFocus_->setFocus();
+    show();
+    activateWindow();
+    QApplication::setActiveWindow(this);
+}
+
+void Window::Unload() {
+    if (level_) level_->Detach();
+    hide();
+    if (loop_) loop_->quit();
+}
+
+Answer Window::MsgBox(std::string_view text, int style, std::string_view title) {
+    return MessageBoxes().MsgBox(text, style, title);
+}
+
+QWidget* Window::Fallback(QWidget* lost) {
+    for (Control* control : fallback_)
+        if (CanTakeFocus(control->Widget())) return &control->Widget();
+    QWidget* const start = lost ? lost : this;
+    for (QWidget* next = start->nextInFocusChain(); next != start; next = next->nextInFocusChain())
+        if (next != this && CanTakeFocus(*next) && (next->focusPolicy() & Qt::TabFocus) &&
+            !next->focusProxy() && !IsFieldForText(*next))
+            return next;
+    return nullptr;
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!closeButton_) Unload();
+    else if (closeButton_->isEnabled()) closeButton_->click();
+}
+
+void Window::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape && escapeButton_) escapeButton_->click();
+    else QWidget::keyPressEvent(event);
+}
+
+void Window::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    TitleToSystem();
+}
+
+}  // namespace sorvane::forms
