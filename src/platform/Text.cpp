@@ -28,6 +28,7 @@ struct Part {
 
 // One section of a picture.
 struct Section {
+    bool showsNumber = false;
     std::string_view before;
     std::string_view behind;
     Part whole;
@@ -55,7 +56,8 @@ Section ReadSection(std::string_view picture) {
     Section section;
     const std::size_t first = picture.find_first_of(Places);
     section.before = picture.substr(0, first);
-    if (first == std::string_view::npos) return section;
+    section.showsNumber = first != std::string_view::npos;
+    if (!section.showsNumber) return section;
     const std::size_t last = picture.find_last_of(Places);
     section.behind = picture.substr(last + 1);
     const std::string_view places = picture.substr(first, last + 1 - first);
@@ -119,6 +121,7 @@ std::string FractionDigits(std::string fraction, const Section& section) {
 
 std::string Write(const Rounded& amount, const Section& section) {
     std::string text(section.before);
+    if (!section.showsNumber) return text;
     text += WholeDigits(amount.whole, section);
     if (section.point) text += '.';
     text += FractionDigits(amount.fraction, section);

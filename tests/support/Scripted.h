@@ -5,15 +5,12 @@
 
 #include <cstdint>
 #include <deque>
-#include <filesystem>
 #include <functional>
 #include <map>
 #include <optional>
-#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -21,8 +18,11 @@
 #include "platform/RunTimeError.h"
 #include "platform/Services.h"
 #include "platform/SplitMix.h"
+#include "support/TempFolder.h"
 
 namespace sorvane::testing {
+
+using sorvane::TempFolder;
 
 // A style told to Expect: the buttons that the answer belongs to and no icon (Ok: OK alone; Cancel: OK and
 // Cancel; Yes and No: Yes and No).
@@ -252,49 +252,6 @@ class RecordingTools final : public SystemTools {
         if (failure != 0) Raise(failure);
         started.push_back(path);
     }
-};
-
-// A folder that nobody else uses, in memory where the system has such a place; gone with its contents at the
-// end.
-class TempFolder {
-  public:
-    explicit TempFolder(const std::filesystem::path& parent = FastPlace()) {
-        std::random_device random;
-        do path_ = parent / ("sorvane-test-" + std::to_string(random()) + "-" + std::to_string(random()));
-        while (!std::filesystem::create_directory(path_));
-    }
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-    ~TempFolder() {
-        Unlock();
-        std::error_code ignored;
-        std::filesystem::remove_all(path_, ignored);
-    }
-
-    const std::filesystem::path& Path() const { return path_; }
-    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
-    // The same as text, as the program carries its paths.
-    std::string File(std::string_view name) const { return (path_ / name).string(); }
-
-    static std::filesystem::path FastPlace() {
-        const std::filesystem::path memory = "/dev/shm";
-        std::error_code none;
-        return std::filesystem::is_directory(memory, none) ? memory : std::filesystem::temp_directory_path();
-    }
-
-  private:
-    // Gives back the right to delete where a test took it away.
-    void Unlock() {
-        namespace fs = std::filesystem;
-        std::error_code ignored;
-        fs::permissions(path_, fs::perms::owner_all, fs::perm_options::add, ignored);
-        for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end;
-             entry.increment(ignored))
-            if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
-                fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, ignored);
-    }
-
-    std::filesystem::path path_;
 };
 
 }  // namespace sorvane::testing

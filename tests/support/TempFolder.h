@@ -1,33 +1,56 @@
-// A folder of a test's own, gone when the test ends.
+// A folder of a test's own.
 #pragma once
 
-#include <atomic>
 #include <filesystem>
 #include <random>
 #include <string>
+#include <string_view>
+#include <system_error>
 
 namespace sorvane {
 
+// A folder that nobody else uses, in memory where the system has such a place (syncs cost nothing there);
+// gone with its contents at the end.
 class TempFolder {
   public:
-    TempFolder() {
-        static std::atomic<unsigned> number{0};
-        const std::string name =
-            "sorvane-test-" + std::to_string(std::random_device{}()) + "-" + std::to_string(number++);
-        path_ = std::filesystem::temp_directory_path() / name;
-        std::filesystem::create_directories(path_);
+    explicit TempFolder(const std::filesystem::path& parent = FastPlace()) {
+        std::random_device random;
+        do path_ = parent / ("sorvane-test-" + std::to_string(random()) + "-" + std::to_string(random()));
+        while (!std::filesystem::create_directory(path_));
+        // For tests that go on under another user.
         std::filesystem::permissions(path_, std::filesystem::perms::all);
     }
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
     ~TempFolder() {
+        Unlock();
         std::error_code ignored;
         std::filesystem::remove_all(path_, ignored);
     }
+
     const std::filesystem::path& Path() const { return path_; }
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
+    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+    // The same as text, as the program carries its paths.
+    std::string File(std::string_view name) const { return (path_ / name).string(); }
+
+    static std::filesystem::path FastPlace() {
+        const std::filesystem::path memory = "/dev/shm";
+        std::error_code none;
+        return std::filesystem::is_directory(memory, none) ? memory : std::filesystem::temp_directory_path();
+    }
 
   private:
+    // Gives back the right to delete where a test took it away.
+    void Unlock() {
+        namespace fs = std::filesystem;
+        std::error_code ignored;
+        fs::permissions(path_, fs::perms::owner_all, fs::perm_options::add, ignored);
+        for (fs::recursive_directory_iterator entry(path_, ignored), end; entry != end;
+             entry.increment(ignored))
+            if (entry->is_directory(ignored) && !entry->is_symlink(ignored))
+                fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, ignored);
+    }
+
     std::filesystem::path path_;
 };
 
