@@ -2,7 +2,7 @@
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 warns of overlapping copies wherever a literal and a string are added.
-  add_compile_options(-Wno-error=maybe-uninitialized -Wno-restrict)
+  add_compile_options(-Wno-error=maybe-uninitialized -Wno-restrict -Wno-stringop-overflow)
 endif()
 if(SORVANE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

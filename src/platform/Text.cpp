@@ -150,6 +150,13 @@ Integer CInt(std::string_view text) {
     return Integer(static_cast<int>(value));
 }
 
+Integer IntegerPart(std::string_view text) {
+    const double part = std::floor(CDbl(text));
+    if (part < std::numeric_limits<std::int16_t>::min() || part > std::numeric_limits<std::int16_t>::max())
+        Raise(ErrorNumber::Overflow);
+    return Integer(static_cast<int>(part));
+}
+
 std::string Str(long number) { return std::to_string(number); }
 
 std::string Mid(std::string_view text, int start, int length) {

@@ -21,6 +21,9 @@ double CDbl(std::string_view text);
 // The same rounded half to even into 16 bits; text that is no number raises 13, too large 6.
 Integer CInt(std::string_view text);
 
+// The whole part of the text's number, downwards, in 16 bits; text that is no number raises 13, too large 6.
+Integer IntegerPart(std::string_view text);
+
 // Plain decimal text of a whole number, without blanks.
 std::string Str(long number);
 

@@ -1,0 +1,176 @@
+#include "entry/ui/GameWindow.h"
+
+#include "entry/CreateAllTables.h"
+#include "entry/EntryFacts.h"
+#include "shell/Catalogue.h"
+#include "shell/ui/Windows.h"
+#include "store/CreateTables.h"
+
+namespace sorvane {
+
+GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
+    : Window(NameOf(family)),
+      Which(family),
+      run(run_),
+      windows(windows_),
+      Enter(*this),
+      Check(*this),
+      Reports(*this),
+      QuickPick(*this),
+      Sheets(*this) {
+    constexpr std::string_view captions[] = {"&Enter Tickets", "&Check Tickets", Tab::ReportsCaption,
+                                             Tab::QuickPickCaption};
+    for (std::size_t i = 0; i < Pages.size(); ++i) SSTab1.AddTab(Pages[i], captions[i]);
+    auto* whole = new QVBoxLayout(this);
+    whole->addWidget(&SSTab1);
+    SetCloseButton(cmdExit(0));
+    SetFirstFocus(txtNoOfTickets(0));
+    SetFallbackFocus({&Enter.cmdNext_Ticket, &Enter.cmdSave});
+    AttachSharedHandlers();
+}
+
+// Elements of the shared arrays stand in frames of the tabs, which are destroyed before the arrays.
+GameWindow::~GameWindow() {
+    const auto take = [](auto& element, int) { element.setParent(nullptr); };
+    txtNoOfTickets.ForEach(take);
+    dtpEnterTickets.ForEach(take);
+    cmdExit.ForEach(take);
+}
+
+void GameWindow::AttachSharedHandlers() {
+    txtNoOfTickets.OnKeyPress(
+        [this](int Index, forms::KeyPress& key) { txtNoOfTickets_KeyPress(Index, key); });
+    txtNoOfTickets.OnLostFocus([this](int Index) { Sheets.TicketCountLeft(Index); });
+    txtNoOfTickets.OnGotFocus([this](int Index) {
+        if (Index == 0) txtNoOfTickets(0).SelectAll();
+    });
+    dtpEnterTickets.OnChange([this](int Index) { dtpEnterTickets_Change(Index); });
+    dtpEnterTickets.OnLostFocus([this](int Index) { run.global.DrawDate = dtpEnterTickets(Index).Value(); });
+    cmdExit.OnClick([this](int) { cmdExit_Click(); });
+    SSTab1.OnClick([this] { SSTab1_Click(); });
+    Enter.cmdNext_Ticket.OnClick([this] { Sheets.cmdNext_Ticket_Click(); });
+    Enter.cmdCorrection.OnClick([this] { Sheets.cmdCorrection_Click(); });
+    Enter.cmdSave.OnClick([this] { Sheets.cmdSave_Click(); });
+    Enter.cmdCancel.OnClick([this] { cmdCancel_Click(); });
+}
+
+void GameWindow::Form_Load() {
+    Enter.AddOns.HideAtLoad();
+    CreateAllTables(run, Which, State);
+    ForgetSaves();
+    NameTables();
+    QuickPick.ChooseHot();
+    ClearCountersAtLoad();
+    Enter.AddOns.EmptyCount();
+    Enter.Capture().Load();
+    Enter.FirstCaption();
+    Enter.Capture().Close();
+    SetDates();
+    Enter.StartAmount();
+    Enter.TurnButtonsOff();
+    Reports.ClearCharts();
+    SSTab1.SetTab(Tab::Enter);
+}
+
+void GameWindow::cmdCancel_Click() {
+    if (MsgBox("Are you sure you wish to start over?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes) return;
+    if (CancelCleansUp[Which]) {
+        Sheets.OfferCleanUp("Cancelling before completion...");
+        run.global.TicketsSaved = Off;
+    }
+    run.global.TableOpened = Off;
+    State.SavingSheet = false;
+    NameTables();
+    run.global.StatUpdate = Off;
+    run.global.RecheckAccepted = True;
+    QuickPick.ChooseHot();
+    ClearCountersAtCancel();
+    Enter.Capture().Load();
+    Enter.FirstCaption();
+    Enter.Capture().Close();
+    SetDates();
+    Enter.StartAmount();
+    Enter.TurnButtonsOff();
+    Reports.ClearCharts();
+    SSTab1.SetTab(Tab::Enter);
+    Enter.EmptyFields();
+    Enter.ShowTitle("Ticket #", 1);
+    txtNoOfTickets(0).SetFocus();
+}
+
+void GameWindow::cmdExit_Click() {
+    Sheets.OfferCleanUp("Exiting before completion...");
+    Leave();
+}
+
+void GameWindow::Leave() { windows.Unload(*this); }
+
+void GameWindow::ForgetSaves() {
+    run.global.TicketsSaved = Off;
+    State.SavingSheet = false;
+    run.global.TableOpened = Off;
+    run.global.StatUpdate = Off;
+}
+
+void GameWindow::NameTables() {
+    State.DbName = DatabasePath(run.global.AppPath);
+    State.IndexName = PrimaryFieldName;
+    State.FieldName = DateFieldName;
+    if (const auto table = LoadTable(Which, run.global.LottoFlag)) State.TableName = *table;
+}
+
+void GameWindow::ClearCountersAtLoad() {
+    Global& g = run.global;
+    g.RecheckAccepted = True;
+    State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
+    g.EnteringAddOns = Off;
+    g.NoOfExtra = g.NumbersPicked = g.TotalTickets = g.TicketNo = g.ExtraNo = 0;
+    g.EntryCounter = g.EntryCounter2 = 0;
+}
+
+void GameWindow::ClearCountersAtCancel() {
+    Global& g = run.global;
+    State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
+    g.TotalTickets = g.NoOfTickets = g.SheetTickets = g.NoOfSheets = g.NoOfTicketsOnSheet = 0;
+    g.TicketNo = g.ExtraNo = g.NoOfExtra = g.NumbersPicked = 0;
+    g.EnteringAddOns = Off;
+}
+
+void GameWindow::SetDates() {
+    const Date today = run.services.clock.Today();
+    dtpEnterTickets.ForEach([&](forms::DatePicker& picker, int) { picker.SetValue(today); });
+}
+
+void GameWindow::SSTab1_Click() {
+    if (SSTab1.Caption() != Tab::QuickPickCaption) return;
+    forms::TextBox& count = txtNoOfTickets(1);
+    count.SetText("0");
+    count.SetFocus();
+    count.SelectAll();
+}
+
+void GameWindow::dtpEnterTickets_Change(int Index) {
+    run.global.DrawDate = dtpEnterTickets(Index).Value();
+    if (Index == 2) Check.ForgetResults();
+}
+
+void GameWindow::txtNoOfTickets_KeyPress(int Index, forms::KeyPress& key) {
+    if (!IsDigit(key.KeyAscii) && key.KeyAscii != Backspace && key.KeyAscii != EnterKey) {
+        RefuseKey(txtNoOfTickets(Index), key);
+        return;
+    }
+    if (key.KeyAscii != EnterKey || Index > 1) return;
+    const Go go = (Index == 0 ? EnterInCount0 : EnterInCount1)[Which];
+    if (go == Go::Extra) Enter.AddOns.FocusCount();
+    else if (go == Go::Make) QuickPick.cmdGenerate.SetFocus();
+}
+
+void RefuseKey(forms::TextBox& field, forms::KeyPress& key) {
+    forms::Window::MsgBox(NotANumber, BoxStyle::Exclamation, KeyErrorTitle);
+    field.SetText("");
+    field.SetCaret(0);
+    key.Swallow();
+    field.SetFocus();
+}
+
+}  // namespace sorvane

@@ -1,0 +1,95 @@
+// Tickets picked on the grid of numbers: frm649, and with bonus tickets frm749 and frm645.
+#pragma once
+
+#include <optional>
+
+#include "entry/ui/NumberGrid.h"
+#include "entry/ui/TicketCapture.h"
+#include "forms/CheckBox.h"
+#include "shell/Types.h"
+
+namespace sorvane {
+
+// The plain grid of frm649: six numbers a ticket.
+class LottoCapture : public TicketCapture {
+  public:
+    explicit LottoCapture(GameWindow& window);
+
+    QWidget& Slip() override { return grid_; }
+    void AddToTabOrder(std::vector<QWidget*>& order) override;
+    void Load() override;
+    void Close() override;
+    void Open() override { grid_.SetOpen(true); }
+    void NextSheet() override;
+    void FocusFirst() override { grid_.FocusFirst(); }
+    void FocusAtNextSheet() override;
+    void StoreTicket() override;
+    void Next() override;
+    void Correct() override;
+    bool SheetIsFull() const override;
+    void SaveSheet(const StoreArgs& at) override;
+    std::optional<std::string> AmountAtCount(int tickets) const override;
+
+  protected:
+    // chkNumb has changed.
+    virtual void chkNumb_Click(int Index);
+    // A number more or less; true when the ticket is complete.
+    bool CountNumber(int Index);
+    // The last ticket of the sheet is complete: on to the add-ons, or to saving.
+    void SheetComplete();
+    // The numbers ticked, upwards, into the slots; each box is cleared while more tickets follow.
+    template <class Ticket>
+    void TakeNumbers(Ticket& ticket, bool clear);
+    // What storing does around the array: before, and behind it (`more`: further tickets follow on this
+    // sheet).
+    void BeforeStoring();
+    void AfterStoring(bool more);
+    void ShowTicketTitle();
+
+    GameWindow& window_;
+    Global& g_;
+    NumberGrid grid_;
+};
+
+// Bonus tickets behind the bought ones of a sheet: two for each Super 7 ticket, one for each Lottario ticket.
+class BonusCapture : public LottoCapture {
+  public:
+    explicit BonusCapture(GameWindow& window) : LottoCapture(window) {}
+
+    void StoreTicket() override;
+    void Next() override;
+    void BeforeCorrection() override;
+    void Correct() override;
+    bool SheetIsFull() const override;
+    void SaveSheet(const StoreArgs& at) override;
+
+  protected:
+    void chkNumb_Click(int Index) override;
+    // A bought ticket is complete.
+    virtual void BoughtTicketComplete();
+    // A bonus ticket is complete; counts it.
+    virtual void CountBonusTicket();
+    void BeginBonusPhase();
+    bool HasBonus() const;
+    int SheetTotal() const;  // bonus tickets counted in
+};
+
+// Lottario: the early bird, and a mark that carries over to the next bought ticket.
+class LottarioCapture final : public BonusCapture {
+  public:
+    explicit LottarioCapture(GameWindow& window);
+
+    forms::CheckBox chkEarlybird{"chkEarlybird", "Earlybird Played"};
+
+    void AddMarks(QBoxLayout& marks) override;
+    void AddToTabOrder(std::vector<QWidget*>& order) override;
+    void StoreTicket() override;
+    void Next() override;
+    void SaveSheet(const StoreArgs& at) override;
+
+  private:
+    void BoughtTicketComplete() override;
+    void CountBonusTicket() override;
+};
+
+}  // namespace sorvane

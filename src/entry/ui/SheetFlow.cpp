@@ -1,0 +1,224 @@
+#include "entry/ui/SheetFlow.h"
+
+#include "entry/CreateAllTables.h"
+#include "entry/EntryFacts.h"
+#include "entry/SaveData.h"
+#include "entry/ui/CountDialogs.h"
+#include "entry/ui/GameWindow.h"
+#include "platform/Text.h"
+#include "shell/Catalogue.h"
+#include "shell/ui/Windows.h"
+#include "store/CheckTB_DBExists.h"
+#include "store/CreateTables.h"
+#include "store/DeleteData.h"
+
+namespace sorvane {
+
+namespace {
+
+constexpr std::string_view Confirmed = "CONFIRMED";
+
+StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
+
+}  // namespace
+
+void SheetFlow::TicketCountLeft(int Index) {
+    GameWindow& w = window_;
+    forms::TextBox& count = w.txtNoOfTickets(Index);
+    if (w.SSTab1.Caption() != Tab::ReportsCaption) {
+        if (!count.Text().empty()) TakeCount(Index, count.Text());
+        else AskForCount(count);
+    }
+    if (Index == 1) return;
+    const std::string text = count.Text();
+    if (!text.empty() && text != "0") {
+        SetSheetTickets();
+        if (CountOpensGrid[w.Which]) w.Enter.Capture().Open();
+    }
+    const Global& g = w.run.global;
+    if (w.State.TotalSheets >= 2 && g.NoOfTickets != g.NoOfSheets) AskTicketsOnSheet();
+    w.State.CurrentSheet = 1;
+    w.Enter.ShowTitle("Ticket #", g.TicketNo + 1);
+    DefaultTheAmount(count);
+    if (g.LottoFlag == "Quebec49") w.Enter.AddOns.EnableCheck();
+    count.SetTabStop(false);
+}
+
+void SheetFlow::TakeCount(int Index, const std::string& text) {
+    Global& g = window_.run.global;
+    g.NoOfTickets = IntegerPart(text);
+    g.TotalTickets = g.NoOfTickets;
+    if (text == "1") {
+        g.NoOfSheets = 1;
+        g.NoOfTicketsOnSheet = 1;
+        window_.State.TotalSheets = 1;
+    } else if (text > "0" && Index != 1) {  // compared as text: "00" asks, "0" does not
+        frmHowManySheets question(window_.run);
+        window_.windows.ShowModal(question);
+        window_.State.TotalSheets = g.NoOfSheets;
+        if (g.NoOfTickets == g.NoOfSheets) g.NoOfTicketsOnSheet = 1;
+    }
+}
+
+void SheetFlow::AskForCount(forms::TextBox& count) {
+    Global& g = window_.run.global;
+    g.Msg = "# of Tickets required. Please enter a number.";
+    forms::Window::MsgBox(g.Msg, BoxStyle::Ok, "# of Tickets required");
+    count.SetText("0");
+    count.SelectAll();
+    count.SetFocus();
+}
+
+void SheetFlow::SetSheetTickets() {
+    Global& g = window_.run.global;
+    const bool bonus = !BonusKey[window_.Which].empty() && g.LottoFlag == BonusKey[window_.Which];
+    g.SheetTickets = g.NoOfTickets * (bonus ? SheetFactor[window_.Which] : 1);
+    aTicketASheet_ = g.NoOfTickets == g.NoOfSheets;
+}
+
+void SheetFlow::AskTicketsOnSheet() {
+    frmTicketsOnSheet question(window_.run);
+    window_.windows.ShowModal(question);
+}
+
+void SheetFlow::DefaultTheAmount(forms::TextBox& count) {
+    if (count.Text().empty()) count.SetText("0");
+    if (const auto amount = window_.Enter.Capture().AmountAtCount(window_.run.global.NoOfTickets))
+        window_.Enter.PutAmount(*amount);
+}
+
+void SheetFlow::cmdNext_Ticket_Click() {
+    window_.State.InNextTicket = On;
+    window_.Enter.cmdNext_Ticket.SetEnabled(false);
+    window_.Enter.cmdCorrection.SetEnabled(false);
+    window_.Enter.Capture().Next();
+    window_.State.InNextTicket = Off;
+    window_.run.global.NumbersPicked = 0;
+}
+
+void SheetFlow::cmdCorrection_Click() {
+    Global& g = window_.run.global;
+    g.Correcting = On;
+    window_.Enter.TurnButtonsOff();
+    window_.Enter.Capture().BeforeCorrection();
+    g.NumbersPicked = 0;
+    if (g.TicketNo > 0 || !CorrectionStopsAtZero[window_.Which]) g.TicketNo -= 1;
+    window_.Enter.Capture().Correct();
+}
+
+void SheetFlow::cmdSave_Click() {
+    GameWindow& w = window_;
+    Global& g = w.run.global;
+    w.State.WindowDate = w.dtpEnterTickets(0).Value();
+    if (ProbesAtSave[w.Which]) MakePlayedTable();
+    if (StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
+    if (forms::Window::MsgBox("Save this sheet of tickets?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes)
+        NotSaved();
+    else if (w.Enter.Capture().SheetIsFull()) SaveSheet();
+    w.State.SavingSheet = false;
+    if (TablesAfterSave[w.Which]) CreateAllTables(w.run, w.Which, w.State);
+    g.Msg.clear();
+}
+
+void SheetFlow::MakePlayedTable() {
+    WindowState& state = window_.State;
+    if (const auto table = PlayedTable(window_.Which, window_.run.global.LottoFlag)) state.TableName = *table;
+    const Creator& creator = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayedPick4Table;
+    MakeSureOf(window_.run, state.DbName, state.TableName,
+               [&] { creator(window_.run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+}
+
+void SheetFlow::NotSaved() {
+    forms::Window::MsgBox("Tickets NOT Saved", BoxStyle::Ok, Confirmed);
+    if (!NotSavedReloads[window_.Which]) return;
+    window_.Form_Load();
+    window_.txtNoOfTickets(0).SetFocus();
+}
+
+void SheetFlow::SaveSheet() {
+    GameWindow& w = window_;
+    const Global& g = w.run.global;
+    w.State.SavingSheet = true;
+    w.State.SavedDate = w.State.WindowDate;
+    if (const auto table = PlayedTable(w.Which, g.LottoFlag)) w.State.TableName = *table;
+    if (!StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
+    w.Enter.Capture().SaveSheet(At(w.State));
+    if (!AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
+    if (w.State.CurrentSheet < g.NoOfSheets) BeginNextSheet();
+    else if (w.State.CurrentSheet == g.NoOfSheets) FinishEntry();
+    w.run.global.TicketsSaved = True;
+}
+
+void SheetFlow::BeginNextSheet() {
+    GameWindow& w = window_;
+    Global& g = w.run.global;
+    forms::Window::MsgBox("Tickets Saved - Enter Next Sheet", BoxStyle::Ok, Confirmed);
+    if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
+    g.NoOfTickets -= g.NoOfTicketsOnSheet;
+    // The last sheet takes all that is left.
+    if (w.State.CurrentSheet + 1 == g.NoOfSheets) g.NoOfTicketsOnSheet = g.NoOfTickets;
+    w.Enter.Capture().NextSheet();
+    w.State.CurrentSheet += 1;
+    w.Enter.ShowTitle("Ticket #", 1);
+    g.NumbersPicked = g.TicketNo = 0;
+    w.State.BonusPhase = Off;
+    if (w.Which == Family::frmKeno70) g.ExtraNo = 0;
+    if (NextSheetEndsAddOns[w.Which]) g.EnteringAddOns = Off;
+    w.Enter.FirstCaption();
+    w.Enter.cmdSave.SetEnabled(false);
+    w.Enter.AddOns.HideForNextSheet();
+    w.Enter.Capture().FocusAtNextSheet();
+    if (AsksTicketsOnNextSheet()) AskTicketsOnSheet();
+    if (w.Which == Family::frmKeno70) w.Enter.AddOns.EmptyForKenoSheet();
+}
+
+bool SheetFlow::AsksTicketsOnNextSheet() const {
+    const Global& g = window_.run.global;
+    if (g.NoOfTickets <= 1 || aTicketASheet_) return false;
+    // Keno 80 compares the whole entry with its sheets instead.
+    if (window_.Which == Family::frmKeno80) return g.TotalTickets != g.NoOfSheets;
+    return g.NoOfTicketsOnSheet != g.NoOfTickets;
+}
+
+void SheetFlow::FinishEntry() {
+    GameWindow& w = window_;
+    Global& g = w.run.global;
+    if (!SpentAfterBox[w.Which]) RecordSpending();
+    forms::Window::MsgBox("Tickets Saved", BoxStyle::Ok, Confirmed);
+    if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
+    if (SpentAfterBox[w.Which]) RecordSpending();
+    for (forms::CommandButton* button : {&w.Enter.cmdSave, &w.Enter.cmdCorrection, &w.Enter.cmdCancel})
+        button->SetEnabled(false);
+    g.Dollars = "0";
+    w.Enter.txtDollars.SetText(g.Dollars);
+    g.NoOfTicketsOnSheet = g.NoOfTickets = 0;
+    w.txtNoOfTickets(0).SetText("0");
+    w.Enter.AddOns.ClearAfterLastSheet();
+    w.Leave();
+}
+
+void SheetFlow::RecordSpending() {
+    window_.State.TableName = "Spent";
+    StoreLedgerAmount(window_.run, At(window_.State));
+}
+
+void SheetFlow::OfferCleanUp(std::string_view title) {
+    Global& g = window_.run.global;
+    WindowState& state = window_.State;
+    if (g.NoOfTickets == 0 || g.NoOfSheets < state.CurrentSheet || g.TicketsSaved != True) return;
+    g.Msg = "Since you've already saved some tickets, your database will be incorrect." + g.NL +
+            "Would you like to clean up your database?" + g.NL +
+            "(NOTE: This will delete ALL records with the same Draw Date as indicated" + g.NL +
+            "in the Draw Date box above.)";
+    if (forms::Window::MsgBox(g.Msg, BoxStyle::YesNoCancel, title) != Answer::Yes) return;
+    window_.NameTables();
+    DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
+    const AddOn* addOn = FindAddOn(g.ExtraFlag);
+    if (addOn && (Cleans[window_.Which] & KeyBit(g.ExtraFlag)) != 0) {
+        state.TableName = addOn->Played;
+        DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
+    }
+    forms::Window::MsgBox("Database cleaned!", BoxStyle::Ok, "Database Cleaned");
+}
+
+}  // namespace sorvane
