@@ -1,0 +1,264 @@
+// The writers of the sheets and of the ledgers, read back with plain SQLite.
+#include "entry/SaveData.h"
+
+#include <gtest/gtest.h>
+
+#include "entry/CreateAllTables.h"
+#include "support/World.h"
+
+namespace sorvane {
+namespace {
+
+using testing::World;
+using Names = std::vector<std::string>;
+
+class WritersTest : public ::testing::Test {
+  protected:
+    Global& g = world.global;
+
+    void Open(Family family, std::string_view LottoFlag, std::string_view ExtraFlag) {
+        g.LottoFlag = LottoFlag;
+        g.ExtraFlag = ExtraFlag;
+        CreateAllTables(world.run, family, state);
+    }
+    StoreArgs At(std::string_view table) {
+        state.TableName = table;
+        state.WindowDate = day;
+        return {state.DbName, state.TableName, state.WindowDate};
+    }
+    Names All(const std::string& table) {
+        return world.Plain().Rows("SELECT * FROM [" + table + "] ORDER BY rowid");
+    }
+    template <class Ticket>
+    static void Fill(Ticket& ticket, int first) {
+        for (int i = 0; i < decltype(ticket.Numbers)::Count; ++i) ticket.Numbers(i) = first + i;
+    }
+    std::string Day(const std::string& rest) { return std::to_string(day.Day()) + rest; }
+
+    World world;
+    WindowState state;
+    const Date day = Date::FromYmd(2026, 3, 14);
+};
+
+TEST_F(WritersTest, SixNumberRowsCountTheirKeysFromOneAndCarryTheWindowsDate) {
+    Open(Family::frm649, "BC49", "Extra");
+    g.NoOfTicketsOnSheet = 3;
+    g.Lotto6Tickets.Redim(3);
+    for (int i = 0; i < 3; ++i) {
+        Fill(g.Lotto6Tickets(i), 1 + 10 * i);
+        g.Lotto6Tickets(i).DrawDate = Date::FromYmd(1999, 1, 1);
+    }
+    g.Lotto6Tickets(1).Regular = True;
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_EQ(All("PlayedBC49"), (Names{"1|" + Day("|1|2|3|4|5|6|0|0"), "2|" + Day("|11|12|13|14|15|16|1|0"),
+                                        "3|" + Day("|21|22|23|24|25|26|0|0")}));
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "1,2,3,4,5,6");
+    EXPECT_EQ(g.Open.DbOpen, 0);
+    EXPECT_EQ(g.Open.RsOpen, 0);
+}
+
+TEST_F(WritersTest, LottarioWritesItsBonusTicketsAndBothMarks) {
+    Open(Family::frm645, "Lottario", "Encore");
+    g.NoOfTicketsOnSheet = 1;
+    g.Lotto6Tickets.Redim(2);
+    Fill(g.Lotto6Tickets(0), 1);
+    Fill(g.Lotto6Tickets(1), 7);
+    g.Lotto6Tickets(0).Regular = True;
+    g.Lotto6Tickets(1).EarlyBird = True;
+    SaveLottarioTickets(world.run, At("PlayedLottario"));
+    EXPECT_EQ(All("PlayedLottario"),
+              (Names{"1|" + Day("|1|2|3|4|5|6|1|0"), "2|" + Day("|7|8|9|10|11|12|0|1")}));
+}
+
+TEST_F(WritersTest, SuperSevenWritesThreeRowsForATicket) {
+    Open(Family::frm749, "Super 7", "Tag");
+    g.NoOfTicketsOnSheet = 1;
+    g.Lotto7Tickets.Redim(3);
+    for (int i = 0; i < 3; ++i) Fill(g.Lotto7Tickets(i), 1 + 7 * i);
+    g.Lotto7Tickets(0).Regular = True;
+    SaveLotto7Tickets(world.run, At("PlayedSuper7"));
+    EXPECT_EQ(All("PlayedSuper7"), (Names{"1|" + Day("|1|2|3|4|5|6|7|1"), "2|" + Day("|8|9|10|11|12|13|14|0"),
+                                          "3|" + Day("|15|16|17|18|19|20|21|0")}));
+}
+
+TEST_F(WritersTest, AKenoRowHoldsTenBallsOfTheTwentyPicked) {
+    Open(Family::frmKeno70, "ONTKeno", "Encore");
+    g.NoOfTicketsOnSheet = 1;
+    g.KenoTickets.Redim(1);
+    KenoTicket& ticket = g.KenoTickets(0);
+    Fill(ticket, 1);
+    ticket.Wager = 5;
+    ticket.NoOfBalls = 20;
+    ticket.Regular = True;
+    SaveKenoTickets(world.run, At("PlayedONTKeno"));
+    EXPECT_EQ(All("PlayedONTKeno"), Names{"1|" + Day("|ONTKeno|1|2|3|4|5|6|7|8|9|10|5|20|1")});
+}
+
+TEST_F(WritersTest, DigitRowsPutTheGameBeforeTheDateAndTheWayBehindTheDigits) {
+    Open(Family::frmPick3, "WESTPick3", "WESTPick3");
+    g.NoOfTicketsOnSheet = 2;
+    g.PlayOption = "Box";
+    g.Pick3Tickets.Redim(2);
+    Fill(g.Pick3Tickets(0), 7);
+    g.Pick3Tickets(1).Regular = True;
+    SavePick3Tickets(world.run, At("PlayedWESTPick3"));
+    EXPECT_EQ(All("PlayedWESTPick3"),
+              (Names{"1|WESTPick3|" + Day("|7|8|9|Box|0"), "2|WESTPick3|" + Day("|0|0|0|Box|1")}));
+}
+
+TEST_F(WritersTest, AnEmptyWayOfPlayIsWrittenAsAnEmptyText) {
+    Open(Family::frmPick4, "FLAPlay4", "FLAPlay4");
+    g.NoOfTicketsOnSheet = 1;
+    g.Pick4Tickets.Redim(1);
+    Fill(g.Pick4Tickets(0), 1);
+    SavePick4Tickets(world.run, At("PlayedFLAPlay4"));
+    EXPECT_EQ(All("PlayedFLAPlay4"), Names{"1|FLAPlay4|" + Day("|1|2|3|4||0")});
+}
+
+TEST_F(WritersTest, AnAddOnNumberGoesDigitByDigitAndItsSeventhForWesternExtraAlone) {
+    Open(Family::frm749, "Super 7", "WESTExtra");
+    g.NoOfExtra = 2;
+    g.AddOnTickets.Redim(2);
+    Fill(g.AddOnTickets(0), 1);
+    Fill(g.AddOnTickets(1), 2);
+    SaveAddOnTickets(world.run, At("PlayedWESTExtra"));
+    EXPECT_EQ(All("PlayedWESTExtra"),
+              (Names{"1|Super 7|" + Day("|1|2|3|4|5|6|7"), "2|Super 7|" + Day("|2|3|4|5|6|7|8")}));
+    Open(Family::frm749, "Super 7", "Tag");
+    SaveAddOnTickets(world.run, At("PlayedTag"));
+    EXPECT_EQ(All("PlayedTag").at(1), "2|Super 7|" + Day("|2|3|4|5|6|7|NULL"));
+}
+
+TEST_F(WritersTest, WithACountOfNoughtNoAddOnRowIsWritten) {
+    Open(Family::frm649, "Lotto649", "Encore");
+    g.NoOfExtra = 0;
+    SaveAddOnTickets(world.run, At("PlayedEncore"));
+    EXPECT_TRUE(All("PlayedEncore").empty());
+}
+
+TEST_F(WritersTest, ExtraRowsHoldFourNumbersAndNothingBehindThem) {
+    Open(Family::frm649, "BC49", "Extra");
+    g.NoOfExtra = 1;
+    g.ExtraTickets.Redim(1);
+    Fill(g.ExtraTickets(0), 96);
+    SaveExtraTickets(world.run, At("PlayedExtra"));
+    EXPECT_EQ(All("PlayedExtra"), Names{"1|BC49|" + Day("|96|97|98|99|NULL|0")});
+}
+
+TEST_F(WritersTest, AKeyTakenAfterACleanUpShowsItsBoxAndTheRowsBeforeItStay) {
+    Open(Family::frm649, "BC49", "Extra");
+    world.Plain().Do("INSERT INTO PlayedBC49 (ID1) VALUES (3)");
+    g.NoOfTicketsOnSheet = 2;
+    g.Lotto6Tickets.Redim(2);
+    world.ExpectUnexpected(3022);
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "2,3");
+}
+
+TEST_F(WritersTest, AMissingTableIsNamedInTheBox) {
+    Open(Family::frm649, "BC49", "Extra");
+    g.NoOfTicketsOnSheet = 1;
+    world.ExpectStoreError(3011, "Unable to open PlayedPik4 table. Please advise error number to support.");
+    SaveLotto6Tickets(world.run, At("PlayedPik4"));
+}
+
+TEST_F(WritersTest, AnArrayNeverSizedIsAnUnexpectedErrorInTheBox) {
+    Open(Family::frm649, "BC49", "Extra");
+    g.NoOfTicketsOnSheet = 1;
+    world.ExpectUnexpected(9);
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_TRUE(All("PlayedBC49").empty());
+}
+
+class LedgerTest : public WritersTest {
+  protected:
+    void SetUp() override { Open(Family::frm649, "Lotto649", "Encore"); }
+    void Record(std::string_view table, std::string_view amount) {
+        g.Dollars = amount;
+        StoreLedgerAmount(world.run, At(table));
+    }
+    Names Spent() { return world.Plain().Rows("SELECT ID1, Lottoflag, Spent FROM Spent ORDER BY rowid"); }
+    Names Winnings() {
+        return world.Plain().Rows("SELECT ID1, Lottoflag, Winnings FROM Winnings ORDER BY rowid");
+    }
+    void ExpectQuestion(Answer answer) {
+        world.dialogs.Expect("Correct Winnings?",
+                             "You have already entered a Winning amount for this\r\n"
+                             "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
+                             answer, BoxStyle::YesNo);
+    }
+};
+
+TEST_F(LedgerTest, TwoEntriesOfOneDateAreTwoRowsWithDifferentKeys) {
+    Record("Spent", "5.00");
+    Record("Spent", "2.50");
+    EXPECT_EQ(Spent(), (Names{"1|Lotto649|5", "2|Lotto649|2.5"}));
+}
+
+TEST_F(LedgerTest, SuperSevenKeepsItsBlank) {
+    g.LottoFlag = "Super 7";
+    Record("Spent", "2.00");
+    EXPECT_EQ(Spent(), Names{"1|Super 7|2"});
+}
+
+TEST_F(LedgerTest, AmountsConvertWithBlanksAndCommasAndNothingIsARowToo) {
+    Record("Spent", " 5.00");
+    Record("Spent", "1,000.50");
+    Record("Spent", "0.00");
+    EXPECT_EQ(Spent(), (Names{"1|Lotto649|5", "2|Lotto649|1000.5", "3|Lotto649|0"}));
+}
+
+TEST_F(LedgerTest, ABadAmountIsRefusedAndWritesNothing) {
+    for (const char* bad : {".", "", "12abc", "abc"}) {
+        world.ExpectStoreError(3421, "Please enter a valid amount and try again.");
+        Record("Spent", bad);
+    }
+    EXPECT_TRUE(Spent().empty());
+}
+
+TEST_F(LedgerTest, WhileWinningsAreEnteredTheFirstRowOfTheDateIsAmendedOnYes) {
+    g.EnteringWinnings = On;
+    Record("Winnings", "10.00");
+    ExpectQuestion(Answer::No);
+    Record("Winnings", "25.00");
+    EXPECT_EQ(Winnings(), Names{"1|Lotto649|10"});
+    ExpectQuestion(Answer::Yes);
+    Record("Winnings", "25.00");
+    EXPECT_EQ(Winnings(), Names{"1|Lotto649|25"});
+}
+
+TEST_F(LedgerTest, AnotherGameOnTheDateIsOnlyFoundWhenItStandsFirst) {
+    g.EnteringWinnings = On;
+    Record("Winnings", "10.00");
+    g.LottoFlag = "Super 7";
+    Record("Winnings", "20.00");
+    Record("Winnings", "30.00");
+    EXPECT_EQ(Winnings(), (Names{"1|Lotto649|10", "2|Super 7|20", "3|Super 7|30"}));
+}
+
+TEST_F(LedgerTest, BetweenEnterWinningsAndTheNextCheckSpendingMeetsTheSameQuestion) {
+    Record("Spent", "5.00");
+    g.EnteringWinnings = On;
+    ExpectQuestion(Answer::Yes);
+    Record("Spent", "7.00");
+    EXPECT_EQ(Spent(), Names{"1|Lotto649|7"});
+}
+
+TEST_F(LedgerTest, ABadAmountInAnAmendedRowLeavesTheOldOne) {
+    g.EnteringWinnings = On;
+    Record("Winnings", "10.00");
+    ExpectQuestion(Answer::Yes);
+    world.ExpectStoreError(3421, "Please enter a valid amount and try again.");
+    Record("Winnings", "ten");
+    EXPECT_EQ(Winnings(), Names{"1|Lotto649|10"});
+}
+
+TEST_F(LedgerTest, AMissingLedgerIsNamed) {
+    world.Plain().Do("DROP TABLE Spent");
+    world.ExpectStoreError(3011, "Unable to open Spent table. Please advise error number to support.");
+    Record("Spent", "5.00");
+}
+
+}  // namespace
+}  // namespace sorvane
