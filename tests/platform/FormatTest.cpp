@@ -116,7 +116,7 @@ TEST(FormatTest, PicturesInGeneral) {
 }
 
 TEST(FormatTest, WhatIsNoPictureIsInvalid) {
-    for (const std::string_view picture : {"0.0.0", "0.0,0", "0-0", "#a#", "0;0;0", "0.0x0"})
+    for (const std::string_view picture : {"0.0.0", "0.0,0", "0-0", "#a#", "0;0;0", "0;a;b", "0.0x0"})
         EXPECT_EQ(ErrorOf([&] { Show("1", picture); }), 5) << picture;
 }
 

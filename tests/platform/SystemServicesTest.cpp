@@ -42,7 +42,7 @@ TEST(SystemRandomTest, NumbersLieFromZeroUpToOneAndFillTheRange) {
         ASSERT_LT(number, 1);
         ++hits.at(static_cast<std::size_t>(number * 49));
     }
-    for (const int hit : hits) EXPECT_NEAR(hit, 100'000 / 49, 300);
+    for (const int hit : hits) EXPECT_NEAR(hit, 100'000 / 49.0, 300);
 }
 
 TEST(SystemRandomTest, NoTwoSequencesAreAlikeHoweverFastTheyFollow) {
