@@ -12,17 +12,20 @@ namespace sorvane::Dao {
 
 namespace {
 
-std::filesystem::file_type TypeOf(const std::string& path) {
+using std::filesystem::file_type;
+
+std::filesystem::path PathOf(const std::string& utf8) { return std::u8string(utf8.begin(), utf8.end()); }
+
+file_type TypeOf(const std::filesystem::path& path) {
     std::error_code ignored;
-    return std::filesystem::status(std::filesystem::path(std::u8string(path.begin(), path.end())), ignored)
-        .type();
+    return std::filesystem::status(path, ignored).type();
 }
 
 // SQLite does not tell a folder from a file that is locked away, and would wait at a pipe for ever.
 void RefuseNoFile(const std::string& path) {
-    const std::filesystem::file_type type = TypeOf(path);
-    if (type == std::filesystem::file_type::not_found) Raise(ErrorNumber::StoreFileNotFound);
-    if (type != std::filesystem::file_type::regular) Raise(ErrorNumber::NoPermission);
+    const file_type type = TypeOf(PathOf(path));
+    if (type == file_type::not_found) Raise(ErrorNumber::StoreFileNotFound);
+    if (type != file_type::regular) Raise(ErrorNumber::NoPermission);
 }
 
 template <class State>
@@ -115,8 +118,11 @@ Database Workspace::OpenDatabase(const std::string& path) {
 
 Database Workspace::CreateDatabase(const std::string& path, std::string_view) {
     if (engine_ == nullptr) Raise(ErrorNumber::ObjectClosed);
-    if (TypeOf(path) != std::filesystem::file_type::not_found) Raise(ErrorNumber::PathFileAccess);
-    // The first write makes the file: until then it is empty, as after a kill.
+    const std::filesystem::path file = PathOf(path);
+    if (TypeOf(file) != file_type::not_found) Raise(ErrorNumber::PathFileAccess);
+    if (file.has_parent_path() && TypeOf(file.parent_path()) != file_type::directory)
+        Raise(ErrorNumber::PathNotFound);
+    // Without a first write the file would have no bytes, and other tools would take it for anything.
     constexpr const char* MarkAsOurs = "PRAGMA application_id = 0x536F7276";
     Connection(path, engine_->vfs_, OpenAs::New).Execute(MarkAsOurs);
     return engine_->OpenDatabase(path, *flags_);

@@ -103,7 +103,10 @@ class Field {
 };
 
 // Rows of a table in insertion order, or in the order of the index once one is set (equal keys in insertion
-// order); or the rows of an SQL SELECT, read whole when it opened.
+// order); or the rows of an SQL SELECT, read whole when it opened, which can't be written (3020), sought
+// (3019) or put in the order of an index (3015). Opens on its first row.
+//
+// A loop of MoveNext and field reads holds a lock that lets nobody else write; any other verb gives it back.
 class Recordset {
   public:
     Recordset(Recordset&&) noexcept;
@@ -132,8 +135,10 @@ class Recordset {
     int FieldCount() const;
 
     void AddNew();
-    void Edit();    // 3021 without a current row
-    void Update();  // durable when it returns; the position is unchanged by AddNew
+    void Edit();  // 3021 without a current row
+    // Durable when it returns; the position is unchanged by AddNew. When it raises, nothing is written and
+    // the new or changed row is still there to be mended; a move, AddNew or Edit drops it.
+    void Update();
     void Delete();  // the position stays on the deleted row until a move
 
     void Close();
@@ -180,11 +185,12 @@ class Database {
 
     bool HasTable(std::string_view name);
     void Append(const TableDef& table);  // 3010 when it exists
-    // Makes the index `name` over one field of a table that exists (3011). A primary one takes no Null and no
-    // key twice.
+    // Makes the index `name` over one field of a table that exists (3011). A primary one takes no Null (3058)
+    // and no key twice (3022). 3010 when the table has an index of that name.
     void AppendIndex(std::string_view table, std::string_view name, std::string_view field, bool primary);
 
     // From here on rows are committed together, once, when the database closes: for the scratch table alone.
+    // Close raises when that fails, and the database is closed all the same.
     void OneCommit();
 
     void Close();
@@ -203,7 +209,7 @@ class Workspace {
     ~Workspace();  // closes
 
     Database OpenDatabase(const std::string& path);
-    // An empty database on disk; a file that exists is left alone (raises 75).
+    // An empty database on disk; a file that exists is left alone (raises 75). 76 when its folder is missing.
     Database CreateDatabase(const std::string& path, std::string_view locale);
     void Close();
 
@@ -223,7 +229,7 @@ class Engine {
                               OpenFlags& flags);
     Workspace Workspaces(int item, OpenFlags& flags);  // item 0, the default one
     // 3024 when there is no file, 3051 when it is a folder or may not be read, 3343 when it is no database or
-    // damaged, 3260 when another holds it for longer than a second.
+    // damaged, 3260 when another holds it for longer than a second. A file of no bytes is an empty database.
     Database OpenDatabase(const std::string& path, OpenFlags& flags);
 
   private:

@@ -149,7 +149,22 @@ void Connection::Configure() {
     // folder that may only be read cannot open it.
     Statement journal = Prepare("PRAGMA journal_mode = DELETE");
     if (!journal.Step() || journal.Text(0) != "delete") Raise(ErrorNumber::Locked);
-    Execute("SELECT count(*) FROM sqlite_schema");
+    CheckLength();
+}
+
+// SQLite fills up a last page that is cut off with zeros. The statement holds the lock under which the file's
+// length stands still.
+void Connection::CheckLength() {
+    Statement schema = Prepare("SELECT count(*) FROM sqlite_schema");
+    schema.Step();
+    Statement length = Prepare("SELECT page_count * page_size FROM pragma_page_count, pragma_page_size");
+    length.Step();
+    sqlite3_file* file = nullptr;
+    sqlite3_int64 bytes = 0;
+    sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    const int result = file->pMethods->xFileSize(file, &bytes);
+    if (result != SQLITE_OK) RaiseResult(result);
+    if (bytes < length.Int64(0)) Raise(ErrorNumber::NotADatabase);
 }
 
 }  // namespace sorvane::Dao

@@ -69,6 +69,7 @@ class Connection {
 
   private:
     void Configure();
+    void CheckLength();
 
     struct CloseHandle {
         void operator()(sqlite3* handle) const { sqlite3_close(handle); }

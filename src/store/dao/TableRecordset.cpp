@@ -1,5 +1,6 @@
 #include "store/dao/TableRecordset.h"
 
+#include <limits>
 #include <utility>
 
 #include "platform/RunTimeError.h"
@@ -146,9 +147,8 @@ void TableRecordset::Index(std::string_view name) {
     Leave();
     pending_.reset();
     Statement find = Database().Prepare(
-        "SELECT s.name, x.cid FROM sqlite_schema s, pragma_index_xinfo(s.name) x "
-        "WHERE s.type = 'index' AND s.tbl_name = ?1 AND s.name = ?2 COLLATE NOCASE "
-        "AND x.seqno = 0 AND x.cid >= 0");
+        "SELECT i.name, x.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x "
+        "WHERE i.name = ?2 COLLATE NOCASE AND NOT i.partial AND x.seqno = 0 AND x.cid >= 0");
     find.Bind(1, table_);
     find.Bind(2, IndexName(table_, name));
     if (!find.Step()) Raise(ErrorNumber::IndexNotFound);
@@ -342,6 +342,8 @@ void TableRecordset::Delete() {
     const int removed = Write(remove, -1);
     place_ = Place::Deleted;
     if (removed == 0) Raise(ErrorNumber::RecordDeleted);
+    // The next row to come may be given the number that has become free; it stands behind the position.
+    if (row_ > std::numeric_limits<std::int64_t>::min()) --row_;
 }
 
 }  // namespace sorvane::Dao

@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include <fstream>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -53,7 +54,8 @@ class PlainTool {
 
 class DaoWorld : public testing::Test {
   protected:
-    using Rows = std::vector<std::string>;
+    using Cells = std::vector<std::string>;
+    using Numbers = std::vector<int>;
 
     Database Open() { return engine_.OpenDatabase(path_, flags_); }
     Database Create() { return engine_.Workspaces(0, flags_).CreateDatabase(path_, ""); }
@@ -77,6 +79,7 @@ class DaoWorld : public testing::Test {
         db.AppendIndex("Every", "Date", "Date", false);
         return db;
     }
+    // One row of Every that holds what the test tells and Null elsewhere.
     static void Add(Recordset& rs, int id, double date, int ball = 0) {
         rs.AddNew();
         rs[0] = id;
@@ -84,12 +87,22 @@ class DaoWorld : public testing::Test {
         rs[4] = ball;
         rs.Update();
     }
-    void WriteBytes(const std::string& bytes) { std::ofstream(path_, std::ios::binary) << bytes; }
-    template <class Work>
-    static int NumberOf(Work work) {
-        return ErrorOf(work);
+    static std::vector<int> Ids(Recordset& rs) {
+        std::vector<int> ids;
+        while (!rs.AtEOF()) {
+            ids.push_back(rs[0].ToInt());
+            rs.MoveNext();
+        }
+        return ids;
     }
-
+    // Every with rows of these days, ID1 from 1 on.
+    void CreateWithDays(std::initializer_list<double> days) {
+        Database db = CreateEvery();
+        Recordset rs = db.OpenTable("Every");
+        int id = 0;
+        for (const double day : days) Add(rs, ++id, day);
+    }
+    void WriteBytes(const std::string& bytes) { std::ofstream(path_, std::ios::binary) << bytes; }
     TempFolder folder_;
     std::string path_ = folder_.File("sorvane.mdb");
     OpenFlags flags_;

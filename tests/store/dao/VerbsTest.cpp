@@ -3,12 +3,12 @@
 namespace sorvane::Dao {
 namespace {
 
-using Verbs = DaoWorld;
+class Verbs : public DaoWorld {};
 
 TEST_F(Verbs, ARowWrittenByOrdinalIsReadBackByNameAndOrdinal) {
     Database db = CreateEvery();
     Recordset rs = db.OpenTable("Every");
-    EXPECT_EQ(rs.RecordCount(), 0);
+    EXPECT_EQ(rs.FieldCount(), 6);
     rs.AddNew();
     rs[0] = 1;
     rs[1] = "Super 7";
@@ -17,44 +17,456 @@ TEST_F(Verbs, ARowWrittenByOrdinalIsReadBackByNameAndOrdinal) {
     rs[4] = "07";
     rs[5] = true;
     rs.Update();
-    EXPECT_EQ(rs.RecordCount(), 1);
     rs.MoveFirst();
     EXPECT_EQ(rs["ID1"].ToInt(), 1);
     EXPECT_EQ(rs["Lottoflag"].ToText(), "Super 7");
     EXPECT_EQ(rs[2].ToDate(), Date::FromYmd(2026, 11, 21));
     EXPECT_EQ(rs["Amount"].ToCurrency(), Currency::FromText("5"));
     EXPECT_EQ(rs["# of Balls"].ToInteger(), 7);
-    EXPECT_TRUE(rs["regular"].ToBool());
+    EXPECT_TRUE(rs["Regular"].ToBool());
 }
 
-TEST_F(Verbs, SeekFindsTheFirstRowOfADateAndTheWalkGoesOnInIndexOrder) {
-    Database db = CreateEvery();
+TEST_F(Verbs, NamesOfTablesIndexesAndFieldsAreFoundInAnyCase) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("EVERY");
+    rs.Index("date");
+    rs.Seek(10);
+    EXPECT_EQ(rs["# OF balls"].ToInt(), 0);
+    EXPECT_TRUE(db.HasTable("every"));
+}
+
+TEST_F(Verbs, ATableRunsInInsertionOrderUntilAnIndexIsSet) {
+    CreateWithDays({30, 10, 20, 10, 30});
+    Database db = Open();
     Recordset rs = db.OpenTable("Every");
-    const double days[] = {30, 10, 20, 10, 30};
-    for (int i = 0; i < 5; ++i) Add(rs, i + 1, days[i]);
+    EXPECT_EQ(Ids(rs), (Numbers{1, 2, 3, 4, 5}));
     rs.Index("Date");
-    rs.Seek(Date::FromDays(10));
-    ASSERT_FALSE(rs.NoMatch());
-    std::vector<int> ids;
-    while (!rs.AtEOF()) {
-        ids.push_back(rs[0].ToInt());
-        rs.MoveNext();
-    }
-    EXPECT_EQ(ids, (std::vector<int>{2, 4, 3, 1, 5}));
-    rs.Seek(Date::FromDays(15));
-    EXPECT_TRUE(rs.NoMatch());
+    rs.MoveFirst();
+    EXPECT_EQ(Ids(rs), (Numbers{2, 4, 3, 1, 5}));
     rs.MoveLast();
     EXPECT_EQ(rs[0].ToInt(), 5);
+    rs.Index("ID1");
+    rs.MoveFirst();
+    EXPECT_EQ(Ids(rs), (Numbers{1, 2, 3, 4, 5}));
 }
 
-TEST_F(Verbs, SqlGivesRowsInItsOrderAndEqualOnesAsTheyCame) {
+TEST_F(Verbs, RowsWithoutADateComeFirstInTheDateIndex) {
+    CreateWithDays({30, 10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    for (const int id : {3, 4}) {
+        rs.AddNew();
+        rs[0] = id;
+        rs.Update();
+    }
+    rs.Index("Date");
+    rs.MoveFirst();
+    EXPECT_TRUE(rs[2].IsNull());
+    EXPECT_EQ(Ids(rs), (Numbers{3, 4, 2, 1}));
+    rs.Seek({});
+    EXPECT_EQ(Ids(rs), (Numbers{3, 4, 2, 1}));
+}
+
+TEST_F(Verbs, SeekFindsTheFirstRowOfTheKeyInIndexOrder) {
+    CreateWithDays({30, 10, 20, 10, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(Date::FromDays(30));
+    EXPECT_FALSE(rs.NoMatch());
+    EXPECT_EQ(Ids(rs), (Numbers{1, 5}));
+    rs.Seek(Date::FromDays(10));
+    EXPECT_EQ(Ids(rs), (Numbers{2, 4, 3, 1, 5}));
+    rs.Index("ID1");
+    rs.Seek("3");
+    EXPECT_EQ(rs[0].ToInt(), 3);
+}
+
+TEST_F(Verbs, SeekWithoutAMatchLeavesNoCurrentRowAndMoveLastMends) {
+    CreateWithDays({10, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(Date::FromDays(20));
+    EXPECT_TRUE(rs.NoMatch());
+    EXPECT_FALSE(rs.AtEOF());
+    EXPECT_EQ(ErrorOf([&] { rs[0].ToInt(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), ErrorNumber::NoCurrentRecord);
+    rs.MoveLast();
+    EXPECT_EQ(rs[0].ToInt(), 2);
+    rs.Seek(Date::FromDays(10));
+    EXPECT_FALSE(rs.NoMatch());
+}
+
+TEST_F(Verbs, SeekComparesDatesByWholeDay) {
+    CreateWithDays({10.75, 10.25, 11});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(Date::FromDays(10.9));
+    EXPECT_EQ(Ids(rs), (Numbers{2, 1, 3}));
+    rs.Seek(Date::FromDays(9.99));
+    EXPECT_TRUE(rs.NoMatch());
+}
+
+TEST_F(Verbs, SeekOnAnEmptyTableFindsNothing) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(10);
+    EXPECT_TRUE(rs.NoMatch());
+}
+
+TEST_F(Verbs, AnEmptyTableIsAtBothEndsAndHasNoRowToMoveTo) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    EXPECT_EQ(rs.RecordCount(), 0);
+    EXPECT_TRUE(rs.BOF());
+    EXPECT_TRUE(rs.AtEOF());
+    EXPECT_EQ(ErrorOf([&] { rs.MoveFirst(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.MoveLast(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.Edit(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.Delete(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs[0].ToInt(); }), ErrorNumber::NoCurrentRecord);
+}
+
+TEST_F(Verbs, MoveNextFromTheLastRowComesToTheEndAndNoFurther) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    EXPECT_FALSE(rs.BOF());
+    EXPECT_FALSE(rs.AtEOF());
+    rs.MoveNext();
+    EXPECT_TRUE(rs.AtEOF());
+    EXPECT_FALSE(rs.BOF());
+    EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs[0].ToInt(); }), ErrorNumber::NoCurrentRecord);
+}
+
+TEST_F(Verbs, ThePositionStaysOnADeletedRowUntilAMove) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(20);
+    rs.Delete();
+    EXPECT_FALSE(rs.AtEOF());
+    EXPECT_EQ(ErrorOf([&] { rs[0].ToInt(); }), ErrorNumber::RecordDeleted);
+    EXPECT_EQ(ErrorOf([&] { rs.Edit(); }), ErrorNumber::RecordDeleted);
+    EXPECT_EQ(ErrorOf([&] { rs.Delete(); }), ErrorNumber::RecordDeleted);
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 3);
+    rs.Delete();
+    EXPECT_FALSE(rs.AtEOF());
+    rs.MoveNext();
+    EXPECT_TRUE(rs.AtEOF());
+    EXPECT_EQ(rs.RecordCount(), 1);
+}
+
+TEST_F(Verbs, ADeleteWalkEmptiesATable) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    for (rs.MoveFirst(); !rs.AtEOF(); rs.MoveNext()) rs.Delete();
+    EXPECT_EQ(rs.RecordCount(), 0);
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "0");
+}
+
+TEST_F(Verbs, ARowAddedAfterTheLastWasDeletedIsTheNextOne) {
+    CreateWithDays({10, 10});
+    Database db = Open();
+    for (const bool indexed : {false, true}) {
+        Recordset rs = db.OpenTable("Every");
+        if (indexed) rs.Index("Date");
+        rs.MoveLast();
+        rs.Delete();
+        Add(rs, 7, 10);
+        rs.MoveNext();
+        EXPECT_EQ(rs[0].ToInt(), 7);
+    }
+}
+
+TEST_F(Verbs, ARowThatAnotherDeletedCanBeReadButNotWritten) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveFirst();
+    Plain().Ask("DELETE FROM Every WHERE ID1 = 1");
+    EXPECT_EQ(rs[0].ToInt(), 1);
+    EXPECT_EQ(ErrorOf([&] { rs.Edit(); }), ErrorNumber::RecordDeleted);
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 2);
+    rs.Edit();
+    rs[4] = 9;
+    Plain().Ask("DELETE FROM Every WHERE ID1 = 2");
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::RecordDeleted);
+    rs.MoveFirst();
+    Plain().Ask("DELETE FROM Every WHERE ID1 = 3");
+    EXPECT_EQ(ErrorOf([&] { rs.Delete(); }), ErrorNumber::RecordDeleted);
+}
+
+TEST_F(Verbs, AnyVerbButMoveNextAndAFieldReadLetsOthersWrite) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    const std::function<void()> verbs[] = {
+        [&] { rs.MoveFirst(); }, [&] { rs.MoveLast(); }, [&] { rs.Seek(20); },
+        [&] { rs.AddNew(); },    [&] { rs.Edit(); },     [&] { rs.Index("Date"); },
+    };
+    for (const auto& verb : verbs) {
+        rs.MoveFirst();
+        rs.MoveNext();
+        verb();
+        Plain().Ask("UPDATE Every SET Lottoflag = 'x'");
+    }
+    rs.Seek(20);
+    rs.MoveNext();
+    rs.MoveNext();
+    EXPECT_TRUE(rs.AtEOF());
+    Plain().Ask("UPDATE Every SET Lottoflag = 'y'");
+}
+
+TEST_F(Verbs, EditChangesTheFieldsWrittenAndNoOthers) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Edit();
+    Plain().Ask("UPDATE Every SET Lottoflag = 'BC49'");
+    rs["Amount"] = "2.50";
+    EXPECT_EQ(rs["Amount"].ToCurrency(), Currency::FromText("2.5"));
+    rs.Update();
+    EXPECT_EQ(Plain().Ask("SELECT * FROM Every"), (Cells{"1", "BC49", "10", "2.5", "0", "0"}));
+}
+
+TEST_F(Verbs, EditShowsWhatAnotherWroteSince) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveFirst();
+    Plain().Ask("UPDATE Every SET Lottoflag = 'BC49'");
+    rs.Edit();
+    EXPECT_EQ(rs[1].ToText(), "BC49");
+}
+
+TEST_F(Verbs, ARowWhoseKeyIsEditedTakesThePositionWithIt) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.MoveFirst();
+    rs.Edit();
+    rs["Date"] = 25;
+    rs.Update();
+    EXPECT_EQ(rs[2].ToDate(), Date::FromDays(25));
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 3);
+}
+
+TEST_F(Verbs, UpdateWithNothingWrittenAfterEditChangesNothing) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Edit();
+    rs.Update();
+    EXPECT_EQ(rs[0].ToInt(), 1);
+}
+
+TEST_F(Verbs, AddNewLeavesThePosition) {
+    CreateWithDays({10, 20});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveFirst();
+    Add(rs, 3, 15);
+    EXPECT_EQ(rs[0].ToInt(), 1);
+    rs.MoveNext();
+    EXPECT_EQ(Ids(rs), (Numbers{2, 3}));
+}
+
+TEST_F(Verbs, AMoveDropsTheRowInHand) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.AddNew();
+    rs[0] = 2;
+    rs.MoveFirst();
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(rs.RecordCount(), 1);
+}
+
+TEST_F(Verbs, ARowThatWasRefusedCanBeMendedAndWritten) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.AddNew();
+    rs[0] = 1;
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::KeyTaken);
+    EXPECT_EQ(rs.RecordCount(), 1);
+    rs[0] = 2;
+    rs.Update();
+    EXPECT_EQ(rs.RecordCount(), 2);
+}
+
+TEST_F(Verbs, FieldsNeverWrittenAreNullButABooleanIsFalse) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    rs.AddNew();
+    rs[0] = 1;
+    EXPECT_TRUE(rs[1].IsNull());
+    EXPECT_FALSE(rs[5].ToBool());
+    rs.Update();
+    for (const int ordinal : {1, 2, 3, 4}) {
+        EXPECT_TRUE(rs[ordinal].IsNull());
+        EXPECT_EQ(ErrorOf([&] { rs[ordinal].ToInt(); }), ErrorNumber::InvalidUseOfNull);
+        EXPECT_EQ(ErrorOf([&] { rs[ordinal].ToText(); }), ErrorNumber::InvalidUseOfNull);
+    }
+    EXPECT_EQ(Plain().Ask("SELECT * FROM Every"), (Cells{"1", "NULL", "NULL", "NULL", "NULL", "0"}));
+}
+
+TEST_F(Verbs, SqlRowsComeInTheirOrderAndEqualOnesAsTheyWereInserted) {
     Database db = CreateEvery();
     Recordset rs = db.OpenTable("Every");
     for (int i = 0; i < 4; ++i) Add(rs, i + 1, 10, i % 2);
-    Recordset sorted = db.OpenSql("SELECT * FROM [Every] ORDER BY [# of Balls] DESC");
-    std::vector<int> ids;
-    for (sorted.MoveFirst(); !sorted.AtEOF(); sorted.MoveNext()) ids.push_back(sorted[0].ToInt());
-    EXPECT_EQ(ids, (std::vector<int>{2, 4, 1, 3}));
+    Recordset down = db.OpenSql("SELECT * FROM [Every] ORDER BY [# of Balls] DESC");
+    EXPECT_EQ(down.RecordCount(), 4);
+    EXPECT_EQ(Ids(down), (Numbers{2, 4, 1, 3}));
+    EXPECT_EQ(ErrorOf([&] { down.MoveNext(); }), ErrorNumber::NoCurrentRecord);
+    down.MoveFirst();
+    EXPECT_EQ(down["ID1"].ToInt(), 2);
+    down.MoveLast();
+    EXPECT_EQ(down[0].ToInt(), 3);
+    Recordset up = db.OpenSql("select * from every order by [# of Balls]");
+    EXPECT_EQ(Ids(up), (Numbers{1, 3, 2, 4}));
+}
+
+TEST_F(Verbs, SqlTakesItsValuesInTurnAndComparesTextByCase) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    const char* keys[] = {"BC49", "bc49", "BC49", "x' OR '1'='1"};
+    for (int i = 0; i < 4; ++i) {
+        rs.AddNew();
+        rs[0] = i + 1;
+        rs[1] = keys[i];
+        rs[2] = 50 - i;
+        rs[3] = "0.5";
+        rs.Update();
+    }
+    Recordset some = db.OpenSql("SELECT * FROM [Every] WHERE [Lottoflag] = ? ORDER BY [Date]", {"BC49"});
+    EXPECT_EQ(some[3].ToCurrency(), Currency::FromText("0.5"));
+    EXPECT_EQ(some[2].ToDate(), Date::FromDays(48));
+    EXPECT_FALSE(some[5].ToBool());
+    EXPECT_EQ(Ids(some), (Numbers{3, 1}));
+    Recordset two = db.OpenSql("SELECT * FROM [Every] WHERE [Lottoflag] = ? AND [ID1] > ?", {"BC49", 1});
+    EXPECT_EQ(Ids(two), (Numbers{3}));
+    Recordset literal = db.OpenSql("SELECT * FROM [Every] WHERE [Lottoflag] = 'BC49 FROM x'");
+    EXPECT_TRUE(literal.AtEOF());
+    EXPECT_TRUE(literal.BOF());
+    EXPECT_EQ(ErrorOf([&] { literal.MoveFirst(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { literal.MoveLast(); }), ErrorNumber::NoCurrentRecord);
+}
+
+TEST_F(Verbs, SqlRowsStayAsTheyWereWhileTheTableChanges) {
+    CreateWithDays({10, 20});
+    Database db = Open();
+    Recordset sql = db.OpenSql("SELECT * FROM [Every]");
+    Plain().Ask("DELETE FROM Every");
+    EXPECT_EQ(Ids(sql), (Numbers{1, 2}));
+}
+
+TEST_F(Verbs, SqlRowsCannotBeWrittenOrSought) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset sql = db.OpenSql("SELECT * FROM [Every]");
+    EXPECT_EQ(ErrorOf([&] { sql.AddNew(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(ErrorOf([&] { sql.Edit(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(ErrorOf([&] { sql.Update(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(ErrorOf([&] { sql.Delete(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(ErrorOf([&] { sql[0] = 1; }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(ErrorOf([&] { sql.Index("Date"); }), ErrorNumber::IndexNotFound);
+    EXPECT_EQ(ErrorOf([&] { sql.Seek(1); }), ErrorNumber::NoIndexSet);
+    EXPECT_FALSE(sql.NoMatch());
+}
+
+TEST_F(Verbs, SqlThatIsNoSelectChangesNothing) {
+    CreateWithDays({10});
+    Database db = Open();
+    for (const char* sql : {"DELETE FROM [Every]", "DROP TABLE [Every]", "", "SELECT", "SELECT 'x"})
+        EXPECT_NE(ErrorOf([&] { db.OpenSql(sql); }), 0) << sql;
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
+}
+
+TEST_F(Verbs, RecordCountIsExactWhileOthersWrite) {
+    CreateWithDays({10, 20});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    Recordset other = db.OpenTable("Every");
+    EXPECT_EQ(rs.RecordCount(), 2);
+    Plain().Ask("INSERT INTO Every (ID1) VALUES (3), (4)");
+    EXPECT_EQ(rs.RecordCount(), 4);
+    Add(rs, 5, 10);
+    Plain().Ask("DELETE FROM Every WHERE ID1 = 1");
+    EXPECT_EQ(rs.RecordCount(), 4);
+    Add(other, 6, 10);
+    EXPECT_EQ(rs.RecordCount(), 5);
+    rs.MoveLast();
+    rs.Delete();
+    EXPECT_EQ(rs.RecordCount(), 4);
+    EXPECT_EQ(other.RecordCount(), 4);
+}
+
+TEST_F(Verbs, RecordCountWithinAWalkLeavesTheWalkAlone) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveNext();
+    EXPECT_EQ(rs.RecordCount(), 3);
+    EXPECT_EQ(Ids(rs), (Numbers{2, 3}));
+}
+
+TEST_F(Verbs, ASecondConnectionReadsARowAsSoonAsUpdateReturns) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    Add(rs, 1, 10);
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
+}
+
+TEST_F(Verbs, OneCommitHoldsTheRowsBackUntilTheDatabaseCloses) {
+    CreateWithDays({});
+    Database db = Open();
+    db.OneCommit();
+    Recordset rs = db.OpenTable("Every");
+    Add(rs, 1, 10);
+    Add(rs, 2, 10);
+    rs.MoveFirst();
+    rs.Delete();
+    EXPECT_EQ(rs.RecordCount(), 1);
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "0");
+    db.Close();
+    EXPECT_EQ(Plain().One("SELECT ID1 FROM Every"), "2");
+}
+
+TEST_F(Verbs, OneCommitIsKeptByTheDestructorToo) {
+    CreateWithDays({});
+    {
+        Database db = Open();
+        db.OneCommit();
+        Recordset rs = db.OpenTable("Every");
+        Add(rs, 1, 10);
+    }
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
+}
+
+TEST_F(Verbs, SettingABooleanOrTextToNullLeavesFalseAndNull) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Edit();
+    rs[1] = Value();
+    rs[5] = Value();
+    rs.Update();
+    EXPECT_EQ(Plain().Ask("SELECT Lottoflag, Regular FROM Every"), (Cells{"NULL", "0"}));
 }
 
 }  // namespace

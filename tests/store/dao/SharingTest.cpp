@@ -1,0 +1,192 @@
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+
+#include "DaoWorld.h"
+
+namespace sorvane::Dao {
+namespace {
+
+// Another program at the same file: a process of its own, since locks belong to processes. It must come into
+// being before this one has anything open, or SQLite would take our locks for its own.
+class OtherProgram {
+  public:
+    explicit OtherProgram(const std::string& path) {
+        EXPECT_EQ(pipe(orders_), 0);
+        EXPECT_EQ(pipe(answers_), 0);
+        process_ = fork();
+        if (process_ == 0) Obey(path);
+        close(orders_[0]);
+        close(answers_[1]);
+    }
+    OtherProgram(const OtherProgram&) = delete;
+    OtherProgram& operator=(const OtherProgram&) = delete;
+    ~OtherProgram() {
+        Kill();
+        close(orders_[1]);
+        close(answers_[0]);
+    }
+
+    void Do(const std::string& sql) {
+        EXPECT_EQ(write(orders_[1], sql.c_str(), sql.size() + 1), static_cast<ssize_t>(sql.size() + 1));
+        char answer = 0;
+        EXPECT_EQ(read(answers_[0], &answer, 1), 1);
+        EXPECT_EQ(answer, 'y') << sql;
+    }
+    void Kill() {
+        if (process_ == 0) return;
+        kill(process_, SIGKILL);
+        waitpid(process_, nullptr, 0);
+        process_ = 0;
+    }
+
+  private:
+    [[noreturn]] void Obey(const std::string& path) {
+        sqlite3* handle = nullptr;
+        std::string sql;
+        for (char letter = 0; read(orders_[0], &letter, 1) == 1;) {
+            if (letter != 0) {
+                sql += letter;
+                continue;
+            }
+            if (handle == nullptr) sqlite3_open(path.c_str(), &handle);
+            const bool done = sqlite3_exec(handle, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+            if (write(answers_[1], done ? "y" : "n", 1) != 1) break;
+            sql.clear();
+        }
+        _exit(0);
+    }
+
+    int orders_[2] = {};
+    int answers_[2] = {};
+    pid_t process_ = 0;
+};
+
+class Sharing : public DaoWorld {
+  protected:
+    template <class Work>
+    static double SecondsOf(Work work) {
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    }
+    static void ExpectAboutASecond(double seconds) {
+        EXPECT_GT(seconds, 0.9);
+        EXPECT_LT(seconds, 3.0);
+    }
+
+    OtherProgram other_{path_};
+};
+
+TEST_F(Sharing, AFileThatAnotherHoldsIsLockedAfterASecond) {
+    CreateWithDays({10});
+    other_.Do("BEGIN EXCLUSIVE");
+    ExpectAboutASecond(SecondsOf([&] { EXPECT_EQ(ErrorOf([&] { Open(); }), ErrorNumber::Locked); }));
+}
+
+TEST_F(Sharing, ARowIsRefusedAfterASecondWhileAnotherWrites) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    other_.Do("BEGIN IMMEDIATE");
+    rs.MoveFirst();
+    EXPECT_EQ(rs[0].ToInt(), 1);
+    ExpectAboutASecond(SecondsOf([&] { EXPECT_EQ(ErrorOf([&] { Add(rs, 2, 10); }), ErrorNumber::Locked); }));
+    EXPECT_EQ(rs.RecordCount(), 1);
+}
+
+TEST_F(Sharing, AnotherWalkOfTheSameDatabaseDoesNotCutTheWaitShort) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset walking = db.OpenTable("Every");
+    Recordset rs = db.OpenTable("Every");
+    walking.MoveNext();
+    other_.Do("BEGIN IMMEDIATE");
+    ExpectAboutASecond(SecondsOf([&] { EXPECT_EQ(ErrorOf([&] { Add(rs, 4, 10); }), ErrorNumber::Locked); }));
+    EXPECT_EQ(Ids(walking), (Numbers{2, 3}));
+}
+
+TEST_F(Sharing, ARowRefusedByALockIsWrittenOnceTheLockIsGone) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.AddNew();
+    rs[0] = 2;
+    other_.Do("BEGIN IMMEDIATE");
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::Locked);
+    other_.Do("ROLLBACK");
+    rs.Update();
+    EXPECT_EQ(rs.RecordCount(), 2);
+}
+
+TEST_F(Sharing, AReaderElsewhereHoldsACommitUpAndTheRowIsUndone) {
+    CreateWithDays({10});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    other_.Do("BEGIN; SELECT * FROM Every");
+    EXPECT_EQ(ErrorOf([&] { Add(rs, 2, 10); }), ErrorNumber::Locked);
+    EXPECT_EQ(rs.RecordCount(), 1);
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
+}
+
+TEST_F(Sharing, OneCommitThatCannotBeMadeRaisesAtCloseAndClosesAllTheSame) {
+    CreateWithDays({10});
+    Database db = Open();
+    db.OneCommit();
+    Recordset rs = db.OpenTable("Every");
+    Add(rs, 2, 10);
+    other_.Do("BEGIN; SELECT * FROM Every");
+    EXPECT_EQ(ErrorOf([&] { db.Close(); }), ErrorNumber::Locked);
+    EXPECT_EQ(flags_.DbOpen, 0);
+    EXPECT_EQ(flags_.RsOpen, 0);
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
+}
+
+TEST_F(Sharing, AMoveRefusedByALockLeavesThePosition) {
+    CreateWithDays({10, 20});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(10);
+    other_.Do("BEGIN EXCLUSIVE");
+    EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), ErrorNumber::Locked);
+    EXPECT_EQ(rs[0].ToInt(), 1);
+    other_.Do("ROLLBACK");
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 2);
+}
+
+TEST_F(Sharing, TheRestOfAWalkLetsNobodyWriteUntilTheRecordsetIsLeft) {
+    CreateWithDays({10, 20, 30});
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveNext();
+    other_.Do("BEGIN IMMEDIATE; INSERT INTO Every (ID1) VALUES (4)");
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 3);
+    rs.MoveLast();
+    EXPECT_EQ(rs[0].ToInt(), 3);
+    other_.Do("COMMIT");
+    rs.MoveNext();
+    EXPECT_EQ(rs[0].ToInt(), 4);
+}
+
+TEST_F(Sharing, AProcessKilledInTheMiddleOfAWriteLeavesTheRowsBefore) {
+    CreateWithDays({10});
+    other_.Do(
+        "PRAGMA cache_size = 1; PRAGMA cache_spill = 1; BEGIN IMMEDIATE;"
+        "WITH RECURSIVE n(i) AS (SELECT 2 UNION ALL SELECT i + 1 FROM n WHERE i < 5000)"
+        "INSERT INTO Every (ID1, Lottoflag) SELECT i, 'half a transaction' FROM n");
+    other_.Kill();
+    ASSERT_TRUE(std::filesystem::exists(path_ + "-journal"));
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    EXPECT_EQ(rs.RecordCount(), 1);
+    EXPECT_EQ(rs[0].ToInt(), 1);
+    EXPECT_EQ(Plain().One("PRAGMA integrity_check"), "ok");
+}
+
+}  // namespace
+}  // namespace sorvane::Dao

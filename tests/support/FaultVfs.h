@@ -1,0 +1,66 @@
+// A disk that fails on purpose: a file layer for SQLite over the system's own.
+#pragma once
+
+#include <sqlite3.h>
+
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace sorvane {
+
+// While it lives, an engine that is given its name reads and writes through it. One thread at a time. Nothing
+// is really synced: the counts tell what would be.
+class FaultVfs {
+  public:
+    // What can fail. A write that fails leaves its first half on the disk.
+    enum class Operation { Open, Read, Write, Truncate, Sync, Lock, Delete };
+    static constexpr std::array<Operation, 7> Operations = {
+        Operation::Open, Operation::Read, Operation::Write, Operation::Truncate,
+        Operation::Sync, Operation::Lock, Operation::Delete};
+    enum class Lasting { Once, Always };
+
+    explicit FaultVfs(std::string name);
+    FaultVfs(const FaultVfs&) = delete;
+    FaultVfs& operator=(const FaultVfs&) = delete;
+    ~FaultVfs();
+    const std::string& Name() const { return name_; }
+
+    // From now on the n-th operation of this kind fails, counted from 1, or that one and all behind it.
+    void FailAt(Operation operation, int n, Lasting lasting);
+    // From now on the disk takes that many bytes more.
+    void FullAfter(std::int64_t bytes);
+    // From now on the n-th change of the disk (of any kind, counted from 1) fails and so does everything
+    // behind it: what stands on the disk then is what a process killed at that moment leaves.
+    void DieAt(int n);
+    // Nothing fails, and the counts begin anew.
+    void Heal();
+
+    // Operations of this kind, and failures of any, since the last of the calls above.
+    int Count(Operation operation) const { return counts_[static_cast<std::size_t>(operation)]; }
+    int Failures() const { return failures_; }
+
+    // For the file layer: counts, and tells whether this one fails.
+    bool Fails(Operation operation);
+    // How many of these bytes still fit.
+    int Fitting(int bytes);
+    sqlite3_vfs& System() const { return *system_; }
+
+  private:
+    std::string name_;
+    sqlite3_vfs* system_;
+    sqlite3_vfs vfs_;
+    std::array<int, Operations.size()> counts_{};
+    int failures_ = 0;
+    Operation failing_ = Operation::Open;
+    int failAt_ = 0;
+    int dieAt_ = 0;
+    int changes_ = 0;
+    Lasting lasting_ = Lasting::Once;
+    std::int64_t room_ = std::numeric_limits<std::int64_t>::max();
+};
+
+const char* NameOf(FaultVfs::Operation operation);
+
+}  // namespace sorvane
