@@ -1,0 +1,168 @@
+#include "checking/StoreData.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "platform/Text.h"
+
+namespace sorvane {
+
+namespace {
+
+// How the rows of a Win table are laid out.
+struct WinRow {
+    int DateAt;
+    std::optional<int> FlagAt;
+    int FirstNumber;
+    int Count;
+    bool EndsTickets = false;  // a new row sets TotalTickets to 0
+};
+
+constexpr WinRow Lotto6Win{.DateAt = 1, .FlagAt = {}, .FirstNumber = 2, .Count = 7};
+constexpr WinRow Lotto7Win{.DateAt = 1, .FlagAt = {}, .FirstNumber = 2, .Count = 8};
+// Here the game key stands behind the date.
+constexpr WinRow KenoWin{.DateAt = 1, .FlagAt = 2, .FirstNumber = 3, .Count = 20, .EndsTickets = true};
+constexpr WinRow Pick3Win{.DateAt = 2, .FlagAt = 1, .FirstNumber = 3, .Count = 3};
+constexpr WinRow Pick4Win{.DateAt = 2, .FlagAt = 1, .FirstNumber = 3, .Count = 4};
+
+template <class Boxes>
+void PutBoxes(Dao::Recordset& Rs, int at, const Boxes& boxes, int count) {
+    for (int i = 0; i < count; ++i) Rs[at + i] = boxes.at(static_cast<std::size_t>(i));
+}
+
+// Whether the table has a row of the date; it is then the current one.
+bool FindDate(Dao::Recordset& Rs, int count, Date date) {
+    if (count <= 0) return false;
+    Rs.Index("Date");
+    Rs.Seek(date);
+    return !Rs.NoMatch();
+}
+
+// Asks whether the row of the date is to be written anew, and keeps the answer.
+bool RecheckWanted(Run& run) {
+    Global& g = run.global;
+    if (g.StatUpdate == On)
+        g.Msg = "You have already entered a Winning Number on this Draw Date." + g.NL +
+                "Would you like to correct this Winning Number?";
+    else
+        g.Msg = "You have already performed a search on this Draw Date." + g.NL +
+                "Would you like to perform a re-check?";
+    const Answer answer = run.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "RECHECK?");
+    g.MsgResult = static_cast<int>(answer);
+    const bool wanted = answer == Answer::Yes;
+    g.RecheckAccepted = wanted ? True : Off;
+    g.RecheckRefused = wanted ? Off : True;
+    return wanted;
+}
+
+void AddWin(Run& run, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes, Dao::Recordset& Rs,
+            int key) {
+    Global& g = run.global;
+    Rs.AddNew();
+    Rs[0] = key;
+    Rs[row.DateAt] = at.WindowDate;
+    if (row.FlagAt) Rs[*row.FlagAt] = g.LottoFlag;
+    PutBoxes(Rs, row.FirstNumber, boxes.Main, row.Count);
+    Rs.Update();
+    if (row.EndsTickets) g.TotalTickets = 0;
+}
+
+void StoreWin(Run& run, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes) {
+    StoreRoutine(run, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        const int count = Rs.RecordCount();
+        if (FindDate(Rs, count, at.WindowDate)) {
+            if (!RecheckWanted(run)) return;
+            Rs.Edit();
+            PutBoxes(Rs, row.FirstNumber, boxes.Main, row.Count);
+            Rs.Update();
+            return;
+        }
+        if (count > 0) Rs.MoveLast();
+        AddWin(run, at, row, boxes, Rs, count + 1);
+    });
+}
+
+}  // namespace
+
+void StoreLotto6Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(run, at, Lotto6Win, boxes);
+}
+void StoreLotto7Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(run, at, Lotto7Win, boxes);
+}
+void StoreKenoWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(run, at, KenoWin, boxes);
+}
+void StorePick3Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(run, at, Pick3Win, boxes);
+}
+void StorePick4Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(run, at, Pick4Win, boxes);
+}
+
+namespace {
+
+constexpr int FourCount = 4;
+constexpr int ExtraFirst = 3;
+// One lower than the table tells: the date goes, as text, where the game stands, and the first number goes
+// where the date stands. Nothing reads this table.
+constexpr int EarlyBirdFirst = 2;
+
+// From the row found to the first one of the game, whatever its date.
+bool WalkToGame(Dao::Recordset& Rs, const std::string& LottoFlag) {
+    while (!Rs.AtEOF()) {
+        const Dao::Value key = Rs[1];
+        if (!key.IsNull() && key.ToText() == LottoFlag) return true;
+        Rs.MoveNext();
+    }
+    return false;
+}
+
+}  // namespace
+
+void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    const Global& g = run.global;
+    StoreRoutine(run, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        const int count = Rs.RecordCount();
+        bool found = FindDate(Rs, count, at.WindowDate);
+        const bool earlyBird = g.LottoFlag == "Lottario";
+        if (found && !earlyBird && g.ExtraFlag == "Extra") found = WalkToGame(Rs, g.LottoFlag);
+        if (found) {
+            Rs.Edit();
+        } else {
+            Rs.AddNew();
+            Rs[0] = count + 1;
+            if (!earlyBird) Rs[1] = g.LottoFlag;
+            Rs[earlyBird ? 1 : 2] = at.WindowDate;
+        }
+        PutBoxes(Rs, earlyBird ? EarlyBirdFirst : ExtraFirst, boxes.Four, FourCount);
+        Rs.Update();
+    });
+}
+
+void StoreAddOnWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
+    const Global& g = run.global;
+    const int digits = AddOnDigits(g.ExtraFlag);
+    StoreRoutine(run, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+        const int count = Rs.RecordCount();
+        if (FindDate(Rs, count, at.WindowDate)) {
+            Rs.Edit();
+        } else {
+            Rs.AddNew();
+            Rs[0] = count + 1;
+        }
+        Rs[1] = g.LottoFlag;
+        Rs[2] = boxes.DrawDate;
+        for (int i = 0; i < digits; ++i) Rs[3 + i] = Mid(boxes.Encore, i + 1, 1);
+        Rs.Update();
+    });
+}
+
+}  // namespace sorvane
