@@ -1,17 +1,537 @@
 #include "checking/ui/CheckTicketsTab.h"
 
+#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "checking/CheckFacts.h"
+#include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
+#include "forms/BusyPointer.h"
+#include "forms/Look.h"
+#include "platform/Text.h"
+#include "store/CheckTB_DBExists.h"
+#include "store/CreateTables.h"
 
 namespace sorvane {
 
-CheckTicketsTab::CheckTicketsTab(GameWindow& window) : window_(window) {
-    auto* page = new QVBoxLayout(&window_.Pages[Tab::Check]);
-    page->addWidget(&window_.dtpEnterTickets.Load(2));
-    page->addWidget(&window_.cmdExit.Load(2, "E&xit"));
+namespace {
+
+using namespace CheckFacts;
+
+constexpr int BoxesARow = 10;
+constexpr int FourBoxes = 4;
+
+void RefuseAndKeep(forms::KeyPress& key) {
+    forms::Window::MsgBox(KeyText, BoxStyle::Exclamation, KeyTitle);
+    key.Swallow();
 }
 
-void CheckTicketsTab::ForgetResults() {}
+bool IsRowKey(int key) { return IsDigit(key) || key == Backspace; }
+
+// A value outside 1 to `top` empties the box and keeps it in hand; an empty box is no such value.
+void GuardRange(forms::TextBox& box, int top, std::string_view text) {
+    if (top == 0 || box.Text().empty()) return;
+    const double value = Val(box.Text());
+    if (value >= 1 && value <= top) return;
+    forms::Window::MsgBox(text, BoxStyle::Exclamation, RangeTitle);
+    box.SetText("");
+    box.SetFocus();
+}
+
+bool IsWinner(std::string_view line) {
+    return line.starts_with("Congratulations") ||
+           (line.find(" won ") != std::string_view::npos && !line.starts_with("Sorry"));
+}
+
+StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
+
+}  // namespace
+
+CheckTicketsTab::CheckTicketsTab(GameWindow& window)
+    : txtWin(BoxStem[window.Which]), cboWin(BoxStem[window.Which]), window_(window) {
+    window.dtpEnterTickets.Load(2).SetAccessibleName("Draw Date");
+    window.cmdExit.Load(2, "E&xit");
+    MakeBoxes();
+    constexpr std::string_view advice[] = {"Ensure correct Draw Date", "is selected prior to clicking",
+                                           "on \"Enter Winnings\" button."};
+    for (int i = 0; i < 3; ++i) lblEnsure.Load(i, advice[i]);
+    lstNumbersPlayed.SetHint("The tickets of the draw date");
+    lstMessage.SetHint("Enter the winning numbers and check");
+    lstMessage.SetWinners([](int, std::string_view line) { return IsWinner(line); });
+    AttachHandlers();
+    LayOut();
+}
+
+void CheckTicketsTab::MakeBoxes() {
+    const Family family = window_.Which;
+    const int count = BoxCount[family];
+    for (int i = 0; i < count; ++i) {
+        if (IsPick(family)) {
+            forms::ComboBox& box = cboWin.Load(i, forms::ComboBox::Style::ListOnly);
+            for (int digit = 0; digit <= 9; ++digit) box.AddItem(Str(digit));
+            box.SetText("");
+            box.SetAccessibleName("Winning digit " + Str(i + 1));
+        } else {
+            const bool bonus = !IsKeno(family) && i == count - 1;
+            txtWin.Load(i).SetAccessibleName(bonus ? "Bonus number" : "Winning number " + Str(i + 1));
+        }
+    }
+    if (HasFour[family]) {
+        if (FourTested[family] == FourTest::Always)
+            lblWinEarlybird.emplace("lblWinEarlybird", "Enter Earlybird Numbers:");
+        for (int i = 0; i < FourBoxes; ++i)
+            txtWin4.Load(i).SetAccessibleName((lblWinEarlybird ? "Earlybird number " : "Extra number ") +
+                                              Str(i + 1));
+    }
+    if (HasEncoreBox[family]) {
+        lblWinEncore.emplace("lblWinEncore", "Enter Encore Number:");
+        txtWinEncore.emplace("txtWinEncore");
+    }
+    if (HasEncoreList[family]) {
+        lblEncorePlayed.emplace("lblEncorePlayed", "Encore #'s:");
+        lstEncorePlayed.emplace("lstEncorePlayed").SetHint("Its add-on numbers");
+    }
+}
+
+void CheckTicketsTab::AttachHandlers() {
+    const Family family = window_.Which;
+    txtWin.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin_KeyPress(Index, key); });
+    txtWin.OnLostFocus(
+        [this, family](int Index) { GuardRange(txtWin(Index), Top[family], RangeText[family]); });
+    txtWin4.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin4_KeyPress(Index, key); });
+    txtWin4.OnLostFocus(
+        [this, family](int Index) { GuardRange(txtWin4(Index), FourTop[family], FourRangeText[family]); });
+    if (txtWinEncore && GuardsEncoreKeys[family])
+        txtWinEncore->OnKeyPress([this](forms::KeyPress& key) { txtWinEncore_KeyPress(key); });
+    if (txtWinEncore && GuardsEncoreExit[family])
+        txtWinEncore->OnLostFocus([this] { txtWinEncore_LostFocus(); });
+    if (WonFilter[family]) {
+        txtDollarsWon.OnGotFocus([this] { txtDollarsWon.SelectAll(); });
+        txtDollarsWon.OnKeyPress([this](forms::KeyPress& key) { txtDollarsWon_KeyPress(key); });
+    }
+    if (FollowsRows[family]) lstMessage.OnDblClick([this] { lstMessage_DblClick(); });
+    if (ClickFollows[family]) lstNumbersPlayed.OnClick([this] { lstNumbersPlayed_Click(); });
+    chkStatUpdate.OnClick([this] { chkStatUpdate_Click(); });
+    cmdCheck.OnClick([this] { cmdCheck_Click(); });
+    cmdEnterWinnings.OnClick([this] { cmdEnterWinnings_Click(); });
+}
+
+void CheckTicketsTab::LayOut() {
+    QWidget& page = window_.Pages[Tab::Check];
+    const int gap = forms::Look::Gap(page);
+    auto* whole = new QVBoxLayout(&page);
+    whole->setContentsMargins(gap, gap, gap, gap);
+    whole->setSpacing(gap);
+    whole->addLayout(WinnerRow());
+    whole->addLayout(ListsRow(), 1);
+    whole->addLayout(WinningsRow());
+    OrderTabs();
+}
+
+QLayout* CheckTicketsTab::WinnerRow() {
+    QWidget& page = window_.Pages[Tab::Check];
+    const int space = forms::Look::Space(page);
+    auto* date = new QVBoxLayout;
+    date->setSpacing(space / 2);
+    lblDrawDate.SetBuddy(window_.dtpEnterTickets(2));
+    date->addWidget(&lblDrawDate);
+    date->addWidget(&window_.dtpEnterTickets(2));
+    date->addStretch(1);
+
+    auto* numbers = new QGridLayout;
+    numbers->setSpacing(space);
+    const int width = forms::Look::DigitsWidth(page, 3);
+    txtWin.ForEach([&](forms::TextBox& box, int i) {
+        box.setFixedWidth(width);
+        numbers->addWidget(&box, i / BoxesARow, i % BoxesARow);
+    });
+    cboWin.ForEach([&](forms::ComboBox& box, int i) { numbers->addWidget(&box, 0, i); });
+    auto* addOn = new QHBoxLayout;
+    addOn->setSpacing(space);
+    if (lblWinEarlybird) addOn->addWidget(&*lblWinEarlybird);
+    // In the windows of two add-ons one label names the number and the four numbers alike.
+    if (lblWinEncore && !lblWinEarlybird) addOn->addWidget(&*lblWinEncore);
+    txtWin4.ForEach([&](forms::TextBox& box, int) {
+        box.setFixedWidth(width);
+        addOn->addWidget(&box);
+    });
+    if (lblWinEarlybird) addOn->addWidget(&*lblWinEncore);
+    if (txtWinEncore) {
+        txtWinEncore->setFixedWidth(forms::Look::DigitsWidth(page, 8));
+        addOn->addWidget(&*txtWinEncore);
+        lblWinEncore->SetBuddy(*txtWinEncore);
+    }
+    addOn->addStretch(1);
+    auto* boxes = new QHBoxLayout;
+    boxes->addLayout(numbers);
+    boxes->addStretch(1);
+    auto* winner = new QVBoxLayout(&frmWinner);
+    winner->addLayout(boxes);
+    winner->addLayout(addOn);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(forms::Look::Gap(page));
+    row->addLayout(date);
+    row->addWidget(&frmWinner, 1);
+    return row;
+}
+
+QLayout* CheckTicketsTab::ListsRow() {
+    QWidget& page = window_.Pages[Tab::Check];
+    auto* lists = new QGridLayout;
+    lists->setHorizontalSpacing(forms::Look::Gap(page));
+    lists->setVerticalSpacing(forms::Look::Space(page) / 2);
+    int column = 0;
+    const auto add = [&](forms::Label& label, forms::ListBox& list, int share) {
+        label.SetBuddy(list);
+        lists->addWidget(&label, 0, column);
+        lists->addWidget(&list, 1, column);
+        lists->setColumnStretch(column++, share);
+    };
+    add(lblNumbersPlayed, lstNumbersPlayed, 3);
+    if (lstEncorePlayed) add(*lblEncorePlayed, *lstEncorePlayed, 2);
+    add(lblMessage, lstMessage, 5);
+    return lists;
+}
+
+QLayout* CheckTicketsTab::WinningsRow() {
+    QWidget& page = window_.Pages[Tab::Check];
+    const int space = forms::Look::Space(page);
+    auto* advice = new QVBoxLayout;
+    advice->setSpacing(0);
+    lblEnsure.ForEach([&](forms::Label& label, int) { advice->addWidget(&label); });
+    auto* winnings = new QHBoxLayout(&Frame1);
+    winnings->setSpacing(space);
+    lblDollarsWon.SetBuddy(txtDollarsWon);
+    txtDollarsWon.setFixedWidth(forms::Look::DigitsWidth(page, 10));
+    winnings->addWidget(&lblDollarsWon);
+    winnings->addWidget(&txtDollarsWon);
+    winnings->addWidget(&cmdEnterWinnings);
+    winnings->addSpacing(forms::Look::Gap(page));
+    winnings->addLayout(advice);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(space);
+    row->addWidget(&Frame1);
+    row->addStretch(1);
+    row->addWidget(&chkStatUpdate, 0, Qt::AlignBottom);
+    row->addWidget(&cmdCheck, 0, Qt::AlignBottom);
+    row->addWidget(&window_.cmdExit(2), 0, Qt::AlignBottom);
+    return row;
+}
+
+void CheckTicketsTab::OrderTabs() {
+    QWidget* last = &window_.dtpEnterTickets(2);
+    const auto next = [&](QWidget& widget) {
+        QWidget::setTabOrder(last, &widget);
+        last = &widget;
+    };
+    txtWin.ForEach([&](forms::TextBox& box, int) { next(box); });
+    cboWin.ForEach([&](forms::ComboBox& box, int) { next(box); });
+    txtWin4.ForEach([&](forms::TextBox& box, int) { next(box); });
+    if (txtWinEncore) next(*txtWinEncore);
+    next(chkStatUpdate);
+    next(cmdCheck);
+    next(lstNumbersPlayed);
+    if (lstEncorePlayed) next(*lstEncorePlayed);
+    next(lstMessage);
+    next(txtDollarsWon);
+    next(cmdEnterWinnings);
+    next(window_.cmdExit(2));
+}
+
+std::string CheckTicketsTab::MainText(int index) const {
+    return IsPick(window_.Which) ? cboWin(index).Text() : txtWin(index).Text();
+}
+
+forms::Control& CheckTicketsTab::MainBox(int index) {
+    if (IsPick(window_.Which)) return cboWin(index);
+    return txtWin(index);
+}
+
+WinningBoxes CheckTicketsTab::Boxes() const {
+    WinningBoxes boxes;
+    for (int i = 0; i < BoxCount[window_.Which]; ++i) boxes.Main.push_back(MainText(i));
+    txtWin4.ForEach(
+        [&](forms::TextBox& box, int i) { boxes.Four[static_cast<std::size_t>(i)] = box.Text(); });
+    if (txtWinEncore) boxes.Encore = txtWinEncore->Text();
+    boxes.DrawDate = window_.dtpEnterTickets(2).Value();
+    return boxes;
+}
+
+void CheckTicketsTab::EmptyMainBoxes() {
+    txtWin.ForEach([](forms::TextBox& box, int) { box.SetText(""); });
+    cboWin.ForEach([](forms::ComboBox& box, int) { box.SetText(""); });
+}
+
+void CheckTicketsTab::ClearLists() {
+    lstMessage.Clear();
+    lstNumbersPlayed.Clear();
+    if (lstEncorePlayed) lstEncorePlayed->Clear();
+}
+
+void CheckTicketsTab::ForgetResults() {
+    EmptyMainBoxes();
+    if (txtWinEncore) txtWinEncore->SetText("");
+    if (DateEmptiesFour[window_.Which]) txtWin4.ForEach([](forms::TextBox& box, int) { box.SetText(""); });
+    ClearLists();
+}
+
+bool CheckTicketsTab::StatOnly() const {
+    return KnowsStatUpdate[window_.Which] && window_.run.global.StatUpdate == On;
+}
+
+void CheckTicketsTab::cmdCheck_Click() {
+    if (!RunCheck()) return;
+    window_.run.global.EntryCounter = 0;
+    window_.run.global.NoRowForDate = Off;
+}
+
+bool CheckTicketsTab::RunCheck() {
+    const Family family = window_.Which;
+    window_.run.global.EnteringWinnings = Off;
+    window_.State.WindowDate = window_.dtpEnterTickets(2).Value();
+    if (!DateHasCome()) return true;
+    if (ListsCleared[family] == Clearing::AfterDate) {
+        lstMessage.Clear();
+        lstNumbersPlayed.Clear();
+    }
+    if (AddOnTested[family] == AddOnTest::BeforeBoxes && !AddOnIsLongEnough()) return false;
+    if (!BoxesAreFilled()) return true;
+    if (ListsCleared[family] == Clearing::AfterBoxes) ClearLists();
+    if (!StatOnly()) {
+        const AddOnTest when = AddOnTested[family];
+        if ((when == AddOnTest::AfterBoxes || when == AddOnTest::AfterLists) && !AddOnIsLongEnough())
+            return !TooShortEndsAtOnce[family];
+        if (ListsCleared[family] == Clearing::AfterAddOn) ClearLists();
+        if (!ReadTickets()) return true;
+    }
+    StoreDraw();
+    if (!GoesOnToJudging()) return true;
+    const WinningBoxes boxes = Boxes();
+    JudgeTickets(boxes);
+    CheckAddOn(boxes);
+    return true;
+}
+
+bool CheckTicketsTab::DateHasCome() {
+    Run& run = window_.run;
+    if (window_.State.WindowDate <= run.services.clock.Today()) return true;
+    run.global.Msg = FutureText;
+    forms::Window::MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
+    return false;
+}
+
+bool CheckTicketsTab::Missing(std::string_view text, std::string_view title, forms::Control& box) {
+    window_.run.global.Msg = text;
+    forms::Window::MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
+    box.SetFocus();
+    return false;
+}
+
+bool CheckTicketsTab::BoxesAreFilled() {
+    const Family family = window_.Which;
+    if (!BoxesRequired[family]) return true;
+    for (int i = 0; i < BoxCount[family]; ++i)
+        if (MainText(i).empty()) return Missing(MissingText[family], MissingTitle[family], MainBox(i));
+    return FourTested[family] != FourTest::Always || StatOnly() || FourAreFilled();
+}
+
+bool CheckTicketsTab::FourAreFilled() {
+    for (int i = 0; i < FourBoxes; ++i)
+        if (txtWin4(i).Text().empty()) return Missing(FourMissingText[window_.Which], CheckTitle, txtWin4(i));
+    return true;
+}
+
+bool CheckTicketsTab::AddOnIsLongEnough() {
+    const Family family = window_.Which;
+    const Global& g = window_.run.global;
+    if (StatOnly()) return true;
+    if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
+    if (ClearsEncoreListAtTest[family] && lstEncorePlayed) lstEncorePlayed->Clear();
+    if (FourTested[family] == FourTest::UnderExtra && g.ExtraFlag == "Extra") return FourAreFilled();
+    if (Len(txtWinEncore->Text()) >= AddOnDigits(g.ExtraFlag)) return true;
+    return Missing(TooShortText(family, g.ExtraFlag), TooShortTitle[family], *txtWinEncore);
+}
+
+bool CheckTicketsTab::ReadTickets() {
+    WindowState& state = window_.State;
+    Run& run = window_.run;
+    if (const auto table = CheckTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    Read[window_.Which](run, At(state), lstNumbersPlayed);
+    return run.global.NoRowForDate != On;
+}
+
+void CheckTicketsTab::StoreDraw() {
+    WindowState& state = window_.State;
+    Run& run = window_.run;
+    if (const auto table = WinTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    if (ProbesWin[window_.Which])
+        MakeSureOf(run, state.DbName, state.TableName, [&] {
+            CreateWinKenoTable(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
+        });
+    Store[window_.Which](run, At(state), Boxes());
+}
+
+bool CheckTicketsTab::GoesOnToJudging() {
+    Global& g = window_.run.global;
+    if (RefusalStops[window_.Which] && g.RecheckRefused == True) {
+        g.RecheckRefused = Off;
+        g.RecheckAccepted = True;
+        return false;
+    }
+    if (!StatOnly()) return true;
+    if (g.RecheckAccepted != True) {
+        g.RecheckAccepted = True;
+        return false;
+    }
+    g.Msg = UpdatedText;
+    forms::Window::MsgBox(g.Msg, BoxStyle::Ok, UpdatedTitle);
+    if (UpdateEmptiesBoxes[window_.Which]) EmptyMainBoxes();
+    return false;
+}
+
+void CheckTicketsTab::JudgeTickets(const WinningBoxes& boxes) {
+    const Family family = window_.Which;
+    Run& run = window_.run;
+    if (AlsoStore[family]) {
+        window_.State.TableName = AlsoWin[family];
+        AlsoStore[family](run, At(window_.State), boxes);
+    }
+    forms::BusyPointer busy;
+    const int rows = run.global.EntryCounter;
+    for (int Row = 0; Row < rows; ++Row) {
+        CheckFacts::Check[family](run, boxes, Row, lstMessage);
+        if (AlsoCheck[family]) AlsoCheck[family](run, boxes, Row, lstMessage);
+        busy.Tick();
+    }
+    window_.State.TicketRows = lstNumbersPlayed.ListCount();
+    run.global.EntryCounter = 0;
+}
+
+void CheckTicketsTab::CheckAddOn(const WinningBoxes& boxes) {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const AddOnPass* pass = FindAddOnPass(window_.Which, run.global.ExtraFlag);
+    if (!pass || !lstEncorePlayed) return;
+    const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
+    state.TableName = addOn.Played;
+    pass->Read(run, At(state), *lstEncorePlayed);
+    state.TableName = addOn.Win;
+    pass->Store(run, At(state), boxes);
+    forms::BusyPointer busy;
+    const int rows = run.global.EntryCounter;
+    for (int Row = 0; Row < rows; ++Row) {
+        pass->Check(run, boxes, Row, lstMessage);
+        busy.Tick();
+    }
+}
+
+void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
+    if (IsRowKey(key.KeyAscii)) return;
+    if (key.KeyAscii != sorvane::EnterKey || EnterInBox[window_.Which] != CheckFacts::EnterKey::Moves) {
+        RefuseKey(txtWin(Index), key);
+        return;
+    }
+    if (txtWin.IsLoaded(Index + 1)) txtWin(Index + 1).SetFocus();
+    else txtWin4(0).SetFocus();
+}
+
+void CheckTicketsTab::txtWin4_KeyPress(int Index, forms::KeyPress& key) {
+    if (IsRowKey(key.KeyAscii)) return;
+    const bool moves = EnterInFour[window_.Which] == CheckFacts::EnterKey::Moves;
+    if (key.KeyAscii == sorvane::EnterKey && moves) {
+        if (Index + 1 < FourBoxes) txtWin4(Index + 1).SetFocus();
+        else cmdCheck.SetFocus();
+        return;
+    }
+    if (RefusalEmptiesFour[window_.Which]) RefuseKey(txtWin4(Index), key);
+    else RefuseAndKeep(key);
+}
+
+void CheckTicketsTab::txtWinEncore_KeyPress(forms::KeyPress& key) {
+    // Backspace, too, moves on: meant.
+    if (key.KeyAscii == Backspace || key.KeyAscii == sorvane::EnterKey) cmdCheck.SetFocus();
+    else if (!IsDigit(key.KeyAscii)) RefuseAndKeep(key);
+}
+
+void CheckTicketsTab::txtWinEncore_LostFocus() {
+    const int length = Len(txtWinEncore->Text());
+    if (length < 6) {
+        window_.run.global.Msg = EncoreExitText;
+        forms::Window::MsgBox(window_.run.global.Msg, BoxStyle::Ok, EncoreExitTitle);
+        txtWinEncore->SetFocus();
+    } else if (length == 6) {
+        cmdCheck.SetFocus();
+    }
+}
+
+void CheckTicketsTab::txtDollarsWon_KeyPress(forms::KeyPress& key) {
+    const int k = key.KeyAscii;
+    if (!IsRowKey(k) && k != ',' && k != '.' && k != sorvane::EnterKey) RefuseAndKeep(key);
+}
+
+void CheckTicketsTab::chkStatUpdate_Click() {
+    const bool on = chkStatUpdate.Value() == 1;
+    window_.run.global.StatUpdate = on ? On : Off;
+    cmdCheck.SetCaption(on ? "&Update" : "&Check");
+    const unsigned disables = StatDisables[window_.Which];
+    if (disables & StatControls::EarlyBird) lblWinEarlybird->SetEnabled(!on);
+    if (disables & StatControls::Four)
+        txtWin4.ForEach([on](forms::TextBox& box, int) { box.SetEnabled(!on); });
+    if (disables & StatControls::Encore) {
+        lblWinEncore->SetEnabled(!on);
+        txtWinEncore->SetEnabled(!on);
+    }
+}
+
+void CheckTicketsTab::lstMessage_DblClick() {
+    const int row = lstMessage.ListIndex();
+    const int split = window_.State.TicketRows;
+    if (row < split) {
+        lstNumbersPlayed.SetListIndex(row);
+        lstEncorePlayed->ClearSelection();
+    } else {
+        lstEncorePlayed->SetListIndex(row - split);
+        lstNumbersPlayed.ClearSelection();
+    }
+}
+
+void CheckTicketsTab::lstNumbersPlayed_Click() {
+    // The first click after the window opened does nothing: meant.
+    if (window_.State.ListArmed == On) lstMessage.SetListIndex(lstNumbersPlayed.ListIndex());
+    else window_.State.ListArmed = On;
+}
+
+void CheckTicketsTab::cmdEnterWinnings_Click() {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const bool probes = ProbesForWinnings[window_.Which];
+    run.global.EnteringWinnings = On;
+    run.global.TableOpened = Off;
+    state.WindowDate = window_.dtpEnterTickets(2).Value();
+    if (const auto table = WinningsTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    if (probes) MakeSureOfTable();
+    FindDrawEntry(run, At(state));
+    if (run.global.WinningsDrawFound == Off) return;
+    run.global.TableOpened = Off;
+    state.TableName = "Winnings";
+    if (probes) MakeSureOfTable();
+    run.global.Dollars = txtDollarsWon.Text();
+    StoreLedgerAmount(run, At(state));
+    // The box comes in every case, also when nothing was stored: meant.
+    run.global.Msg = SavedText;
+    forms::Window::MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
+}
+
+void CheckTicketsTab::MakeSureOfTable() {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const Creator& played = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayed6Table;
+    const Creator& creator = state.TableName == "Winnings" ? CreateWinningsTable : played;
+    MakeSureOf(run, state.DbName, state.TableName,
+               [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+}
 
 }  // namespace sorvane
