@@ -1,0 +1,102 @@
+#include "quickpick/GenerateQuickPicks.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Text.h"
+#include "quickpick/GeneralFunctions.h"
+#include "quickpick/QuickPickFacts.h"
+#include "shell/Catalogue.h"
+
+namespace sorvane {
+
+namespace {
+
+constexpr int KenoShape = 20;
+// Positions beyond these are never drawn.
+constexpr int MostPositions = 20;
+
+// One statement; when it fails the next one runs.
+template <class Statement>
+bool Try(Statement statement) {
+    return ErrorOf(statement) == 0;
+}
+
+bool IsDigitShape(int numbersPerTicket) { return numbersPerTicket == 3 || numbersPerTicket == 4; }
+bool IsLottoShape(int numbersPerTicket) { return numbersPerTicket == 6 || numbersPerTicket == 7; }
+
+// Both 0 for a key that the generator does not know.
+struct Range {
+    int max = 0;
+    int count = 0;
+};
+
+Range RangeOf(const Global& g) {
+    for (const GameKey& key : GameKeys()) {
+        const std::string_view compared = key.QuickPickKey.empty() ? key.LottoFlag : key.QuickPickKey;
+        if (compared != g.LottoFlag) continue;
+        const int count = QuickPickCount[key.in];
+        return {QuickPickMax[key.in], count == AsChosen ? int{g.NoOfBallsPerTicket} : count};
+    }
+    return {};
+}
+
+int DrawBelow(RandomSource& random, int max) { return static_cast<int>(std::floor(random.Rnd() * max)); }
+
+bool StandsBefore(const Array<Integer>& numbers, int position) {
+    for (int earlier = position - 1; earlier >= 0; --earlier)
+        if (numbers(earlier) == numbers(position)) return true;
+    return false;
+}
+
+void DrawDigits(Run& run, const Range& range) {
+    for (int position = 0; position < std::min(range.count, MostPositions); ++position)
+        run.global.Numbers(position) = DrawBelow(run.services.random, range.max);
+}
+
+void DrawNumbers(Run& run, const Range& range) {
+    Array<Integer>& numbers = run.global.Numbers;
+    for (int position = 0; position < std::min(range.count, MostPositions); ++position) {
+        do numbers(position) = DrawBelow(run.services.random, range.max) + 1;
+        while (StandsBefore(numbers, position));
+    }
+}
+
+std::string KenoLine(const Global& g) {
+    std::string line;
+    const int last = g.NoOfBallsPerTicket - 1;
+    for (int i = 0; i <= last; ++i) Try([&] { line.append(Str(g.Numbers(i))).append(i < last ? ", " : ""); });
+    return line;
+}
+
+std::string Line(const Global& g, int count) {
+    std::string line = Str(g.Numbers(0));
+    for (int i = 1; i < count; ++i) line.append(", ").append(Str(g.Numbers(i)));
+    return line;
+}
+
+}  // namespace
+
+void GenerateQuickPicks(Run& run, const Integer& numbersPerTicket, const Integer& ticketCount,
+                        Array<std::string>& quickPicks, Lines& lstDisplay) {
+    Global& g = run.global;
+    const Range range = RangeOf(g);
+    const int shape = numbersPerTicket;
+    const bool keno = shape == KenoShape, lotto = IsLottoShape(shape), digits = IsDigitShape(shape);
+    if (range.max > 0) Try([&] { g.Numbers.Redim(range.count); });
+    Try([&] { quickPicks.Redim(ticketCount); });
+    for (int t = 0; t < ticketCount; ++t) {
+        Try([&] { run.services.random.Randomize(); });
+        if (digits) Try([&] { DrawDigits(run, range); });
+        if (lotto || keno) Try([&] { DrawNumbers(run, range); });
+        if (!digits) Try([&] { SortNumbers(g, g.Numbers); });
+        if (keno) Try([&] { lstDisplay.AddItem(KenoLine(g)); });
+        if (!lotto && !digits) continue;
+        std::string line;
+        if (!Try([&] { line = Line(g, shape); })) continue;
+        Try([&] { lstDisplay.AddItem(line); });
+        Try([&] { quickPicks(t) = line; });
+    }
+}
+
+}  // namespace sorvane

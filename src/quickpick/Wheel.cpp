@@ -1,0 +1,229 @@
+#include "quickpick/Wheel.h"
+
+#include <cmath>
+#include <limits>
+
+#include "platform/Text.h"
+#include "quickpick/GeneralFunctions.h"
+#include "quickpick/GenerateQuickPicks.h"
+#include "reports/DisplayData.h"
+#include "store/DeleteData.h"
+#include "store/StoreRoutine.h"
+
+namespace sorvane {
+
+namespace {
+
+constexpr std::string_view WinTableOfWheel = "WinLottario";
+constexpr int WheelLength = 6;
+
+// Rotates the pool's slots 0 to `last` one place to the left; the first goes to the end. `aside` must hold as
+// many.
+void Rotate(Array<Integer>& pool, Array<Integer>& aside, int last) {
+    for (int j = 0; j <= last; ++j) aside(j) = pool(j);
+    for (int j = 0; j < last; ++j) pool(j) = aside(j + 1);
+    pool(last) = aside(0);
+}
+
+// The separators go by position, whatever the length of the ticket.
+std::string Joined(const Array<Integer>& numbers, int count, int lastPosition) {
+    std::string line;
+    for (int i = 0; i < count && i <= lastPosition; ++i)
+        line.append(Str(numbers(i))).append(i < lastPosition ? ", " : "");
+    return line;
+}
+
+constexpr int LastOfSix = 5;
+
+// The three wheels that have rows behind the first.
+struct Wheel {
+    int size;
+    bool byWheelSize;  // rotates WheelSize slots, else as many as the pool has numbers
+    int lastPosition;  // of a line
+    bool sorted;       // the line shows the sorted ticket, else the pool as it was rotated
+};
+constexpr Wheel Wheels[] = {
+    {7, false, LastOfSix, true},
+    {8, false, LastOfSix + 1, false},
+    // Rotates more slots than any pool has: eight numbers can't be wheeled. Meant.
+    {56, true, LastOfSix, true},
+};
+
+std::string NextRow(Global& g, const Wheel& wheel, Array<Integer>& pool, Array<Integer>& aside,
+                    Array<Integer>& ticket) {
+    Rotate(pool, aside, (wheel.byWheelSize ? wheel.size : pool.UBound()) - 1);
+    for (int i = 0; i <= wheel.lastPosition; ++i) ticket(i) = pool(i);
+    SortNumbers(g, ticket);
+    return Joined(wheel.sorted ? ticket : pool, wheel.lastPosition + 1, wheel.lastPosition);
+}
+
+void ShowTooManyTickets(Run& run) {
+    Global& g = run.global;
+    g.Msg = "You have entered a value for the Number of Tickets which exceeds" + g.NL +
+            "the maximum possible combinations. Please reduce this number.";
+    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
+}
+
+void ShowRows(Run& run, const WheelWindow& window, const Array<std::string>& rows) {
+    const int tickets = run.global.NoOfTickets;
+    if (tickets - 1 > rows.UBound()) {
+        ShowTooManyTickets(run);
+        window.face.RefuseTicketCount();
+        return;
+    }
+    for (int x = 0; x < tickets; ++x) window.lstDisplay.AddItem(rows(x));
+}
+
+}  // namespace
+
+void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool,
+                  const Integer& numbersPerTicket) {
+    Global& g = run.global;
+    if (g.WheelSize < 1) Raise(ErrorNumber::SubscriptOutOfRange);
+    const int last = g.WheelSize - 1;
+    Array<std::string> WheelRows;
+    Array<Integer> ticket, aside;
+    WheelRows.Redim(last);
+    ticket.Redim(last);
+    aside.Redim(last);
+    WheelRows(0) = Joined(pool, numbersPerTicket, LastOfSix);
+    for (const Wheel& wheel : Wheels) {
+        if (wheel.size != g.WheelSize) continue;
+        for (int r = 1; r <= last; ++r) WheelRows(r) = NextRow(g, wheel, pool, aside, ticket);
+    }
+    ShowRows(run, window, WheelRows);
+}
+
+void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName, int upperBound,
+                    const Array<Integer>& frequencies) {
+    TableName = "Temp";
+    StoreRoutine(run, Tails::Open, TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(TableName);
+        if (Rs.RecordCount() != 0) DeleteAllRows(run, DbName, TableName);
+        // Not before: emptying the table opens the file for itself.
+        Db.OneCommit();
+        for (int i = 0; i <= upperBound; ++i) {
+            Rs.AddNew();
+            Rs[0] = i + 1;
+            Rs[1] = i + 1;
+            Rs[2] = frequencies(i);
+            Rs.Update();
+        }
+        Db.Close();
+    });
+}
+
+namespace {
+
+bool HasEnoughDraws(Run& run, const std::string& DbName, const std::string& TableName) {
+    constexpr int FewestDraws = 20;
+    if (CountDrawRows(run, DbName, TableName) >= FewestDraws) return true;
+    Global& g = run.global;
+    g.Msg = "Not enough data to generate Hot Numbers. Please enter additional Winning Number history" + g.NL +
+            "and try again";
+    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Not Enough Data");
+    return false;
+}
+
+// What differs between hot and cold.
+constexpr std::string_view HotOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq] DESC";
+constexpr std::string_view ColdOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq]";
+
+void GenerateFrequencyWheel(Run& run, std::string_view order, const Integer& howMany,
+                            const std::string& DbName, std::string& TableName, const WheelWindow& window,
+                            const Integer& mode, const Integer& NumbersPerTicket,
+                            const Integer& wheelLength) {
+    Global& g = run.global;
+    if (!HasEnoughDraws(run, DbName, TableName)) return;
+    TallyByGameShape(run, NumbersPerTicket, DbName, TableName, window.chart, mode);
+    Array<Integer> pool;
+    pool.Redim(howMany);
+    BuildTempTable(run, DbName, TableName, g.BallFrequency.UBound(), g.BallFrequency);
+    Dao::Database Db = run.services.engine.OpenDatabase(DbName, g.Open);
+    Dao::Recordset Rs = Db.OpenSql(order);
+    if (Rs.RecordCount() > 0) {
+        Rs.MoveFirst();
+        for (int i = 0; i < howMany; ++i) {
+            pool(i) = Rs[1].ToInteger();
+            Rs.MoveNext();
+        }
+    }
+    DeleteAllRows(run, DbName, TableName);
+    SortNumbers(g, pool);
+    for (int i = 0; i < howMany; ++i) window.face.ShowFavourite(i, Str(pool(i)));
+    WheelTickets(run, window, pool, wheelLength);
+    g.Generating = false;
+}
+
+}  // namespace
+
+void GenerateHotWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
+                      const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
+                      const Integer& wheelLength) {
+    GenerateFrequencyWheel(run, HotOrder, howMany, DbName, TableName, window, mode, NumbersPerTicket,
+                           wheelLength);
+}
+
+void GenerateColdWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
+                       const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
+                       const Integer& wheelLength) {
+    GenerateFrequencyWheel(run, ColdOrder, howMany, DbName, TableName, window, mode, NumbersPerTicket,
+                           wheelLength);
+}
+
+namespace {
+
+// The number of a favourite box, 0 where none is typed; beyond 16 bits an overflow.
+Integer FavouriteNumber(const std::string& text) {
+    const double value = std::nearbyint(Val(text));
+    if (std::fabs(value) > std::numeric_limits<std::int16_t>::max()) Raise(ErrorNumber::Overflow);
+    return static_cast<int>(value);
+}
+
+void WheelFavourites(Run& run, const WheelRun& wheel, const WheelWindow& window, Array<Integer>& pool) {
+    Global& g = run.global;
+    for (int i = 0; i < wheel.HowManyToWheel; ++i) {
+        const std::string text = window.face.Favourite(i);
+        if (Val(text) == 0) {
+            g.Msg = "Please enter your favourite Numbers prior to clicking on the" + g.NL +
+                    "Generate Numbers button.";
+            run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
+            window.face.AskForFavourite(i);
+            return;
+        }
+        pool(i) = FavouriteNumber(text);
+    }
+    WheelTickets(run, window, pool, WheelLength);
+    g.Generating = false;
+}
+
+}  // namespace
+
+void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& window) {
+    Global& g = run.global;
+    Array<Integer> pool;
+    pool.Redim(wheel.HowManyToWheel);
+    window.lstDisplay.Clear();
+    g.Generating = true;
+    wheel.mode = ReportMode;
+    switch (wheel.type) {
+        case WheelType::QuickPick:
+            GenerateQuickPicks(run, wheel.NumbersPerTicket, g.NoOfTickets, wheel.QuickPicks,
+                               window.lstDisplay);
+            g.Generating = false;
+            return;
+        case WheelType::Favourites:
+            return WheelFavourites(run, wheel, window, pool);
+        case WheelType::Hot:
+        case WheelType::Cold: {
+            window.face.EmptyFavourites();
+            wheel.TableName = WinTableOfWheel;
+            const auto generate = wheel.type == WheelType::Hot ? GenerateHotWheel : GenerateColdWheel;
+            generate(run, wheel.HowManyToWheel, wheel.DbName, wheel.TableName, window, wheel.mode,
+                     wheel.NumbersPerTicket, WheelLength);
+        }
+    }
+}
+
+}  // namespace sorvane

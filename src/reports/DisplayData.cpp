@@ -1,0 +1,366 @@
+#include "reports/DisplayData.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "platform/Text.h"
+#include "reports/PadAmount.h"
+#include "reports/ReportTypes.h"
+#include "shell/Catalogue.h"
+#include "store/StoreRoutine.h"
+
+namespace sorvane {
+
+namespace {
+
+// The fields of a win table that hold what was drawn.
+struct DrawnFields {
+    int first;
+    int count;
+};
+constexpr DrawnFields SixNumbers{2, 7};  // with the bonus
+constexpr DrawnFields SevenNumbers{2, 8};
+constexpr DrawnFields KenoNumbers{3, 20};
+constexpr int FirstDigitField = 3;
+
+void ShowNoDraws(Run& run) {
+    Global& g = run.global;
+    g.Msg =
+        "No Winning Numbers entered yet. Please enter Winning Number data" + g.NL + "and try again." + g.NL;
+    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
+}
+
+// Hands each row of the win table to `eachDraw`; `atEnd` follows when there was any.
+template <class EachDraw, class AtEnd>
+void ReadDraws(Run& run, const std::string& DbName, const std::string& TableName, EachDraw eachDraw,
+               AtEnd atEnd) {
+    StoreRoutine(run, Tails::Open, TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(TableName);
+        const int rows = Rs.RecordCount();
+        if (rows < 1) return ShowNoDraws(run);
+        Rs.MoveFirst();
+        for (int row = 0; row < rows; ++row) {
+            eachDraw(Rs);
+            if (!Rs.AtEOF()) Rs.MoveNext();
+        }
+        atEnd();
+    });
+}
+
+// Counts the numbers 0 to `top`; an unknown game has no tally, and its first number is outside it.
+template <class AtEnd>
+void TallyNumbers(Run& run, const std::string& DbName, const std::string& TableName, DrawnFields fields,
+                  int top, AtEnd atEnd) {
+    Array<Integer> tally;
+    if (top > 0) tally.Redim(top);
+    const auto count = [&](Dao::Recordset& Rs) {
+        for (int i = 0; i < fields.count; ++i) ++tally(Rs[fields.first + i].ToInteger());
+    };
+    ReadDraws(run, DbName, TableName, count, [&] { atEnd(tally); });
+}
+
+void DrawFrequencies(const Array<Integer>& tally, ChartFace& chart) {
+    for (int n = 1; n <= tally.UBound(); ++n) {
+        chart.Row(n);
+        chart.Data(tally(n));
+    }
+}
+
+// Slot i gets the count of the number i + 1.
+void CopyShifted(const Array<Integer>& tally, Array<Integer>& to) {
+    for (int n = 1; n <= tally.UBound(); ++n) to(n - 1) = tally(n);
+}
+
+void KeepSixNumberTally(Global& g, const Array<Integer>& tally, bool lottario) {
+    const int upper = lottario ? 44 : 49;
+    g.Numbers.Redim(upper);
+    g.Favourites.Redim(upper);
+    CopyShifted(tally, g.Numbers);
+    CopyShifted(tally, g.Favourites);
+    if (lottario && g.Generating) g.BallFrequency = g.Numbers;
+}
+
+int TopKenoNumber(const std::string& LottoFlag) {
+    if (FindKey(Family::frmKeno70, LottoFlag)) return 70;
+    return FindKey(Family::frmKeno80, LottoFlag) ? 80 : 0;
+}
+
+}  // namespace
+
+void TallySixNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
+                             ChartFace& chart, const Integer& mode) {
+    Global& g = run.global;
+    const bool lottario = g.LottoFlag == "Lottario";
+    TallyNumbers(run, DbName, TableName, SixNumbers, lottario ? 45 : 49, [&](const Array<Integer>& tally) {
+        if (mode == ReportMode) KeepSixNumberTally(g, tally, lottario);
+        if (mode == ChartMode && !g.Generating) DrawFrequencies(tally, chart);
+    });
+}
+
+void TallySevenNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
+                               ChartFace& chart, const Integer& mode) {
+    Global& g = run.global;
+    if (g.LottoFlag == "Super 7") g.Numbers.Redim(49);
+    TallyNumbers(run, DbName, TableName, SevenNumbers, 49, [&](const Array<Integer>& tally) {
+        if (mode == ReportMode) CopyShifted(tally, g.Numbers);
+        if (mode == ChartMode) DrawFrequencies(tally, chart);
+    });
+}
+
+void TallyKenoFrequency(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+                        const Integer& mode) {
+    Global& g = run.global;
+    TallyNumbers(run, DbName, TableName, KenoNumbers, TopKenoNumber(g.LottoFlag),
+                 [&](const Array<Integer>& tally) {
+                     if (mode == ReportMode) CopyShifted(tally, g.Numbers);
+                     if (mode == ChartMode) DrawFrequencies(tally, chart);
+                 });
+}
+
+namespace {
+
+// Digits that are counted together: `fromEnd` of them at the end, else from the first on.
+struct DigitGroup {
+    std::string_view type;
+    int count;
+    bool atEnd;
+    int width;  // characters that a count has at least
+};
+constexpr auto DigitGroups = std::to_array<DigitGroup>({
+    {ReportTypes::TripleMatch, 3, false, 0},
+    {ReportTypes::FrontPairs, 2, false, 2},
+    {ReportTypes::BackPairs, 2, true, 2},
+});
+
+void CountPositions(Global& g, Dao::Recordset& Rs, int digits) {
+    for (int position = 0; position < digits; ++position) {
+        const int digit = Rs[FirstDigitField + position].ToInteger();
+        if (digit >= 0 && digit <= 9) ++g.PositionCounts(digit)(position);
+    }
+}
+
+void CountGroup(Global& g, Dao::Recordset& Rs, const DigitGroup& group, int digits) {
+    const int first = FirstDigitField + (group.atEnd ? digits - group.count : 0);
+    int slot = 0;
+    for (int i = 0; i < group.count; ++i) slot = slot * 10 + Rs[first + i].ToInteger();
+    std::string& count = g.ComboCounts(slot);
+    count = PadLeft(Str(static_cast<long>(Val(count)) + 1), group.width);
+}
+
+void DrawPositions(const Global& g, ChartFace& chart, int digits) {
+    for (int digit = 0; digit <= 9; ++digit) {
+        for (int position = 0; position < digits; ++position) {
+            chart.Row(digit + 1);
+            chart.Column(position + 1);
+            chart.Data(g.PositionCounts(digit)(position));
+        }
+    }
+}
+
+void StartCombos(Array<std::string>& counts) {
+    constexpr int LastSlot = 999;
+    counts.Redim(LastSlot);
+    for (int slot = 0; slot <= LastSlot; ++slot) counts(slot) = "0";
+}
+
+void TallyDigits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+                 const Integer& mode, int digits) {
+    Global& g = run.global;
+    const bool chartAsked = mode == ChartMode;
+    const bool reportAsked = mode == ReportMode;
+    const bool byPosition = chartAsked || (reportAsked && g.ReportType == ReportTypes::NumbersByPosition);
+    StartCombos(g.ComboCounts);
+    const auto countDraw = [&](Dao::Recordset& Rs) {
+        if (byPosition) CountPositions(g, Rs, digits);
+        if (!reportAsked) return;
+        for (const DigitGroup& group : DigitGroups)
+            if (g.ReportType == group.type) CountGroup(g, Rs, group, digits);
+    };
+    ReadDraws(run, DbName, TableName, countDraw, [&] {
+        if (chartAsked) DrawPositions(g, chart, digits);
+    });
+}
+
+}  // namespace
+
+void TallyPick3Digits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+                      const Integer& mode) {
+    TallyDigits(run, DbName, TableName, chart, mode, 3);
+}
+
+void TallyPick4Digits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+                      const Integer& mode) {
+    TallyDigits(run, DbName, TableName, chart, mode, 4);
+}
+
+void TallyByGameShape(Run& run, const Integer& NumbersPerTicket, const std::string& DbName,
+                      const std::string& TableName, ChartFace& chart, const Integer& mode) {
+    switch (NumbersPerTicket) {
+        case 5:
+            return;
+        case 6:
+            return TallySixNumberFrequency(run, DbName, TableName, chart, mode);
+        case 7:
+            return TallySevenNumberFrequency(run, DbName, TableName, chart, mode);
+        case 20:
+            return TallyKenoFrequency(run, DbName, TableName, chart, mode);
+        default:
+            run.global.Msg = "An Unexpected Error Occured. The LottoFlag has not been set. Please try again";
+            run.services.dialogs.MsgBox(run.global.Msg, BoxStyle::Ok, ErrorTitle);
+    }
+}
+
+Integer CountDrawRows(Run& run, const std::string& DbName, const std::string& TableName) {
+    Integer rows;
+    StoreRoutine(run, Tails::Open, TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+        rows = Db.OpenTable(TableName).RecordCount();
+    });
+    return rows;
+}
+
+namespace {
+
+// What differs between the two ledgers.
+struct Ledger {
+    std::string_view table;
+    bool byDate;         // else in the order of entry
+    bool wholeByName;    // all rows: the table of the caller's name
+    bool saysWhenEmpty;  // shows its box without rows, and draws its zero in every mode
+    std::string_view rowPicture;
+    int column;
+    std::string_view label;
+    Integer Global::*rows;
+    Array<std::string> Global::*lines;
+    Array<std::string> Global::*allLines;
+    Currency Global::*total;
+};
+
+constexpr std::string_view SumPicture = "###,###,##0.00";
+
+// A win below a dollar has no leading zero, a ticket below a dollar has one: meant.
+constexpr Ledger SpentLedger{"Spent",
+                             true,
+                             false,
+                             true,
+                             "###,###,##0.00;(###,###,##0.00)",
+                             1,
+                             "Spent - $",
+                             &Global::SpentRows,
+                             &Global::SpentLines,
+                             &Global::AllSpentLines,
+                             &Global::TotalSpent};
+constexpr Ledger WonLedger{"Winnings",
+                           false,
+                           true,
+                           false,
+                           "###,###,###.00;(###,###,###.00)",
+                           2,
+                           "Won   - $",
+                           &Global::WonRows,
+                           &Global::WonLines,
+                           &Global::AllWonLines,
+                           &Global::TotalWon};
+
+constexpr int KeyField = 1;
+constexpr int DateField = 2;
+constexpr int AmountField = 3;
+
+// The games, and the one add-on that has a ledger key of its own.
+bool HasLedgerRows(const std::string& LottoFlag) {
+    const auto keys = GameKeys();
+    return LottoFlag == "ATLTag" || std::any_of(keys.begin(), keys.end(), [&](const GameKey& key) {
+               return key.LottoFlag == LottoFlag;
+           });
+}
+
+Dao::Recordset OpenLedger(Dao::Database& Db, const Ledger& ledger, const std::string& LottoFlag,
+                          const std::string& TableName) {
+    const bool oneGame = HasLedgerRows(LottoFlag);
+    if (!oneGame && ledger.wholeByName) return Db.OpenTable(TableName);
+    std::string sql = std::string("SELECT * FROM [").append(ledger.table).append("]");
+    if (oneGame) sql += " WHERE [Lottoflag] = ?";
+    if (ledger.byDate) sql += " ORDER BY [Date]";
+    return oneGame ? Db.OpenSql(sql, {LottoFlag}) : Db.OpenSql(sql);
+}
+
+void ShowNoTickets(Run& run) {
+    Global& g = run.global;
+    g.Msg = "No Tickets entered yet. Please enter some played tickets and" + g.NL + "try again." + g.NL;
+    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
+}
+
+void DrawSum(const Ledger& ledger, ChartFace& chart, Currency sum) {
+    const std::string text = Format(sum, SumPicture);
+    chart.Column(ledger.column);
+    chart.Row(1);
+    chart.Data(PadAmount(text));
+    chart.ColumnLabel(std::string(ledger.label) + text);
+}
+
+template <class EachRow>
+void ForEachRow(Dao::Recordset& Rs, int rows, EachRow eachRow) {
+    Rs.MoveFirst();
+    for (int i = 0; i < rows; ++i) {
+        eachRow(i);
+        if (!Rs.AtEOF()) Rs.MoveNext();
+    }
+}
+
+void KeepLines(Global& g, const Ledger& ledger, Dao::Recordset& Rs, int rows) {
+    constexpr int DateWidth = 8;
+    Array<std::string>& lines = g.*ledger.lines;
+    Array<std::string>& allLines = g.*ledger.allLines;
+    lines.Redim(rows);
+    allLines.Redim(rows);
+    Currency total;
+    ForEachRow(Rs, rows, [&](int i) {
+        const std::string date = PadLeft(Rs[DateField].ToText(), DateWidth);
+        const Currency amount = Rs[AmountField].ToCurrency();
+        std::string line = date + std::string(14, ' ') + "$" + PadAmount(Format(amount, ledger.rowPicture));
+        lines(i) = line + g.NL;
+        allLines(i) = std::move(line) + "     " + Rs[KeyField].ToText() + g.NL;
+        total += amount;
+    });
+    g.*ledger.total = total;
+}
+
+Currency SumOf(Dao::Recordset& Rs, int rows) {
+    Currency sum;
+    ForEachRow(Rs, rows, [&](int) { sum += Rs[AmountField].ToCurrency(); });
+    return sum;
+}
+
+void ReadLedger(Run& run, const Ledger& ledger, const std::string& DbName, const std::string& TableName,
+                ChartFace& chart, const Integer& mode) {
+    Global& g = run.global;
+    StoreRoutine(run, Tails::Open, TableName, [&] {
+        Dao::Database Db = run.services.engine.OpenDatabase(DbName, g.Open);
+        Dao::Recordset Rs = OpenLedger(Db, ledger, g.LottoFlag, TableName);
+        const Integer rows = g.*ledger.rows = Rs.RecordCount();
+        if (rows < 1) {
+            if (ledger.saysWhenEmpty) ShowNoTickets(run);
+            if (ledger.saysWhenEmpty || mode == ChartMode) DrawSum(ledger, chart, Currency());
+        } else if (mode == ReportMode) {
+            KeepLines(g, ledger, Rs, rows);
+        } else if (mode == ChartMode) {
+            DrawSum(ledger, chart, SumOf(Rs, rows));
+        }
+    });
+}
+
+}  // namespace
+
+void SumSpent(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+              const Integer& mode) {
+    ReadLedger(run, SpentLedger, DbName, TableName, chart, mode);
+}
+
+void SumWon(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+            const Integer& mode) {
+    ReadLedger(run, WonLedger, DbName, TableName, chart, mode);
+}
+
+}  // namespace sorvane
