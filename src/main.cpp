@@ -1,1 +1,45 @@
-int main() { return 0; }
+#include <QCoreApplication>
+#include <QFile>
+#include <QIcon>
+#include <QLocale>
+#include <QTimer>
+
+#include "forms/Application.h"
+#include "forms/MessageBoxes.h"
+#include "forms/PrinterDialog.h"
+#include "platform/SystemServices.h"
+#include "shell/Global.h"
+#include "shell/ui/Windows.h"
+#include "shell/ui/frmMain.h"
+#include "store/dao/Dao.h"
+
+using namespace sorvane;
+
+// The program takes no argument: whatever is written behind its name is left aside.
+int main(int, char** argv) {
+    // Dates and numbers look alike everywhere, also inside Qt's own controls.
+    QLocale::setDefault(QLocale::c());
+    int arguments = 1;
+    forms::Application application(arguments, argv);
+    QCoreApplication::setApplicationName("sorvane");
+    QGuiApplication::setDesktopFileName("org.sorvane.Sorvane");
+
+    forms::MessageBoxes dialogs;
+    forms::PrinterDialog printer;
+    SystemClock clock;
+    SystemRandom random;
+    DesktopTools tools;
+    Dao::Engine engine;
+    Services services{dialogs, printer, clock, random, tools, engine};
+    Global global;
+    Run run{global, services};
+    Windows windows(run);
+
+    const std::string folder = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
+    frmMain window(run, windows, folder, [] { QCoreApplication::quit(); });
+    window.Load();
+    window.Show();
+    // The icon is drawn once the window stands.
+    QTimer::singleShot(0, &window, [] { QGuiApplication::setWindowIcon(QIcon(":/pictures/icon.svg")); });
+    return QCoreApplication::exec();
+}

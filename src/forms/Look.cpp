@@ -44,6 +44,12 @@ int DigitsWidth(const QWidget& widget, int digits) {
     return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + FontHeights(widget, 1.2);
 }
 
+void Enlarge(QWidget& widget, double times) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * times);
+    widget.setFont(font);
+}
+
 QFont FixedFont(int points) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::TypeWriter);

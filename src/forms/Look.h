@@ -20,6 +20,9 @@ int BallSize(const QWidget& widget);
 // The width of so many digits, for fields of numbers.
 int DigitsWidth(const QWidget& widget, int digits);
 
+// Sets the widget's font to so many times the size of the application's.
+void Enlarge(QWidget& widget, double times);
+
 // The system's fixed-pitch font at the size of the application's font, or at so many points.
 QFont FixedFont(int points = 0);
 
