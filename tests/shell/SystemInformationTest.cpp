@@ -1,0 +1,44 @@
+#include "shell/SystemInformation.h"
+
+#include <gtest/gtest.h>
+
+#include "support/World.h"
+
+namespace sorvane {
+namespace {
+
+using Paths = std::vector<std::string>;
+
+TEST(StartSysInfo, StartsAToolMadeForItFirst) {
+    testing::World world;
+    world.tools.programs = {{"gnome-system-monitor", "/usr/bin/gnome-system-monitor"},
+                            {"hardinfo", "/usr/bin/hardinfo"}};
+    StartSysInfo(world.services);
+    EXPECT_EQ(world.tools.started, Paths{"/usr/bin/hardinfo"});
+}
+
+TEST(StartSysInfo, ElseAMonitor) {
+    testing::World world;
+    world.tools.programs = {{"xfce4-taskmanager", "/usr/bin/xfce4-taskmanager"}};
+    StartSysInfo(world.services);
+    EXPECT_EQ(world.tools.started, Paths{"/usr/bin/xfce4-taskmanager"});
+}
+
+TEST(StartSysInfo, WithoutAnyToolGivesTheBoxAndNothingElse) {
+    testing::World world;
+    world.dialogs.Expect("Sorvane", "System Information Is Unavailable At This Time", Answer::Ok,
+                         BoxStyle::Ok);
+    StartSysInfo(world.services);
+    EXPECT_EQ(world.tools.started, Paths{});
+}
+
+TEST(StartSysInfo, AToolThatCannotBeStartedEndsItWithoutAWord) {
+    testing::World world;
+    world.tools.programs = {{"hardinfo", "/usr/bin/hardinfo"}, {"lxtask", "/usr/bin/lxtask"}};
+    world.tools.failure = ErrorNumber::FileNotFound;
+    StartSysInfo(world.services);
+    EXPECT_EQ(world.tools.started, Paths{});
+}
+
+}  // namespace
+}  // namespace sorvane
