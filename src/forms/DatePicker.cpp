@@ -1,10 +1,9 @@
 #include "forms/DatePicker.h"
 
-#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QWheelEvent>
 #include <utility>
-
-#include "forms/Utf8.h"
 
 namespace sorvane::forms {
 
@@ -36,6 +35,15 @@ void DatePicker::SetValue(Date value) { setDate(DayZero.addDays(value.Day())); }
 
 void DatePicker::FireChange() {
     if (std::exchange(lastDay_, date()) != date()) Fire(change_);
+}
+
+// A digit typed into a full year, month or day begins it anew; Qt would drop the first one.
+void DatePicker::keyPressEvent(QKeyEvent* event) {
+    const qsizetype full = currentSection() == YearSection ? 4 : 2;
+    const bool digit = !event->text().isEmpty() && event->text().front().isDigit();
+    if (digit && !lineEdit()->hasSelectedText() && sectionText(currentSection()).size() == full)
+        setSelectedSection(currentSection());
+    QDateEdit::keyPressEvent(event);
 }
 
 void DatePicker::focusOutEvent(QFocusEvent* event) {

@@ -21,6 +21,9 @@ class DatePicker : public QDateEdit, public Control {
     void OnChange(std::function<void()> handler) { change_ = std::move(handler); }
 
   protected:
+    // Tab leaves the control at once; the arrows go from year to month to day.
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
+    void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 

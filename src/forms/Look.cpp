@@ -96,11 +96,12 @@ QColor Hint(const QPalette& palette) {
 QColor Series(const QPalette& palette, int column) {
     const QColor paper = palette.color(QPalette::Base);
     QColor colour = palette.color(QPalette::Active, QPalette::Highlight);
-    // A turn of the hue, and lightness too, so that the columns differ without colour.
-    if (column > 0)
-        colour = QColor::fromHslF(std::fmod(colour.hslHueF() + 0.45f * static_cast<float>(column), 1.0f),
-                                  0.55f, 0.65f);
-    return Readable(colour, paper, LineContrast);
+    if (column > 0) {
+        const float hue = std::fmod(colour.hslHueF() + 0.45f * static_cast<float>(column), 1.0f);
+        colour = QColor::fromHslF(std::max(0.0f, hue), 0.55f, 0.65f);
+    }
+    // Lightness differs too, for those who see no hues.
+    return Readable(colour, paper, column % 2 ? 2 * LineContrast : LineContrast);
 }
 
 QIcon Winner(const QPalette& palette, int size) {

@@ -24,6 +24,7 @@ bool AskTheSystem(QPrinter& printer) {
     QWidget* owner = Runtime::Current().Front();
     const Runtime::Modal level;
     QPrintDialog dialog(&printer, owner);
+    dialog.setObjectName(QStringLiteral("CommonDialog1"));
     return dialog.exec() == QDialog::Accepted;
 }
 

@@ -94,6 +94,8 @@ class Runtime {
 
     // The window in front, null when there is none.
     QWidget* Front() const;
+    // Whether this window takes input: nothing else has been shown over it.
+    bool IsInFront(const QWidget& window) const { return levels_.back().window == &window; }
     // How many boxes and windows have been shown so far; when it has grown, something was shown meanwhile.
     int Shown() const { return shown_; }
     // Whether the press that is being delivered is for this widget (and may just have brought it the focus).

@@ -95,6 +95,7 @@ QWidget* Window::Fallback(QWidget* lost) {
 
 void Window::closeEvent(QCloseEvent* event) {
     event->ignore();
+    if (!Runtime::Current().IsInFront(*this)) return;
     if (!closeButton_) Unload();
     else if (closeButton_->isEnabled()) closeButton_->click();
 }

@@ -13,12 +13,14 @@
 #include "platform/Services.h"
 
 class QAbstractItemView;
+class QMessageBox;
+class QWindow;
 
 namespace sorvane::test {
 
-// One person a test; created after the application. Everything goes to the window in front, as from a real
-// mouse and keyboard: what is disabled, hidden or behind a modal window is not reached, and touching it is a
-// failure.
+// One person a test. Everything goes through the window in front, as from a real mouse and keyboard; touching
+// what is hidden or behind a modal window is a failure (what is disabled can be touched, and nothing
+// happens).
 //
 // Boxes and windows that an action brings up are told before the action, in the order in which they come. One
 // that nobody told fails the test and is closed; one that was told and never came fails it at the end.
@@ -31,13 +33,17 @@ class Person : public QObject {
     QWidget& Front() const;
 
     // A click in the middle of a widget, or at a point of it.
-    void Click(QWidget& widget);
+    void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
     void Click(QWidget& widget, QPoint at);
-    void Press(QWidget& widget);
+    void Press(QWidget& widget) { Press(widget, widget.rect().center()); }
     void Press(QWidget& widget, QPoint at);
-    // Lets go wherever the mouse was pressed; nothing when that widget is gone or behind a modal window.
+    // Lets go where the mouse was pressed. When a box or window has come up meanwhile, the mouse was let go
+    // there.
     void Release();
-    void DoubleClick(QWidget& widget);
+    void DoubleClick(QWidget& widget) { DoubleClick(widget, widget.rect().center()); }
+    void DoubleClick(QWidget& widget, QPoint at);
+    // Moves the mouse, pressed or not.
+    void MoveTo(QWidget& widget, QPoint at);
     // A click, or a double-click, on a row of a list, and on a tab.
     void ClickRow(QAbstractItemView& list, int row);
     void DoubleClickRow(QAbstractItemView& list, int row);
@@ -45,7 +51,7 @@ class Person : public QObject {
     // The close box of the window's frame.
     void Close(QWidget& window);
 
-    // Keys go to the widget that has the focus.
+    // Keys go to the widget that has the focus in the window in front.
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void Tab() { Key(Qt::Key_Tab); }
     void BackTab() { Key(Qt::Key_Backtab, Qt::ShiftModifier); }
@@ -60,6 +66,8 @@ class Person : public QObject {
     // A message box that will come: answered by a click on its button. `meanwhile` runs while it is up.
     void Expect(std::string_view title, std::string_view text, Answer answer = Answer::Ok,
                 int style = BoxStyle::Ok, std::function<void()> meanwhile = nullptr);
+    // A message box that will come, closed by the close box of its frame.
+    void ExpectClosing(std::string_view title, std::string_view text, int style = BoxStyle::Ok);
     // A modal window of ours that will come; `act` uses it and has to leave it.
     void ExpectWindow(std::string_view name, std::function<void(QWidget&)> act);
     // How many of those told have not come yet.
@@ -75,28 +83,32 @@ class Person : public QObject {
         return static_cast<Class&>(*FindIn(window, Class::staticMetaObject, name));
     }
 
+    // Waits until the window can take keys, as a person would.
+    static void Await(QWidget& window);
     // Lets everything that is waiting to be handled happen.
     static void Settle();
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
 
   private:
-    struct Awaited_ {
+    struct Event {
         std::string title, text;
         Answer answer = Answer::Ok;
         int style = BoxStyle::Ok;
+        bool close = false;
         std::function<void()> meanwhile;
-        std::string window;
+        std::string window;  // not empty: a window of ours
         std::function<void(QWidget&)> act;
     };
     static QObject* FindIn(const QWidget& window, const QMetaObject& type, std::string_view name);
     void Appeared(QWidget& modal);
-    void AnswerBox(class QMessageBox& box);
-    void UseWindow(QWidget& window);
+    void AnswerBox(QMessageBox& box, const Event& event);
+    void UseWindow(QWidget& window, const Event& event);
     void Unexpected(QWidget& modal);
-    bool Reachable(const QWidget& widget) const;
+    // The system's window of a widget that can be touched now.
+    QWindow* Handle(QWidget& widget, QPoint at) const;
 
-    std::deque<Awaited_> awaited_;
+    std::deque<Event> awaited_;
     QPointer<QWidget> pressed_;
     QPoint pressedAt_;
     int unexpected_ = 0;

@@ -1,0 +1,491 @@
+// The small controls.
+#include <QApplication>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+
+#include "Fixture.h"
+#include "forms/CheckBox.h"
+#include "forms/ComboBox.h"
+#include "forms/ControlArray.h"
+#include "forms/Label.h"
+#include "forms/LabelFrame.h"
+#include "forms/Menu.h"
+#include "forms/MultiLineBox.h"
+#include "forms/OptionButton.h"
+#include "forms/Picture.h"
+#include "forms/Rule.h"
+#include "forms/TextBox.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+TEST(Control, NameIsQtsObjectName) {
+    CommandButton button("cmdSave", "&Save Tickets");
+    EXPECT_EQ("cmdSave", button.Name());
+    EXPECT_EQ("cmdSave", button.objectName().toStdString());
+}
+
+TEST(Control, VisibleIsItsOwnWishWhateverTheContainerDoes) {
+    LoggingWindow window;
+    LabelFrame frame("fraTickets");
+    TextBox field("txtDollars");
+    (new QVBoxLayout(&frame))->addWidget(&field);
+    window.LayOut(frame);
+    EXPECT_TRUE(field.Visible());
+    field.SetVisible(false);
+    EXPECT_FALSE(field.Visible());
+    window.Show();
+    EXPECT_FALSE(field.isVisible());
+    frame.SetVisible(false);
+    field.SetVisible(true);
+    EXPECT_TRUE(field.Visible());
+    EXPECT_FALSE(field.isVisible());
+    frame.SetVisible(true);
+    EXPECT_TRUE(field.isVisible());
+}
+
+TEST(Control, ShownBeforeItIsLaidOutIsNoWindowOfItsOwn) {
+    TextBox field("txtDollars");
+    field.SetVisible(false);
+    field.SetVisible(true);
+    EXPECT_TRUE(field.Visible());
+    EXPECT_FALSE(field.isVisible());
+    LoggingWindow window;
+    TextBox other("txtOther");
+    window.LayOut(other, static_cast<Control&>(field));
+    window.Show();
+    EXPECT_TRUE(field.isVisible());
+    window.layout()->removeWidget(&field);
+    field.setParent(nullptr);
+}
+
+TEST(Control, EnabledIsItsOwnWishWhateverTheContainerDoes) {
+    LabelFrame frame("fraTickets");
+    TextBox field("txtDollars");
+    (new QVBoxLayout(&frame))->addWidget(&field);
+    frame.SetEnabled(false);
+    EXPECT_TRUE(field.Enabled());
+    EXPECT_FALSE(field.isEnabled());
+    field.SetEnabled(false);
+    frame.SetEnabled(true);
+    EXPECT_FALSE(field.Enabled());
+    EXPECT_FALSE(field.isEnabled());
+}
+
+TEST(Control, ControlTakenOutOfTheTabSequenceIsPassedOverByTabOnly) {
+    LoggingWindow window;
+    TextBox first("txtFirst"), second("txtSecond"), third("txtThird");
+    window.LayOut(first, second, third);
+    Open(window);
+    Person person;
+    second.SetTabStop(false);
+    person.Tab();
+    EXPECT_TRUE(third.HasFocus());
+    person.Click(second);
+    EXPECT_TRUE(second.HasFocus());
+    second.SetTabStop(true);
+    person.BackTab();
+    person.Tab();
+    EXPECT_TRUE(second.HasFocus());
+}
+
+TEST(TextBox, ChangeFiresForTheUserAndTheProgramButNotForTheSameText) {
+    LoggingWindow window;
+    TextBox field("txtDollars");
+    window.LayOut(field);
+    field.OnChange([&] { window.Write(field.Text()); });
+    Open(window);
+    Person person;
+    field.SetText("5");
+    field.SetText("5");
+    person.Type("0");
+    EXPECT_EQ((Log{"5", "50"}), window.log);
+}
+
+TEST(TextBox, ChangeMaySetTheTextItself) {
+    LoggingWindow window;
+    TextBox field("txtDollars");
+    window.LayOut(field);
+    field.SetText("7");
+    field.OnChange([&] {
+        window.Write(field.Text());
+        if (field.Text().empty()) {
+            field.SetText("0.00");
+            field.SetCaret(0);
+        }
+    });
+    Open(window);
+    Person person;
+    person.Key(Qt::Key_End);
+    person.Key(Qt::Key_Backspace);
+    EXPECT_EQ("0.00", field.Text());
+    EXPECT_EQ(0, field.cursorPosition());
+    EXPECT_EQ((Log{"", "0.00"}), window.log);
+}
+
+TEST(TextBox, MaximumLengthZeroIsNoLimit) {
+    TextBox field("txtDollars");
+    EXPECT_EQ(0, field.MaxLength());
+    field.SetMaxLength(6);
+    EXPECT_EQ(6, field.MaxLength());
+    field.SetText("1234567");
+    EXPECT_EQ("123456", field.Text());
+    field.SetMaxLength(0);
+    field.SetText("1234567");
+    EXPECT_EQ("1234567", field.Text());
+}
+
+TEST(TextBox, TextsAreUtf8) {
+    TextBox field("txtCountry");
+    field.SetText("Québec ñ €");
+    EXPECT_EQ("Québec ñ €", field.Text());
+}
+
+class SelectAll : public testing::Test {
+  protected:
+    LoggingWindow window;
+    TextBox other{"txtOther"}, field{"txtDollars"};
+    Person person;
+    void SetUp() override {
+        window.LayOut(other, field);
+        field.SetText("1234");
+        field.OnGotFocus([this] { field.SelectAll(); });
+        Open(window);
+    }
+};
+
+TEST_F(SelectAll, HoldsWhenTheTabKeyBroughtTheFocus) {
+    person.Tab();
+    EXPECT_EQ("1234", field.selectedText());
+    person.Type("5");
+    EXPECT_EQ("5", field.Text());
+}
+
+TEST_F(SelectAll, HoldsWhenAPressOfTheMouseBroughtTheFocus) {
+    person.Click(field, QPoint(12, field.height() / 2));
+    EXPECT_EQ("1234", field.selectedText());
+}
+
+TEST_F(SelectAll, HoldsThroughASmallMoveOfTheMouse) {
+    person.Press(field, QPoint(12, field.height() / 2));
+    person.MoveTo(field, QPoint(14, field.height() / 2));
+    person.Release();
+    EXPECT_EQ("1234", field.selectedText());
+}
+
+TEST_F(SelectAll, SecondClickPutsTheCaret) {
+    person.Click(field);
+    person.Click(field, QPoint(5, field.height() / 2));
+    EXPECT_EQ("", field.selectedText());
+}
+
+TEST(MultiLineBox, LineBreaksAreCarriageReturnAndLineFeed) {
+    MultiLineBox box("txtReport");
+    const std::string text = "\r\n     Date: 2026-11-21\r\n\r\n  two  blanks\r\n";
+    box.SetText(text);
+    EXPECT_EQ(text, box.Text());
+    box.SetText(box.Text() + "more\r\n");
+    EXPECT_EQ(text + "more\r\n", box.Text());
+}
+
+TEST(MultiLineBox, ReadOnlyTakesNoText) {
+    LoggingWindow window;
+    MultiLineBox box("txtReport");
+    window.LayOut(box);
+    box.SetReadOnly(true);
+    box.SetFixedPitch();
+    Open(window);
+    Person person;
+    person.Type("a");
+    EXPECT_EQ("", box.Text());
+    EXPECT_EQ(box.fontMetrics().horizontalAdvance("iiii"), box.fontMetrics().horizontalAdvance("WWWW"));
+}
+
+TEST(CheckBox, ClickFiresWheneverTheValueChanges) {
+    LoggingWindow window;
+    CheckBox box("chkEncore", "Encore Played");
+    window.LayOut(box);
+    box.OnClick([&] { window.Write(std::to_string(box.Value())); });
+    Open(window);
+    Person person;
+    box.SetValue(1);
+    box.SetValue(1);
+    box.SetValue(-1);
+    person.Click(box, QPoint(10, box.height() / 2));
+    person.Key(Qt::Key_Space);
+    box.SetValue(0);
+    EXPECT_EQ((Log{"1", "0", "1", "0"}), window.log);
+}
+
+class Options : public testing::Test {
+  protected:
+    LoggingWindow window;
+    LabelFrame way{"fraWayPlayed", "Way Played"}, wager{"fraWager", "Wager"};
+    OptionButton straight{"optPlayOpt(0)", "Straight"}, box{"optPlayOpt(1)", "Box"};
+    OptionButton one{"optOneDollar", "$1.00"};
+    Person person;
+    void SetUp() override {
+        auto* first = new QVBoxLayout(&way);
+        first->addWidget(&straight);
+        first->addWidget(&box);
+        (new QVBoxLayout(&wager))->addWidget(&one);
+        window.LayOut(way, wager);
+        for (OptionButton* option : {&straight, &box, &one})
+            option->OnClick([this, option] { window.Write(option->Name()); });
+        Open(window);
+    }
+};
+
+TEST_F(Options, ClickFiresOnlyWhenItBecomesOn) {
+    straight.SetValue(true);
+    straight.SetValue(true);
+    person.Click(box, QPoint(10, box.height() / 2));
+    person.Click(box, QPoint(10, box.height() / 2));
+    EXPECT_EQ((Log{"optPlayOpt(0)", "optPlayOpt(1)"}), window.log);
+    EXPECT_FALSE(straight.Value());
+    EXPECT_TRUE(box.Value());
+}
+
+TEST_F(Options, ProgramTurnsOneOffWithoutAClick) {
+    straight.SetValue(true);
+    window.log.clear();
+    straight.SetValue(false);
+    EXPECT_FALSE(straight.Value());
+    EXPECT_FALSE(box.Value());
+    EXPECT_EQ(Log{}, window.log);
+    straight.SetValue(true);
+    box.SetValue(true);
+    EXPECT_FALSE(straight.Value());
+}
+
+TEST_F(Options, FramesDoNotDisturbEachOther) {
+    straight.SetValue(true);
+    one.SetValue(true);
+    EXPECT_TRUE(straight.Value());
+    EXPECT_TRUE(one.Value());
+}
+
+TEST(CommandButton, EnterAndTheBlankClickTheOneWithTheFocusAndNoOther) {
+    LoggingWindow window;
+    TextBox field("txtFirst");
+    CommandButton ok("cmdOk", "&Ok"), cancel("cmdCancel", "&Cancel");
+    window.LayOut(field, ok, cancel);
+    ok.OnClick([&] { window.Write("Ok"); });
+    cancel.OnClick([&] { window.Write("Cancel"); });
+    Open(window);
+    Person person;
+    person.Enter();
+    EXPECT_EQ(Log{}, window.log);
+    cancel.SetFocus();
+    person.Enter();
+    person.Key(Qt::Key_Enter, Qt::KeypadModifier);
+    person.Key(Qt::Key_Space);
+    EXPECT_EQ((Log{"Cancel", "Cancel", "Cancel"}), window.log);
+}
+
+TEST(CommandButton, CaptionIsKeptToTheCharacter) {
+    CommandButton button("cmdUse", "&Use These #'s");
+    EXPECT_EQ("&Use These #'s", button.Caption());
+    button.SetCaption("Next &Bonus");
+    EXPECT_EQ("Next &Bonus", button.Caption());
+}
+
+TEST(CommandButton, WithoutAHandlerAClickDoesNothing) {
+    LoggingWindow window;
+    CommandButton button("cmdRegular", "&Play Regular Numbers");
+    window.LayOut(button);
+    Open(window);
+    Person person;
+    person.Click(button);
+    EXPECT_TRUE(button.HasFocus());
+}
+
+TEST(AccessKey, OfALabelLeadsToItsBuddy) {
+    LoggingWindow window;
+    CommandButton button("cmdOk", "&Ok");
+    Label label("lblCountry", "&Country:");
+    TextBox field("txtCountry");
+    label.SetBuddy(field);
+    window.LayOut(button, label, field);
+    Open(window);
+    Person person;
+    person.AccessKey('c');
+    EXPECT_TRUE(field.HasFocus());
+    EXPECT_EQ("&Country:", label.Caption());
+}
+
+TEST(AccessKey, OfACheckBoxAndAnOptionMovesTheFocusAndClicks) {
+    LoggingWindow window;
+    TextBox field("txtFirst");
+    CheckBox box("chkStatUpdate", "&Update");
+    OptionButton option("optHot", "&Hot");
+    window.LayOut(field, box, option);
+    Open(window);
+    Person person;
+    person.AccessKey('u');
+    EXPECT_EQ(1, box.Value());
+    EXPECT_TRUE(box.HasFocus());
+    person.AccessKey('h');
+    EXPECT_TRUE(option.Value());
+    EXPECT_TRUE(option.HasFocus());
+}
+
+TEST(Label, TextIsPlain) {
+    Label label("lblInfo", "<b>not bold</b>");
+    EXPECT_EQ(Qt::PlainText, label.textFormat());
+    EXPECT_EQ("<b>not bold</b>", label.Caption());
+}
+
+TEST(ComboBox, AddedEntriesChangeNeitherTextNorSelection) {
+    for (const auto style : {ComboBox::Style::Editable, ComboBox::Style::ListOnly}) {
+        ComboBox combo("cboNumber", style);
+        int changes = 0;
+        combo.OnChange([&] { ++changes; });
+        combo.AddItem("10");
+        combo.AddItem("9");
+        EXPECT_EQ("", combo.Text());
+        EXPECT_EQ(-1, combo.ListIndex());
+        EXPECT_EQ(2, combo.ListCount());
+        EXPECT_EQ("9", combo.List(1));
+        EXPECT_EQ(0, changes);
+    }
+}
+
+TEST(ComboBox, EditableKeepsItsTextWhileEntriesComeAndGo) {
+    ComboBox combo("cboWager");
+    combo.SetText("7.00");
+    combo.AddItem("10.00");
+    EXPECT_EQ("7.00", combo.Text());
+    combo.Clear();
+    EXPECT_EQ("", combo.Text());
+    EXPECT_EQ(0, combo.ListCount());
+}
+
+TEST(ComboBox, ListStyleSelectsTheEntryOfItsText) {
+    ComboBox combo("cboNumber", ComboBox::Style::ListOnly);
+    Log log;
+    combo.OnChange([&] { log.push_back(combo.Text()); });
+    for (int i = 0; i < 10; ++i) combo.AddItem(std::to_string(i));
+    combo.SetText("4");
+    EXPECT_EQ(4, combo.ListIndex());
+    combo.SetText("4");
+    combo.SetListIndex(0);
+    EXPECT_EQ("0", combo.Text());
+    combo.SetText("x");
+    EXPECT_EQ(-1, combo.ListIndex());
+    combo.SetText("7");
+    combo.SetText("");
+    EXPECT_EQ(-1, combo.ListIndex());
+    EXPECT_EQ("", combo.Text());
+    EXPECT_EQ((Log{"4", "0", "", "7", ""}), log);
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { combo.SetListIndex(10); }));
+}
+
+TEST(ComboBox, TypedTextIsNotCompleted) {
+    LoggingWindow window;
+    ComboBox combo("cboNoOfBallsPerTicket");
+    window.LayOut(combo);
+    combo.AddItem("10");
+    Open(window);
+    Person person;
+    person.Type("1");
+    EXPECT_EQ("1", combo.Text());
+    EXPECT_EQ(-1, combo.ListIndex());
+    combo.SelectAll();
+    person.Type("10");
+    EXPECT_EQ(0, combo.ListIndex());
+}
+
+TEST(ControlArray, ElementsBearNameAndIndex) {
+    ControlArray<CheckBox> array("chkNumb");
+    array.Load(0, "1");
+    array.Load(2, "3");
+    EXPECT_EQ("chkNumb(2)", array(2).Name());
+    EXPECT_EQ("3", array(2).Caption());
+    EXPECT_EQ(2, array.Count());
+    EXPECT_EQ(2, array.UBound());
+    EXPECT_FALSE(array.IsLoaded(1));
+    EXPECT_EQ(&array(2), &array.Load(2));
+}
+
+TEST(ControlArray, IndexThatIsNotLoadedIsErrorNine) {
+    ControlArray<CheckBox> array("chkNumb");
+    array.Load(1);
+    for (const int index : {-1, 0, 2})
+        EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { array(index); })) << index;
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { array.Load(-1); }));
+    EXPECT_EQ(-1, ControlArray<CheckBox>("empty").UBound());
+}
+
+TEST(ControlArray, OneHandlerServesElementsLoadedBeforeAndAfter) {
+    LoggingWindow window;
+    ControlArray<TextBox> array("txtPlay4");
+    window.LayOut(array.Load(0));
+    array.OnKeyPress([&](int index, KeyPress& key) {
+        window.Write("key " + std::to_string(index));
+        key.Swallow();
+    });
+    array.OnChange([&](int index) { window.Write("change " + std::to_string(index)); });
+    array.OnLostFocus([&](int index) { window.Write("lost " + std::to_string(index)); });
+    array.OnGotFocus([&](int index) { window.Write("got " + std::to_string(index)); });
+    window.LayOut(array.Load(1));
+    Open(window);
+    Person person;
+    person.Tab();
+    person.Type("5");
+    array(0).SetText("9");
+    EXPECT_EQ((Log{"lost 0", "got 1", "key 1", "change 0"}), window.log);
+}
+
+TEST(Menu, EntriesBearTheirNamesAndRunTheirHandlers) {
+    LoggingWindow window;
+    MenuBar bar;
+    window.layout()->setMenuBar(&bar);
+    Menu& file = bar.AddMenu("mnuFile", "&File");
+    file.AddEntry("mnuFileUpgrade", "&Upgrade Database");
+    Menu& canada = bar.AddMenu("mnuCanada", "&Canada");
+    canada.AddMenu("mnuCANONT", "&Ontario").AddEntry("mnuCANONTLotto649", "Lotto &6/49", [&] {
+        window.Write("649");
+    });
+    Open(window);
+    Person person;
+    EXPECT_FALSE(person.Find<QAction>("mnuFileUpgrade").isEnabled());
+    EXPECT_EQ("&File", person.Find<QMenu>("mnuFile").title().toStdString());
+    QAction& entry = person.Find<QAction>("mnuCANONTLotto649");
+    EXPECT_EQ("Lotto &6/49", entry.text().toStdString());
+    person.AccessKey('c');
+    person.Key(Qt::Key_O);
+    person.Key(Qt::Key_6);
+    EXPECT_EQ(Log{"649"}, window.log);
+}
+
+TEST(Menu, FailingEntryShowsTheError) {
+    LoggingWindow window;
+    MenuBar bar;
+    window.layout()->setMenuBar(&bar);
+    QAction& entry = bar.AddMenu("mnuFile", "&File").AddEntry("mnuFileExit", "E&xit", [] { Raise(5); });
+    Open(window);
+    Person person;
+    person.Expect("Sorvane", "Run-time error '5':\n\nInvalid procedure call", Answer::Ok, BoxStyle::Stop);
+    entry.trigger();
+}
+
+TEST(Picture, ShowsADrawingAndNothingWhereThereIsNone) {
+    Picture picture("Picture1", R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20">
+        <rect width="40" height="20" fill="#ff0000"/></svg>)");
+    EXPECT_EQ(QSize(40, 20), picture.sizeHint());
+    picture.resize(80, 40);
+    EXPECT_EQ(QColor(Qt::red), picture.grab().toImage().pixelColor(40, 20));
+    Picture empty("picIcon");
+    empty.resize(10, 10);
+    empty.grab();
+    EXPECT_TRUE(empty.Visible());
+}
+
+TEST(Rule, IsALineAcross) { EXPECT_EQ(QFrame::HLine, Rule("Line1").frameShape()); }
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,261 @@
+// List boxes and date pickers.
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QWheelEvent>
+#include <chrono>
+
+#include "Fixture.h"
+#include "forms/DatePicker.h"
+#include "forms/ListBox.h"
+#include "forms/Look.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+class List : public testing::Test {
+  protected:
+    LoggingWindow window;
+    ListBox list{"lstMessage"};
+    CommandButton ok{"cmdOk", "&Ok"};
+    Person person;
+    void SetUp() override {
+        window.LayOut(list, ok);
+        window.SetFirstFocus(ok);
+        list.OnClick([this] { window.Write("click " + std::to_string(list.ListIndex())); });
+        list.OnDblClick([this] { window.Write("double-click " + std::to_string(list.ListIndex())); });
+        for (const auto* text : {"1, 2, 3", "4, 5, 6", "7, 8, 9"}) list.AddItem(text);
+        Open(window);
+    }
+};
+
+TEST_F(List, HoldsLinesAsARuleHandsThemOver) {
+    Lines& lines = list;
+    EXPECT_EQ(3, lines.ListCount());
+    EXPECT_EQ("4, 5, 6", list.Text(1));
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { list.Text(3); }));
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { list.Text(-1); }));
+    lines.Clear();
+    EXPECT_EQ(0, lines.ListCount());
+    EXPECT_EQ(-1, list.ListIndex());
+    lines.AddItem("after");
+    EXPECT_EQ("after", list.Text(0));
+    EXPECT_EQ(1, list.model()->rowCount());
+}
+
+TEST_F(List, RowSelectedByTheProgramIsNoClick) {
+    list.SetListIndex(1);
+    EXPECT_EQ(1, list.ListIndex());
+    list.ClearSelection();
+    EXPECT_EQ(-1, list.ListIndex());
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(List, RowThatIsNotThereChangesNothing) {
+    list.SetListIndex(1);
+    list.SetListIndex(3);
+    EXPECT_EQ(1, list.ListIndex());
+}
+
+TEST_F(List, ClickFiresForTheMouseAlsoOnTheSelectedRow) {
+    person.ClickRow(list, 2);
+    person.ClickRow(list, 2);
+    EXPECT_EQ((Log{"click 2", "click 2"}), window.log);
+}
+
+TEST_F(List, ClickFiresForTheKeyboard) {
+    list.SetListIndex(0);
+    list.SetFocus();
+    person.Key(Qt::Key_Down);
+    person.Key(Qt::Key_End);
+    person.Key(Qt::Key_Down);
+    EXPECT_EQ((Log{"click 1", "click 2"}), window.log);
+}
+
+TEST_F(List, ClickBelowTheLastRowIsNone) {
+    person.Click(*list.viewport(), QPoint(20, list.viewport()->height() - 2));
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(List, DoubleClickIsAClickThenADoubleClick) {
+    person.DoubleClickRow(list, 1);
+    EXPECT_EQ((Log{"click 1", "double-click 1"}), window.log);
+}
+
+TEST_F(List, EnterOnARowIsADoubleClick) {
+    list.SetFocus();
+    person.Enter();
+    EXPECT_EQ(Log{}, window.log);
+    list.SetListIndex(2);
+    person.Enter();
+    EXPECT_EQ((Log{"double-click 2"}), window.log);
+}
+
+TEST_F(List, TakingTheFocusSelectsNothing) {
+    person.BackTab();
+    ASSERT_TRUE(list.HasFocus());
+    EXPECT_EQ(-1, list.ListIndex());
+}
+
+TEST_F(List, HandlerMayClearTheList) {
+    list.OnClick([&] { list.Clear(); });
+    list.OnDblClick([&] { list.Clear(); });
+    person.DoubleClickRow(list, 1);
+    EXPECT_EQ(0, list.ListCount());
+}
+
+TEST_F(List, HintIsPaintedWhileTheListIsEmptyAndIsNoRow) {
+    list.Clear();
+    const QImage bare = list.viewport()->grab().toImage();
+    list.SetHint("Check a draw to see your tickets here");
+    EXPECT_EQ(0, list.ListCount());
+    EXPECT_NE(bare, list.viewport()->grab().toImage());
+    list.SetHint("");
+    EXPECT_EQ(bare, list.viewport()->grab().toImage());
+}
+
+TEST_F(List, WinnersHaveAnIconAndAHeavierFontAndKeepTheirText) {
+    list.SetWinners([](int, std::string_view text) { return text.starts_with("You have"); });
+    list.AddItem("You have matched 4 of 6 numbers");
+    list.AddItem("Sorry");
+    const auto font = [&](int row) {
+        return list.model()->index(row, 0).data(Qt::FontRole).value<QFont>().bold();
+    };
+    EXPECT_TRUE(font(3));
+    EXPECT_FALSE(font(4));
+    EXPECT_EQ("You have matched 4 of 6 numbers", list.Text(3));
+    EXPECT_EQ("You have matched 4 of 6 numbers", list.model()->index(3, 0).data().toString().toStdString());
+    EXPECT_EQ("Winner",
+              list.model()->index(3, 0).data(Qt::AccessibleDescriptionRole).toString().toStdString());
+}
+
+TEST_F(List, LongRowsCanBeScrolledTo) {
+    list.AddItem(std::string(400, 'W'));
+    Person::Settle();
+    EXPECT_GE(list.visualRect(list.model()->index(3, 0)).width(),
+              QFontMetrics(list.font()).horizontalAdvance(QString(400, 'W')));
+}
+
+TEST_F(List, ThirtyThousandRowsComeQuickly) {
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < 32767; ++i) list.AddItem("1, 2, 3, 4, 5, 6");
+    Person::Settle();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+    EXPECT_EQ(32770, list.ListCount());
+}
+
+class Dates : public testing::Test {
+  protected:
+    LoggingWindow window;
+    DatePicker date{"dtpEnterTickets(0)"};
+    CommandButton ok{"cmdOk", "&Ok"};
+    Person person;
+    void SetUp() override {
+        window.LayOut(date, ok);
+        date.SetValue(Date::FromYmd(2026, 11, 21));
+        date.OnChange([this] { window.Write(date.Value().ToText()); });
+        window.Watch(date);
+        ok.OnClick([this] { window.Write("Ok"); });
+        Open(window);
+    }
+};
+
+TEST_F(Dates, ValueIsADayWithoutTimeOfDay) {
+    date.SetValue(Date::FromDays(Date::FromYmd(2027, 3, 14).Days() + 0.6));
+    EXPECT_EQ(Date::FromYmd(2027, 3, 14).Days(), date.Value().Days());
+    EXPECT_EQ("2027-03-14", date.text().toStdString());
+}
+
+TEST_F(Dates, EveryDayOfTenYearsComesBackInWhateverTimeZone) {
+    date.OnChange(nullptr);
+    for (const char* zone : {"America/Sao_Paulo", "Pacific/Apia", "UTC"}) {
+        qputenv("TZ", zone);
+        tzset();
+        for (long day = Date::FromYmd(2010, 1, 1).Day(); day < Date::FromYmd(2020, 1, 1).Day(); ++day) {
+            date.SetValue(Date::FromDays(static_cast<double>(day)));
+            ASSERT_EQ(day, date.Value().Day()) << zone;
+        }
+    }
+    qputenv("TZ", "America/Toronto");
+    tzset();
+}
+
+TEST_F(Dates, ProgramFiresChangeForAnotherDayOnly) {
+    date.SetValue(Date::FromYmd(2026, 11, 21));
+    date.SetValue(Date::FromDays(Date::FromYmd(2026, 11, 21).Days() + 0.5));
+    EXPECT_EQ(Log{}, window.log);
+    date.SetValue(Date::FromYmd(2026, 11, 22));
+    EXPECT_EQ((Log{"2026-11-22"}), window.log);
+}
+
+TEST_F(Dates, TypingFiresOneChangeWhenItIsFinished) {
+    person.Key(Qt::Key_Home);
+    person.Type("20271224");
+    EXPECT_EQ(Log{}, window.log);
+    person.Enter();
+    EXPECT_EQ((Log{"2027-12-24"}), window.log);
+}
+
+TEST_F(Dates, LeavingFinishesItAndChangeComesBeforeLostFocus) {
+    person.Key(Qt::Key_Home);
+    person.Type("2027");
+    person.AccessKey('o');
+    EXPECT_EQ((Log{"2027-11-21", "-dtpEnterTickets(0)", "Ok"}), window.log);
+}
+
+TEST_F(Dates, FailingChangeOnLeavingDropsThePress) {
+    date.OnChange([] { Raise(ErrorNumber::TypeMismatch); });
+    person.Key(Qt::Key_Home);
+    person.Type("2027");
+    person.Expect("Sorvane", "Run-time error '13':\n\nType mismatch", Answer::Ok, BoxStyle::Stop);
+    person.Click(ok);
+    EXPECT_EQ((Log{"-dtpEnterTickets(0)"}), window.log);
+}
+
+TEST_F(Dates, FinishedByABoxThatCameUpFiresOnceToo) {
+    person.Key(Qt::Key_Home);
+    person.Type("2027");
+    person.Expect("Sorvane", "Hello");
+    Window::MsgBox("Hello");
+    Person::Settle();
+    EXPECT_EQ((Log{"2027-11-21"}), window.log);
+}
+
+TEST_F(Dates, ArrowsChangeDayByDay) {
+    person.Key(Qt::Key_End);
+    person.Key(Qt::Key_Up);
+    person.Key(Qt::Key_Up);
+    EXPECT_EQ((Log{"2026-11-22", "2026-11-23"}), window.log);
+}
+
+TEST_F(Dates, CalendarFiresOneChange) {
+    person.Click(date, QPoint(date.width() - 8, date.height() / 2));
+    auto* calendar = QApplication::activePopupWidget()->findChild<QCalendarWidget*>();
+    ASSERT_TRUE(calendar);
+    person.Key(Qt::Key_Right);
+    person.Enter();
+    Person::Await(window);
+    EXPECT_EQ((Log{"2026-11-22"}), window.log);
+}
+
+TEST_F(Dates, TabLeavesAtOnce) {
+    person.Tab();
+    EXPECT_TRUE(ok.HasFocus());
+    person.BackTab();
+    EXPECT_TRUE(date.HasFocus());
+}
+
+TEST_F(Dates, WheelOverItChangesNothingWhileTheFocusIsElsewhere) {
+    ok.SetFocus();
+    window.log.clear();
+    QWheelEvent wheel(QPointF(5, 5), date.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&date, &wheel);
+    EXPECT_EQ(Log{}, window.log);
+    EXPECT_TRUE(ok.HasFocus());
+}
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,246 @@
+// Colours, sizes, balls and charts.
+#include "forms/Look.h"
+
+#include <QAbstractBarSeries>
+#include <QApplication>
+#include <QBarCategoryAxis>
+#include <QBarSet>
+#include <QChart>
+#include <QChartView>
+#include <QToolTip>
+
+#include "Fixture.h"
+#include "forms/Chart.h"
+#include "forms/NumberBall.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+QPalette Dark() {
+    QPalette palette(QColor("#3b3f46"), QColor("#2b2e33"));
+    palette.setColor(QPalette::Base, QColor("#1e2024"));
+    palette.setColor(QPalette::Text, QColor("#e6e6e6"));
+    palette.setColor(QPalette::Disabled, QPalette::Text, QColor("#6f737a"));
+    palette.setColor(QPalette::Highlight, QColor("#5b8def"));
+    palette.setColor(QPalette::PlaceholderText, QColor("#5a5e66"));
+    return palette;
+}
+
+QPalette HighContrast() {
+    QPalette palette(Qt::black, Qt::black);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(role, Qt::white);
+    palette.setColor(QPalette::Base, Qt::black);
+    palette.setColor(QPalette::Highlight, Qt::yellow);
+    palette.setColor(QPalette::HighlightedText, Qt::black);
+    return palette;
+}
+
+std::vector<QPalette> Palettes() {
+    return {QApplication::palette(), QPalette(Qt::lightGray), Dark(), HighContrast()};
+}
+
+TEST(Look, ContrastIsOneToTwentyOne) {
+    EXPECT_NEAR(21, Look::Contrast(Qt::black, Qt::white), 0.01);
+    EXPECT_NEAR(1, Look::Contrast(Qt::red, Qt::red), 0.01);
+    EXPECT_NEAR(Look::Contrast(Qt::blue, Qt::white), Look::Contrast(Qt::white, Qt::blue), 1e-9);
+}
+
+TEST(Look, ReadableInkStandsOffEveryPaper) {
+    for (int red = 0; red < 256; red += 17)
+        for (int green = 0; green < 256; green += 51)
+            for (const QColor ink : {QColor(Qt::gray), QColor(Qt::red), QColor(Qt::yellow)})
+                EXPECT_GE(
+                    Look::Contrast(Look::Readable(ink, QColor(red, green, 128)), QColor(red, green, 128)),
+                    4.5);
+    EXPECT_EQ(QColor(Qt::black), Look::Readable(Qt::black, Qt::white));
+}
+
+TEST(Look, BallsAndHintsAreReadableInEveryPalette) {
+    for (const QPalette& palette : Palettes())
+        for (const bool ticked : {false, true})
+            for (const bool enabled : {false, true}) {
+                const Look::Ball ball = Look::BallColours(palette, ticked, enabled);
+                EXPECT_GE(Look::Contrast(ball.ink, ball.paper), 4.5) << ticked << enabled;
+                EXPECT_GE(Look::Contrast(ball.ring, palette.color(QPalette::Window)), 3) << ticked << enabled;
+                EXPECT_GE(Look::Contrast(Look::Hint(palette), palette.color(QPalette::Base)), 4.5);
+            }
+}
+
+TEST(Look, SizesFollowTheFont) {
+    QWidget widget;
+    const int before = Look::BallSize(widget);
+    QFont large = widget.font();
+    large.setPointSize(20);
+    widget.setFont(large);
+    EXPECT_GE(Look::BallSize(widget), before * 3 / 2);
+    EXPECT_GT(Look::DigitsWidth(widget, 6), Look::DigitsWidth(widget, 2));
+}
+
+TEST(NumberBall, CanBeHitAnywhere) {
+    LoggingWindow window;
+    NumberBall ball("chkNumb(0)", "1");
+    window.LayOut(ball);
+    Open(window);
+    Person person;
+    for (const QPoint at :
+         {QPoint(1, 1), QPoint(ball.width() - 2, ball.height() - 2), ball.rect().center()}) {
+        const int before = ball.Value();
+        person.Click(ball, at);
+        EXPECT_NE(before, ball.Value());
+    }
+}
+
+// A picture without colour: what remains is shape and lightness.
+QImage Grey(NumberBall& ball) { return ball.grab().toImage().convertToFormat(QImage::Format_Grayscale8); }
+
+TEST(NumberBall, StatesDifferWithoutColour) {
+    for (const QPalette& palette : Palettes()) {
+        LoggingWindow window;
+        CommandButton other("cmdOther", "Other");
+        NumberBall ball("chkNumb(0)", "17");
+        window.LayOut(other, ball);
+        window.setPalette(palette);
+        Open(window);
+        std::vector<QImage> states;
+        const auto keep = [&] {
+            const QImage state = Grey(ball);
+            for (const QImage& earlier : states) EXPECT_NE(earlier, state);
+            states.push_back(state);
+        };
+        keep();
+        ball.SetValue(1);
+        keep();
+        ball.SetFocus();
+        keep();
+        ball.SetValue(0);
+        keep();
+        other.SetFocus();
+        ball.SetEnabled(false);
+        keep();
+        ball.SetValue(1);
+        keep();
+    }
+}
+
+class Bars : public testing::Test {
+  protected:
+    LoggingWindow window;
+    Chart chart{"mscNumberFrequency"};
+    void SetUp() override {
+        chart.SetTitle("Number Frequency");
+        chart.SetAxes("Numbers Drawn", "Times Drawn");
+        chart.SetColumnLabel("Frequency");
+        window.LayOut(chart);
+        window.resize(1300, 500);
+    }
+    QChartView* View() const { return chart.findChild<QChartView*>(); }
+    QBarSet& Set(int column = 0) const {
+        return *static_cast<QAbstractBarSeries*>(View()->chart()->series().at(0))->barSets().at(column);
+    }
+};
+
+TEST_F(Bars, AnswersToRowColumnAndData) {
+    chart.SetRowCount(49);
+    chart.SetColumnCount(2);
+    chart.SetRow(49);
+    chart.SetColumn(2);
+    chart.SetData(7);
+    EXPECT_EQ(7, chart.Data());
+    chart.SetRow(1);
+    EXPECT_EQ(0, chart.Data());
+    chart.SetColumnLabel("Won   - $5.00");
+    chart.SetColumn(1);
+    EXPECT_EQ("Frequency", chart.ColumnLabel());
+    chart.Clear();
+    chart.SetColumn(2);
+    chart.SetRow(49);
+    EXPECT_EQ(0, chart.Data());
+    EXPECT_EQ("Won   - $5.00", chart.ColumnLabel());
+}
+
+TEST_F(Bars, PaddedTextReadsAsItsNumber) {
+    chart.SetData("       1,234.50");
+    EXPECT_EQ(1234.5, chart.Data());
+    EXPECT_EQ(ErrorNumber::TypeMismatch, ErrorOf([&] { chart.SetData("abc"); }));
+    EXPECT_EQ(1234.5, chart.Data());
+}
+
+TEST_F(Bars, IndexOutsideTheCountsIsErrorNine) {
+    for (const int index : {0, 2, -1}) {
+        EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.SetRow(index); }));
+        EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.SetColumn(index); }));
+    }
+    chart.SetRowCount(0);
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.SetData(1); }));
+}
+
+TEST_F(Bars, NothingIsBuiltBeforeItIsSeen) {
+    chart.SetVisible(false);
+    Open(window);
+    chart.SetRowCount(49);
+    chart.SetData(3);
+    Person::Settle();
+    EXPECT_EQ(nullptr, View());
+    chart.SetVisible(true);
+    ASSERT_NE(nullptr, View());
+    EXPECT_EQ(3, Set().at(0));
+}
+
+TEST_F(Bars, DrawsWhatTheCellsSayOnceTheHandlerIsDone) {
+    Open(window);
+    chart.SetRowCount(3);
+    for (int row = 1; row <= 3; ++row) {
+        chart.SetRow(row);
+        chart.SetData(row * 10);
+    }
+    Person::Settle();
+    EXPECT_EQ(30, Set().at(2));
+    EXPECT_EQ("Number Frequency", View()->chart()->title().toStdString());
+    chart.Clear();
+    Person::Settle();
+    EXPECT_EQ(0, Set().at(2));
+}
+
+TEST_F(Bars, RowsBearTheirNumbersOrTheirLabels) {
+    chart.SetRowCount(3);
+    chart.SetRowLabels({"0", "", "9"});
+    Open(window);
+    auto* axis = qobject_cast<QBarCategoryAxis*>(View()->chart()->axes(Qt::Horizontal).at(0));
+    EXPECT_EQ((QStringList{"0", "2", "9"}), axis->categories());
+    EXPECT_EQ("Numbers Drawn", axis->titleText().toStdString());
+}
+
+TEST_F(Bars, HoveringABarShowsItsValue) {
+    chart.SetRowCount(49);
+    chart.SetRow(25);
+    chart.SetData(40);
+    Open(window);
+    Person person;
+    const QPointF top = View()->chart()->mapToPosition(QPointF(24, 20), View()->chart()->series().at(0));
+    const QPoint at = View()->mapFromScene(View()->chart()->mapToScene(top));
+    person.MoveTo(*View()->viewport(), at + QPoint(0, 3));
+    person.MoveTo(*View()->viewport(), at);
+    EXPECT_EQ("25: 40", QToolTip::text().toStdString());
+}
+
+TEST_F(Bars, FollowsThePalette) {
+    Open(window);
+    window.setPalette(Dark());
+    Person::Settle();
+    EXPECT_EQ(Dark().color(QPalette::Base), View()->chart()->backgroundBrush().color());
+    EXPECT_GE(Look::Contrast(View()->chart()->titleBrush().color(), Dark().color(QPalette::Base)), 4.5);
+    EXPECT_GE(Look::Contrast(Set().color(), Dark().color(QPalette::Base)), 3);
+}
+
+TEST_F(Bars, TwoColumnsDifferInLightnessToo) {
+    for (const QPalette& palette : Palettes()) {
+        const QColor spent = Look::Series(palette, 0), won = Look::Series(palette, 1);
+        EXPECT_GE(Look::Contrast(spent, won), 1.3);
+    }
+}
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,153 @@
+// Tabs: what happens in which order when another page comes in front.
+#include "forms/TabStrip.h"
+
+#include "Fixture.h"
+#include "forms/ControlArray.h"
+#include "forms/TextBox.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+class Tabbed : public LoggingWindow {
+  public:
+    Tabbed() {
+        LayOut(SSTab1);
+        SSTab1.AddTab(pageEnter, "&Enter Tickets");
+        SSTab1.AddTab(pageCheck, "&Check Tickets");
+        SSTab1.AddTab(pageReports, "&Reports");
+        auto* enter = new QVBoxLayout(&pageEnter);
+        enter->addWidget(&txtNoOfTickets);
+        enter->addWidget(&cmdCancel);
+        auto* check = new QVBoxLayout(&pageCheck);
+        check->addWidget(&txtWin);
+        check->addWidget(&cmdCheck);
+        (new QVBoxLayout(&pageReports))->addWidget(&cmdReport);
+        Watch(SSTab1, txtNoOfTickets, cmdCancel, txtWin, cmdCheck, cmdReport);
+        SSTab1.OnClick([this] { Write("tab " + SSTab1.Caption()); });
+        cmdCancel.OnClick([this] { Write("Cancel"); });
+        cmdCheck.OnClick([this] { Write("Check"); });
+        SetFirstFocus(txtNoOfTickets);
+    }
+    TabStrip SSTab1{"SSTab1"};
+    QWidget pageEnter, pageCheck, pageReports;
+    TextBox txtNoOfTickets{"txtNoOfTickets"}, txtWin{"txtWin"};
+    CommandButton cmdCancel{"cmdCancel", "&Cancel"}, cmdCheck{"cmdCheck", "&Check"},
+        cmdReport{"cmdReport", "Number Frequenc&y"};
+};
+
+class Tabs : public testing::Test {
+  protected:
+    Tabbed window;
+    Person person;
+    void SetUp() override { Open(window); }
+};
+
+TEST_F(Tabs, LostFocusComesWhenThePageIsInFrontAndBeforeTheClick) {
+    window.txtNoOfTickets.OnLostFocus([&] {
+        window.Write("-txtNoOfTickets on " + window.SSTab1.Caption());
+        EXPECT_TRUE(window.pageCheck.isVisible());
+        EXPECT_TRUE(window.SSTab1.updatesEnabled() && window.pageCheck.updatesEnabled());
+    });
+    person.ClickTab("&Check");
+    EXPECT_EQ((Log{"-txtNoOfTickets on &Check Tickets", "+txtWin", "tab &Check Tickets"}), window.log);
+}
+
+TEST_F(Tabs, BoxDuringAChangeOfTabComesOverThePageInFront) {
+    window.txtNoOfTickets.OnLostFocus([&] { Window::MsgBox("Missing"); });
+    person.Expect("Sorvane", "Missing", Answer::Ok, BoxStyle::Ok, [&] {
+        EXPECT_TRUE(window.txtWin.isVisible());
+        EXPECT_FALSE(window.txtNoOfTickets.isVisible());
+        EXPECT_TRUE(window.SSTab1.updatesEnabled());
+    });
+    person.ClickTab("&Check");
+    EXPECT_EQ((Log{"+txtWin", "tab &Check Tickets"}), window.log);
+}
+
+TEST_F(Tabs, FocusTakenBackToTheTabThatWasLeftIsNotGiven) {
+    window.txtNoOfTickets.OnLostFocus([&] { window.txtNoOfTickets.SetFocus(); });
+    person.ClickTab("&Check");
+    EXPECT_TRUE(window.txtWin.HasFocus());
+    EXPECT_EQ(1, window.SSTab1.Tab());
+}
+
+TEST_F(Tabs, TabOfTheProgramFiresInTheSameOrder) {
+    window.cmdCancel.OnClick([&] {
+        window.SSTab1.SetTab(2);
+        window.Write("end of handler");
+    });
+    person.Click(window.cmdCancel);
+    EXPECT_EQ(
+        (Log{"-txtNoOfTickets", "+cmdCancel", "-cmdCancel", "+cmdReport", "tab &Reports", "end of handler"}),
+        window.log);
+}
+
+TEST_F(Tabs, TabThatIsInFrontAlreadyFiresNothing) {
+    window.SSTab1.SetTab(0);
+    person.ClickTab("&Enter");
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(Tabs, KeysOnTheTabsChangeThePageAndLeaveTheFocusThere) {
+    window.SSTab1.SetFocus();
+    Person::Settle();
+    window.log.clear();
+    person.Key(Qt::Key_Right);
+    EXPECT_EQ((Log{"tab &Check Tickets"}), window.log);
+    EXPECT_TRUE(window.SSTab1.HasFocus());
+}
+
+TEST_F(Tabs, ControlTabChangesThePageInTheSameOrder) {
+    person.Key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ((Log{"-txtNoOfTickets", "+txtWin", "tab &Check Tickets"}), window.log);
+}
+
+TEST_F(Tabs, AccessKeyOfATabChangesThePage) {
+    person.AccessKey('r');
+    EXPECT_EQ((Log{"-txtNoOfTickets", "+cmdReport", "tab &Reports"}), window.log);
+}
+
+TEST_F(Tabs, LetterSharedWithAControlOnThePageIsTheControls) {
+    person.AccessKey('c');
+    EXPECT_EQ((Log{"-txtNoOfTickets", "+cmdCancel", "Cancel"}), window.log);
+    EXPECT_EQ(0, window.SSTab1.Tab());
+    window.log.clear();
+    window.cmdCancel.SetEnabled(false);
+    Person::Settle();
+    window.log.clear();
+    person.AccessKey('c');
+    EXPECT_EQ(1, window.SSTab1.Tab());
+    EXPECT_EQ("tab &Check Tickets", window.log.back());
+}
+
+TEST_F(Tabs, LetterOfAControlOnAnotherPageIsNotInTheWay) {
+    window.SSTab1.SetTab(1);
+    window.log.clear();
+    person.AccessKey('c');
+    EXPECT_EQ("Check", window.log.back());
+}
+
+TEST_F(Tabs, CaptionIsKeptToTheCharacter) { EXPECT_EQ("&Enter Tickets", window.SSTab1.Caption()); }
+
+TEST_F(Tabs, ControlAskedForOnAnotherTabGetsNothing) {
+    window.cmdCancel.OnClick([&] { window.txtWin.SetFocus(); });
+    person.Click(window.cmdCancel);
+    EXPECT_TRUE(window.cmdCancel.HasFocus());
+    EXPECT_EQ(0, window.SSTab1.Tab());
+}
+
+TEST_F(Tabs, TwoButtonsWithOneLetterTakeTurnsAndAreNotClicked) {
+    CommandButton cmdClose{"cmdClose", "&Close"};
+    window.pageEnter.layout()->addWidget(&cmdClose);
+    cmdClose.OnClick([&] { window.Write("Close"); });
+    Person::Settle();
+    person.AccessKey('c');
+    EXPECT_TRUE(window.cmdCancel.HasFocus());
+    person.AccessKey('c');
+    EXPECT_TRUE(cmdClose.HasFocus());
+    EXPECT_EQ((Log{"-txtNoOfTickets", "+cmdCancel", "-cmdCancel"}), window.log);
+}
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,309 @@
+// Windows: how they open, how they are left, and what goes on behind them.
+#include "forms/Window.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <QWindow>
+#include <memory>
+#include <vector>
+
+#include "Fixture.h"
+#include "forms/BusyPointer.h"
+#include "forms/MessageBoxes.h"
+#include "forms/TextBox.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+class Small : public LoggingWindow {
+  public:
+    explicit Small(std::string_view name = "frmSmall") : LoggingWindow(name, Kind::Dialog) {
+        LayOut(txtCount, cmdOk, cmdCancel);
+        Watch(txtCount, cmdOk, cmdCancel);
+        cmdOk.OnClick([this] { Write("Ok"); });
+        cmdCancel.OnClick([this] {
+            Write("Cancel");
+            Unload();
+        });
+        SetCloseButton(cmdCancel);
+        SetFirstFocus(txtCount);
+    }
+    TextBox txtCount{"txtCount"};
+    CommandButton cmdOk{"cmdOk", "&Ok"}, cmdCancel{"cmdCancel", "&Cancel"};
+};
+
+TEST(Window, ModalWindowReturnsWhenItIsLeft) {
+    Small window;
+    Person person;
+    bool returned = false;
+    person.ExpectWindow("frmSmall", [&](QWidget&) {
+        EXPECT_TRUE(window.IsShown());
+        EXPECT_FALSE(returned);
+        person.Click(window.cmdCancel);
+        EXPECT_FALSE(window.IsShown());
+    });
+    window.ShowModal();
+    returned = true;
+    EXPECT_EQ((Log{"+txtCount", "-txtCount", "+cmdCancel", "Cancel"}), window.log);
+}
+
+TEST(Window, OpensWithTheFocusOnItsFirstControlWhereverItStands) {
+    Small window;
+    window.SetFirstFocus(window.cmdOk);
+    window.Show();
+    Person::Await(window);
+    EXPECT_EQ((Log{"+cmdOk"}), window.log);
+}
+
+TEST(Window, OpensWithTheFirstInTabOrderWhereNoneIsNamedOrTheNamedOneIsDisabled) {
+    Small window;
+    window.cmdOk.SetEnabled(false);
+    window.SetFirstFocus(window.cmdOk);
+    window.Show();
+    Person::Await(window);
+    EXPECT_TRUE(window.txtCount.HasFocus());
+}
+
+TEST(Window, CanBeShownAgain) {
+    Small window;
+    Person person;
+    for (int i = 0; i < 2; ++i) {
+        person.ExpectWindow("frmSmall", [&](QWidget&) {
+            person.Key(Qt::Key_Tab);
+            person.Close(window);
+        });
+        window.ShowModal();
+    }
+    EXPECT_EQ(
+        (Log{"+txtCount", "-txtCount", "+cmdOk", "Cancel", "+txtCount", "-txtCount", "+cmdOk", "Cancel"}),
+        window.log);
+}
+
+TEST(Window, WindowBehindTakesNoInput) {
+    Small main("frmMain"), window;
+    Person person;
+    Open(main);
+    person.ExpectWindow("frmSmall", [&](QWidget&) {
+        QTest::mouseClick(main.windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                          main.cmdOk.mapTo(&main, main.cmdOk.rect().center()));
+        QTest::keyClick(main.windowHandle(), 'o', Qt::AltModifier);
+        main.windowHandle()->close();
+        EXPECT_TRUE(main.IsShown());
+        person.Close(window);
+    });
+    window.ShowModal();
+    EXPECT_EQ(Log{}, main.log);
+}
+
+TEST(Window, CloseBoxPressesTheWayOutWithoutMovingTheFocus) {
+    Small window;
+    Person person;
+    Open(window);
+    person.Close(window);
+    EXPECT_EQ((Log{"Cancel"}), window.log);
+    EXPECT_FALSE(window.IsShown());
+}
+
+TEST(Window, CloseBoxDoesNothingWhileTheWayOutIsDisabled) {
+    Small window;
+    Person person;
+    Open(window);
+    window.cmdCancel.SetEnabled(false);
+    person.Close(window);
+    EXPECT_TRUE(window.IsShown());
+}
+
+TEST(Window, CloseBoxOfAWindowWithoutAWayOutLeavesIt) {
+    LoggingWindow window;
+    Person person;
+    Open(window);
+    person.Close(window);
+    EXPECT_FALSE(window.IsShown());
+}
+
+TEST(Window, EscapeDoesNothingUnlessAButtonIsSet) {
+    Small window;
+    Person person;
+    Open(window);
+    person.Key(Qt::Key_Escape);
+    EXPECT_EQ(Log{}, window.log);
+    window.SetEscapeButton(window.cmdCancel);
+    person.Key(Qt::Key_Escape);
+    EXPECT_EQ((Log{"Cancel"}), window.log);
+}
+
+TEST(Window, NoButtonIsTheDefaultOne) {
+    Small window;
+    Person person;
+    Open(window);
+    person.Enter();
+    EXPECT_EQ(Log{}, window.log);
+    for (auto* button : window.findChildren<QPushButton*>())
+        EXPECT_FALSE(button->isDefault() || button->autoDefault()) << button->objectName().toStdString();
+}
+
+TEST(Window, TitleIsExact) {
+    Small window;
+    window.SetCaption("About  Sorvane ");
+    EXPECT_EQ("About  Sorvane ", window.Caption());
+    Open(window);
+    EXPECT_EQ("About  Sorvane ", window.windowHandle()->title().toStdString());
+}
+
+TEST(Window, EmptyTitleShowsAnEmptyTitleBarAndNotTheNameOfTheProgram) {
+    Small window;
+    window.SetCaption("Florida");
+    window.SetCaption("");
+    Open(window);
+    EXPECT_EQ("", window.windowTitle().toStdString());
+    EXPECT_EQ(QString(QChar(0x200B)), window.windowHandle()->title());
+    window.SetCaption("Play 4");
+    window.SetCaption("");
+    EXPECT_EQ(QString(QChar(0x200B)), window.windowHandle()->title());
+}
+
+TEST(Window, MayBeUnloadedByItsOwnHandlerWhichGoesOn) {
+    Small main("frmMain");
+    Person person;
+    Open(main);
+    auto window = std::make_unique<Small>();
+    std::vector<std::unique_ptr<Small>> leaving;
+    window->cmdOk.OnClick([&] {
+        Small& own = *window;
+        leaving.push_back(std::move(window));
+        own.Unload();
+        EXPECT_FALSE(own.isVisible());
+        Window::MsgBox("Tickets Saved", BoxStyle::Ok, "CONFIRMED");
+        own.txtCount.SetText("0");
+        own.txtCount.SetFocus();
+        own.cmdOk.SetEnabled(false);
+        own.Write("went on");
+    });
+    person.ExpectWindow("frmSmall", [&](QWidget&) {
+        person.Expect("CONFIRMED", "Tickets Saved", Answer::Ok, BoxStyle::Ok,
+                      [&] { EXPECT_TRUE(QApplication::activeModalWidget()->parentWidget() == &main); });
+        person.Click(window->cmdOk);
+    });
+    window->ShowModal();
+    ASSERT_EQ(1u, leaving.size());
+    EXPECT_EQ((Log{"+txtCount", "-txtCount", "+cmdOk", "went on"}), leaving.front()->log);
+    leaving.clear();
+    Person::Await(main);
+    EXPECT_EQ(Log{}, main.log);
+}
+
+TEST(Window, MayBeUnloadedFromANestedWindow) {
+    Small outer("frmOuter"), inner("frmInner");
+    Person person;
+    outer.cmdOk.OnClick([&] {
+        inner.ShowModal();
+        outer.Write("inner returned");
+    });
+    inner.cmdOk.OnClick([&] {
+        outer.Unload();
+        inner.Unload();
+    });
+    person.ExpectWindow("frmOuter", [&](QWidget&) {
+        person.ExpectWindow("frmInner", [&](QWidget&) { person.Click(inner.cmdOk); });
+        person.Click(outer.cmdOk);
+    });
+    outer.ShowModal();
+    EXPECT_EQ((Log{"+txtCount", "-txtCount", "+cmdOk", "inner returned"}), outer.log);
+}
+
+TEST(Window, UnloadedByItsOwnLostFocusLeavesNothingBehind) {
+    Small window;
+    Person person;
+    window.txtCount.OnLostFocus([&] { window.Unload(); });
+    person.ExpectWindow("frmSmall", [&](QWidget&) { person.Press(window.cmdOk); });
+    window.ShowModal();
+    EXPECT_EQ((Log{"+txtCount"}), window.log);
+}
+
+TEST(Window, ShownTwiceIsShownOnce) {
+    Small window;
+    Person person;
+    person.ExpectWindow("frmSmall", [&](QWidget&) {
+        window.ShowModal();
+        person.Close(window);
+    });
+    window.ShowModal();
+    EXPECT_EQ((Log{"+txtCount", "Cancel"}), window.log);
+}
+
+TEST(Window, WindowBelowIsActiveAgainAfterwards) {
+    Small main("frmMain"), window;
+    Person person;
+    Open(main);
+    person.ExpectWindow("frmSmall", [&](QWidget&) { person.Close(window); });
+    window.ShowModal();
+    EXPECT_TRUE(main.isActiveWindow());
+    person.Type("5");
+    EXPECT_EQ("5", main.txtCount.Text());
+}
+
+struct BoxCase {
+    int style;
+    Answer answer, closed;
+};
+
+TEST(MessageBox, EveryStyleGivesEveryAnswerAndTheCloseBoxTheMildestOne) {
+    const BoxCase cases[] = {{BoxStyle::Ok, Answer::Ok, Answer::Ok},
+                             {BoxStyle::Stop, Answer::Ok, Answer::Ok},
+                             {BoxStyle::Exclamation, Answer::Ok, Answer::Ok},
+                             {BoxStyle::OkCancel, Answer::Ok, Answer::Cancel},
+                             {BoxStyle::OkCancel, Answer::Cancel, Answer::Cancel},
+                             {BoxStyle::YesNo, Answer::Yes, Answer::No},
+                             {BoxStyle::YesNo, Answer::No, Answer::No},
+                             {BoxStyle::YesNo | BoxStyle::Exclamation, Answer::No, Answer::No},
+                             {BoxStyle::YesNoCancel, Answer::Yes, Answer::Cancel},
+                             {BoxStyle::YesNoCancel, Answer::No, Answer::Cancel},
+                             {BoxStyle::YesNoCancel, Answer::Cancel, Answer::Cancel}};
+    MessageBoxes boxes;
+    Person person;
+    for (const BoxCase& box : cases) {
+        person.Expect("CONFIRM", "Save this sheet of tickets?", box.answer, box.style);
+        EXPECT_EQ(box.answer, boxes.MsgBox("Save this sheet of tickets?", box.style, "CONFIRM")) << box.style;
+        person.ExpectClosing("CONFIRM", "x", box.style);
+        EXPECT_EQ(box.closed, boxes.MsgBox("x", box.style, "CONFIRM")) << box.style;
+    }
+}
+
+TEST(MessageBox, TextIsPlainAndItsLineBreaksAreOneLineEach) {
+    Person person;
+    person.Expect("Sorvane", "<b>one</b>\r\n\r\ntwo ", Answer::Ok, BoxStyle::Ok, [] {
+        const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        EXPECT_EQ("<b>one</b>\n\ntwo ", box->text().toStdString());
+    });
+    MessageBoxes().MsgBox("<b>one</b>\r\n\r\ntwo ");
+}
+
+TEST(BusyPointer, IsShownAtOnceForWorkKnownToBeLong) {
+    {
+        const BusyPointer busy(std::chrono::milliseconds(251));
+        EXPECT_TRUE(busy.Shown());
+        EXPECT_EQ(Qt::WaitCursor, QApplication::overrideCursor()->shape());
+    }
+    EXPECT_EQ(nullptr, QApplication::overrideCursor());
+}
+
+TEST(BusyPointer, IsNotShownForShortWork) {
+    BusyPointer busy(std::chrono::milliseconds(250));
+    busy.Tick();
+    EXPECT_FALSE(busy.Shown());
+}
+
+TEST(BusyPointer, GivesWayToABox) {
+    Person person;
+    const BusyPointer busy(std::chrono::seconds(1));
+    person.Expect("Sorvane", "Hello", Answer::Ok, BoxStyle::Ok,
+                  [] { EXPECT_EQ(Qt::ArrowCursor, QApplication::overrideCursor()->shape()); });
+    MessageBoxes().MsgBox("Hello");
+    EXPECT_EQ(Qt::WaitCursor, QApplication::overrideCursor()->shape());
+}
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,290 @@
+#include "support/Person.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDialog>
+#include <QInputMethodEvent>
+#include <QMessageBox>
+#include <QTabBar>
+#include <QTest>
+#include <QWindow>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <utility>
+
+#include "forms/Runtime.h"
+#include "forms/Utf8.h"
+#include "forms/Window.h"
+
+namespace sorvane::test {
+
+namespace {
+
+using forms::ToQt;
+using forms::ToUtf8;
+
+// A loop that shows boxes without end would never let the test end.
+constexpr int MostUnexpected = 50;
+// Milliseconds that a window manager may take to put a window in place.
+constexpr int MostWaiting = 2000;
+
+std::string OneKindOfBreak(std::string_view text) { return ToUtf8(ToQt(text).replace("\r\n", "\n")); }
+
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+int StyleOf(const QMessageBox& box) {
+    const auto buttons = box.standardButtons();
+    int style = BoxStyle::Ok;
+    if (buttons == (QMessageBox::Ok | QMessageBox::Cancel)) style = BoxStyle::OkCancel;
+    if (buttons == (QMessageBox::Yes | QMessageBox::No)) style = BoxStyle::YesNo;
+    if (buttons == (QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) style = BoxStyle::YesNoCancel;
+    if (box.icon() == QMessageBox::Critical) style |= BoxStyle::Stop;
+    if (box.icon() == QMessageBox::Warning) style |= BoxStyle::Exclamation;
+    return style;
+}
+
+std::string Describe(const QWidget& modal) {
+    std::string text =
+        modal.objectName().isEmpty() ? modal.metaObject()->className() : ToUtf8(modal.objectName());
+    text += " \"" + ToUtf8(modal.windowTitle()) + "\"";
+    if (const auto* box = qobject_cast<const QMessageBox*>(&modal)) text += ": " + ToUtf8(box->text());
+    return text;
+}
+
+}  // namespace
+
+Person::Person() { qApp->installEventFilter(this); }
+
+Person::~Person() {
+    Settle();
+    for (const Event& event : awaited_)
+        ADD_FAILURE() << "never came: "
+                      << (event.window.empty() ? "\"" + event.title + "\": " + event.text : event.window);
+}
+
+QWidget& Person::Front() const {
+    QWidget* front = QApplication::activeModalWidget();
+    if (!front) front = forms::Runtime::Current().Front();
+    if (!front) throw std::runtime_error("no window is shown");
+    return *front;
+}
+
+void Person::Settle() {
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+void Person::Await(QWidget& window) {
+    if (QApplication::activePopupWidget()) return;
+    const auto active = [&] {
+        return window.isActiveWindow() && QGuiApplication::focusWindow() == window.windowHandle();
+    };
+    if (!QTest::qWaitFor(active, MostWaiting)) ADD_FAILURE() << "never became active: " << Describe(window);
+}
+
+QWindow* Person::Handle(QWidget& widget, QPoint at) const {
+    Settle();  // layouts that wait move things
+    QWidget* window = widget.window();
+    const QWidget* front = QApplication::activePopupWidget();
+    if (!front) front = &Front();
+    if (window != front) ADD_FAILURE() << Describe(widget) << " is behind " << Describe(*front);
+    else if (!widget.visibleRegion().contains(at)) ADD_FAILURE() << Describe(widget) << " can't be seen";
+    else return window->windowHandle();
+    return nullptr;
+}
+
+void Person::Press(QWidget& widget, QPoint at) {
+    QWindow* handle = Handle(widget, at);
+    if (!handle) return;
+    Await(*widget.window());
+    pressed_ = widget.window();
+    pressedAt_ = widget.mapTo(widget.window(), at);
+    QTest::mousePress(handle, Qt::LeftButton, Qt::NoModifier, pressedAt_);
+}
+
+void Person::Release() {
+    if (QWidget* window = std::exchange(pressed_, nullptr))
+        QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, Qt::NoModifier, pressedAt_);
+    Settle();
+}
+
+void Person::Click(QWidget& widget, QPoint at) {
+    Press(widget, at);
+    Release();
+}
+
+void Person::DoubleClick(QWidget& widget, QPoint at) {
+    QWindow* handle = Handle(widget, at);
+    if (!handle) return;
+    Await(*widget.window());
+    QTest::mouseDClick(handle, Qt::LeftButton, Qt::NoModifier, widget.mapTo(widget.window(), at));
+    Settle();
+}
+
+void Person::MoveTo(QWidget& widget, QPoint at) {
+    if (QWindow* handle = Handle(widget, at)) QTest::mouseMove(handle, widget.mapTo(widget.window(), at));
+    Settle();
+}
+
+void Person::ClickRow(QAbstractItemView& list, int row) {
+    Click(*list.viewport(), list.visualRect(list.model()->index(row, 0)).center());
+}
+
+void Person::DoubleClickRow(QAbstractItemView& list, int row) {
+    DoubleClick(*list.viewport(), list.visualRect(list.model()->index(row, 0)).center());
+}
+
+void Person::ClickTab(std::string_view captionStart) {
+    for (auto* bar : Front().findChildren<QTabBar*>())
+        for (int i = 0; i < bar->count(); ++i)
+            if (bar->tabText(i).startsWith(ToQt(captionStart))) return Click(*bar, bar->tabRect(i).center());
+    ADD_FAILURE() << "no tab " << captionStart;
+}
+
+void Person::Close(QWidget& window) {
+    window.windowHandle()->close();
+    Settle();
+}
+
+void Person::Key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    Await(Front());
+    QTest::keyClick(Front().windowHandle(), key, modifiers);
+    Settle();
+}
+
+void Person::AccessKey(char letter) {
+    Await(Front());
+    QTest::keyClick(Front().windowHandle(), letter, Qt::AltModifier);
+    Settle();
+}
+
+void Person::Type(std::string_view text) {
+    for (const char letter : text) {
+        Await(Front());
+        QTest::keyClick(Front().windowHandle(), letter);
+    }
+    Settle();
+}
+
+void Person::Type(QWidget& widget, std::string_view text) {
+    Click(widget);
+    Type(text);
+}
+
+void Person::Commit(std::string_view text) {
+    QInputMethodEvent event;
+    event.setCommitString(ToQt(text));
+    QCoreApplication::sendEvent(Front().focusWidget(), &event);
+    Settle();
+}
+
+void Person::Expect(std::string_view title, std::string_view text, Answer answer, int style,
+                    std::function<void()> meanwhile) {
+    Event event;
+    event.title = title;
+    event.text = OneKindOfBreak(text);
+    event.answer = answer;
+    event.style = style;
+    event.meanwhile = std::move(meanwhile);
+    awaited_.push_back(std::move(event));
+}
+
+void Person::ExpectClosing(std::string_view title, std::string_view text, int style) {
+    Expect(title, text, Answer::Ok, style);
+    awaited_.back().close = true;
+}
+
+void Person::ExpectWindow(std::string_view name, std::function<void(QWidget&)> act) {
+    Event event;
+    event.window = name;
+    event.act = std::move(act);
+    awaited_.push_back(std::move(event));
+}
+
+bool Person::eventFilter(QObject* receiver, QEvent* event) {
+    if (event->type() != QEvent::Show || !receiver->isWidgetType()) return false;
+    auto* window = static_cast<QWidget*>(receiver);
+    if (!window->isWindow() || !window->isModal()) return false;
+    // Later: its own loop runs by then.
+    QMetaObject::invokeMethod(
+        this,
+        [this, modal = QPointer<QWidget>(window)] {
+            if (modal && modal->isVisible()) Appeared(*modal);
+        },
+        Qt::QueuedConnection);
+    return false;
+}
+
+void Person::Appeared(QWidget& modal) {
+    // A mouse that is still down is let go here.
+    if (std::exchange(pressed_, nullptr))
+        QTest::mouseRelease(modal.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
+    auto* box = qobject_cast<QMessageBox*>(&modal);
+    if (awaited_.empty() || awaited_.front().window.empty() != (box != nullptr)) return Unexpected(modal);
+    const Event event = std::move(awaited_.front());
+    awaited_.pop_front();
+    if (box) AnswerBox(*box, event);
+    else UseWindow(modal, event);
+}
+
+void Person::AnswerBox(QMessageBox& box, const Event& event) {
+    EXPECT_EQ(event.title, ToUtf8(box.windowTitle())) << Describe(box);
+    EXPECT_EQ(event.text, OneKindOfBreak(ToUtf8(box.text())));
+    EXPECT_EQ(event.style, StyleOf(box)) << Describe(box);
+    EXPECT_EQ(Qt::PlainText, box.textFormat());
+    if (event.meanwhile) event.meanwhile();
+    if (event.close) return Close(box);
+    QAbstractButton* button = box.button(ButtonOf(event.answer));
+    if (!button) return Unexpected(box);
+    const QPointer<QWidget> guard(&box);
+    Click(*button);
+    if (guard && guard->isVisible()) Unexpected(box);
+}
+
+void Person::UseWindow(QWidget& window, const Event& event) {
+    EXPECT_EQ(event.window, ToUtf8(window.objectName()));
+    const QPointer<QWidget> guard(&window);
+    event.act(window);
+    if (guard && guard->isVisible()) Unexpected(window);
+}
+
+void Person::Unexpected(QWidget& modal) {
+    ADD_FAILURE() << "nobody expected " << Describe(modal)
+                  << (awaited_.empty() ? "" : ", but " + awaited_.front().title + awaited_.front().window);
+    if (++unexpected_ > MostUnexpected) {
+        std::fprintf(stderr, "Boxes without end: %s\n", Describe(modal).c_str());
+        std::abort();
+    }
+    if (auto* dialog = qobject_cast<QDialog*>(&modal)) dialog->reject();
+    else if (auto* window = dynamic_cast<forms::Window*>(&modal)) window->Unload();
+}
+
+QObject* Person::FindIn(const QWidget& window, const QMetaObject& type, std::string_view name) {
+    QObject* found = nullptr;
+    for (auto* object : window.findChildren<QObject*>(ToQt(name))) {
+        if (!object->metaObject()->inherits(&type)) continue;
+        found = object;
+        // One name may stand on several tabs: the one in front is meant.
+        if (object->isWidgetType() && static_cast<QWidget*>(object)->isVisible()) break;
+    }
+    if (!found)
+        throw std::runtime_error(std::string("no ") + type.className() + " named " + std::string(name));
+    return found;
+}
+
+}  // namespace sorvane::test
