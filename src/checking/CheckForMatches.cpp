@@ -1,10 +1,12 @@
 #include "checking/CheckForMatches.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstddef>
 #include <numeric>
 #include <span>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "checking/Ladders.h"
@@ -26,11 +28,21 @@ void AddLine(Run& run, Lines& lstMessage, std::string line) {
     lstMessage.AddItem(run.global.Msg);
 }
 
+// Plain digits, which is what boxes hold, take the short way.
+int BoxNumber(const std::string& text) {
+    constexpr std::size_t FitsAnyway = 4;
+    const char* const end = text.data() + text.size();
+    int number = 0;
+    const auto parsed = std::from_chars(text.data(), end, number);
+    if (parsed.ec == std::errc() && parsed.ptr == end && text.size() <= FitsAnyway) return number;
+    return CInt(text);
+}
+
 // The boxes as numbers; the conversion is made once a ticket, not once a comparison.
 template <std::size_t Count, class Boxes>
 std::array<int, Count> NumbersOf(const Boxes& boxes) {
     std::array<int, Count> numbers{};
-    for (std::size_t i = 0; i < Count; ++i) numbers[i] = CInt(boxes.at(i));
+    for (std::size_t i = 0; i < Count; ++i) numbers[i] = BoxNumber(boxes.at(i));
     return numbers;
 }
 
@@ -117,11 +129,12 @@ void CheckKeno(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) 
 
 namespace {
 
+// The digits at these places read as one number: 0, 1, 2 give 12.
 template <std::size_t N>
 Integer NumberOf(const std::array<Integer, N>& digits, const std::array<std::size_t, N>& places) {
-    std::string text;
-    for (const std::size_t place : places) text += std::to_string(int{digits[place]});
-    return CInt(text);
+    int number = 0;
+    for (const std::size_t place : places) number = number * 10 + digits[place];
+    return number;
 }
 
 template <std::size_t N>
@@ -164,10 +177,10 @@ void CheckPick(Run& run, const WinningBoxes& boxes, const Row& ticket, Build bui
     g.MatchCount = 0;
     if (g.PlayOption == "Straight") {
         for (std::size_t i = 0; i < N; ++i)
-            if (CInt(boxes.Main.at(i)) == digits[i]) ++g.MatchCount;
+            if (BoxNumber(boxes.Main.at(i)) == digits[i]) ++g.MatchCount;
     } else if (PaysAnyOrder(g.PlayOption)) {
         std::array<Integer, N> drawn;
-        for (std::size_t i = 0; i < N; ++i) drawn[i] = CInt(boxes.Main.at(i));
+        for (std::size_t i = 0; i < N; ++i) drawn[i] = BoxNumber(boxes.Main.at(i));
         build(run, drawn);
         if (StandsInWinPerms(g.WinPerms, digits)) g.MatchCount = All;
     }

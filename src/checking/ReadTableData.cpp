@@ -1,5 +1,11 @@
 #include "checking/ReadTableData.h"
 
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <variant>
+#include <vector>
+
 #include "checking/RowText.h"
 #include "checking/WinningBoxes.h"
 
@@ -23,14 +29,9 @@ constexpr PlayedTable AddOnTable{.DateAt = 2, .CountsByFlag = true, .IsAddOn = t
 
 constexpr std::string_view NotPlayedLine = "Not Played";
 
-// One statement of a reader: where there is no current record it is skipped and the next one runs.
-template <class Statement>
-void PassOver(Statement statement) {
-    Ignoring({ErrorNumber::NoCurrentRecord}, statement);
-}
-
 void SeekDate(Dao::Recordset& Rs, Date date) {
-    PassOver([&] { Rs.MoveFirst(); });
+    // An empty table has no first row; the search finds that out by itself.
+    Ignoring({ErrorNumber::NoCurrentRecord}, [&] { Rs.MoveFirst(); });
     Rs.Index("Date");
     Rs.Seek(date);
 }
@@ -49,32 +50,48 @@ void ReportNoRow(Run& run, const PlayedTable& table, Lines& list) {
 
 bool IsOfGame(Dao::Recordset& Rs, const std::string& LottoFlag) {
     const Dao::Value key = Rs[FlagAt];
-    return !key.IsNull() && key.ToText() == LottoFlag;
+    const auto* text = std::get_if<std::string>(&key.Get());
+    return text && *text == LottoFlag;
 }
 
-// The first pass: from the row found to the last one of the date.
-int CountRows(Run& run, const PlayedTable& table, Dao::Recordset& Rs, Date date) {
-    Global& g = run.global;
+// The rows of the date in index order, up to the first that can't be read, and how many of them count.
+template <class Row>
+struct DateRows {
     int count = 0;
+    std::vector<Row> read;
+    int error = 0;  // of the row behind the last one read
+};
+
+// Walks from the row found to the last one of the date. A row that can't be read is an error only once its
+// turn comes, after all are counted.
+template <class Row, class ReadRow>
+DateRows<Row> WalkDate(Run& run, const PlayedTable& table, Dao::Recordset& Rs, Date date, ReadRow readRow) {
+    Global& g = run.global;
+    DateRows<Row> rows;
     do {
         if (!table.CountsByFlag || IsOfGame(Rs, g.LottoFlag)) {
             ++g.EntryCounter;
-            ++count;
+            ++rows.count;
+        }
+        if (rows.error == 0) {
+            Row row;
+            rows.error = ErrorOf([&] { readRow(Rs, row); });
+            if (rows.error == 0) rows.read.push_back(row);
         }
         Rs.MoveNext();
     } while (!Rs.AtEOF() && Rs[table.DateAt].ToDate() == date);
-    return count;
+    return rows;
 }
 
-// The second pass doesn't ask for the game: in a shared table it takes the first rows of the date. A row that
-// somebody else removed meanwhile stands as zeros.
-template <class Row, class ReadRow, class ListRow>
-void ReadRows(Dao::Recordset& Rs, Array<Row>& rows, int count, ReadRow readRow, ListRow listRow) {
-    rows.Redim(count - 1);
-    for (int RowNo = 0; RowNo < count; ++RowNo) {
-        PassOver([&] { readRow(Rs, rows(RowNo), RowNo); });
+// In a shared table these are the first rows of the date, whichever game they belong to.
+template <class Row, class ListRow>
+void TakeRows(const DateRows<Row>& from, Array<Row>& rows, ListRow listRow) {
+    rows.Redim(from.count - 1);
+    for (int RowNo = 0; RowNo < from.count; ++RowNo) {
+        const auto at = static_cast<std::size_t>(RowNo);
+        if (at == from.read.size()) Raise(from.error);
+        rows(RowNo) = from.read[at];
         listRow(rows(RowNo));
-        if (!Rs.AtEOF()) PassOver([&] { Rs.MoveNext(); });
     }
 }
 
@@ -85,9 +102,7 @@ void ReadTable(Run& run, const StoreArgs& at, const PlayedTable& table, Lines& l
     Dao::Recordset Rs = Db.OpenTable(at.TableName);
     SeekDate(Rs, at.WindowDate);
     if (Rs.NoMatch()) return ReportNoRow(run, table, list);
-    const int count = CountRows(run, table, Rs, at.WindowDate);
-    SeekDate(Rs, at.WindowDate);
-    ReadRows(Rs, rows, count, readRow, listRow);
+    TakeRows(WalkDate<Row>(run, table, Rs, at.WindowDate, readRow), rows, listRow);
 }
 
 template <class Row, class ReadRow, class ListRow>
@@ -110,13 +125,17 @@ void GetNumbers(Dao::Recordset& Rs, int at, Slots<Integer, N>& numbers, int coun
 template <class Row>
 void ReadPick(Run& run, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
     constexpr int First = 3;
+    std::optional<std::string> way;
     ReadPlayed(
         run, at, PickTable, list, rows,
-        [&](Dao::Recordset& Rs, Row& row, int RowNo) {
+        [&](Dao::Recordset& Rs, Row& row) {
             GetNumbers(Rs, First, row.Numbers, digits);
-            if (RowNo == 0) run.global.PlayOption = Rs[First + digits].ToText();
+            if (!way) way = Rs[First + digits].ToText();
         },
-        [&](const Row& row) { list.AddItem(RowText(row.Numbers, digits)); });
+        [&](const Row& row) {
+            run.global.PlayOption = *way;
+            list.AddItem(RowText(row.Numbers, digits));
+        });
 }
 
 template <int N>
@@ -130,7 +149,7 @@ template <class Row>
 void ReadDigits(Run& run, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
     ReadPlayed(
         run, at, AddOnTable, list, rows,
-        [&](Dao::Recordset& Rs, Row& row, int) { GetNumbers(Rs, 3, row.Numbers, digits); },
+        [&](Dao::Recordset& Rs, Row& row) { GetNumbers(Rs, 3, row.Numbers, digits); },
         [&](const Row& row) { list.AddItem(DigitsOrNotPlayed(row.Numbers, digits)); });
 }
 
@@ -141,7 +160,7 @@ void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
     const bool hasEarlyBird = g.LottoFlag == "Lottario";
     ReadPlayed(
         run, at, LottoTable, lstNumbersPlayed, g.Lotto6Played,
-        [&](Dao::Recordset& Rs, Lotto6Row& row, int) {
+        [&](Dao::Recordset& Rs, Lotto6Row& row) {
             GetNumbers(Rs, 2, row.Numbers, 6);
             if (hasEarlyBird) row.EarlyBird = Rs[9].ToBool();
         },
@@ -155,7 +174,7 @@ void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
 void ReadLotto7Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
     ReadPlayed(
         run, at, LottoTable, lstNumbersPlayed, run.global.Lotto7Played,
-        [](Dao::Recordset& Rs, Lotto7Row& row, int) { GetNumbers(Rs, 2, row.Numbers, 7); },
+        [](Dao::Recordset& Rs, Lotto7Row& row) { GetNumbers(Rs, 2, row.Numbers, 7); },
         [&](const Lotto7Row& row) { lstNumbersPlayed.AddItem(RowText(row.Numbers, 7)); });
 }
 
@@ -163,13 +182,13 @@ void ReadKenoPlayed(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
     Global& g = run.global;
     ReadPlayed(
         run, at, KenoTable, lstNumbersPlayed, g.KenoPlayed,
-        [&](Dao::Recordset& Rs, KenoRow& row, int) {
+        [&](Dao::Recordset& Rs, KenoRow& row) {
             row.Wager = Rs[13].ToInteger();
             row.NoOfBalls = Rs[14].ToInteger();
-            g.NoOfBallsPerTicket = row.NoOfBalls;
             GetNumbers(Rs, 3, row.Numbers, row.NoOfBalls);
         },
         [&](const KenoRow& row) {
+            g.NoOfBallsPerTicket = row.NoOfBalls;
             lstNumbersPlayed.AddItem(RowTextWithoutZeros(row.Numbers, row.NoOfBalls));
         });
 }
@@ -192,7 +211,7 @@ void ReadDigitAddOnPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed)
 void ReadExtraPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed) {
     ReadPlayed(
         run, at, AddOnTable, lstEncorePlayed, run.global.Pick4Played,
-        [](Dao::Recordset& Rs, Pick4Row& row, int) { GetNumbers(Rs, 3, row.Numbers, 4); },
+        [](Dao::Recordset& Rs, Pick4Row& row) { GetNumbers(Rs, 3, row.Numbers, 4); },
         [&](const Pick4Row& row) { lstEncorePlayed.AddItem(RowText(row.Numbers, 4)); });
 }
 

@@ -3,7 +3,7 @@
 // Each reader opens the table in `at`, looks for the date, counts its rows (EntryCounter is raised with the
 // count, beyond 32,767 error 6), sizes its array to the count, and reads that many rows, each into the array
 // and the list. What was listed before an error stays. Errors show their box and the reader returns
-// normally; 3021 is passed over, statement by statement.
+// normally. All rows of the date are read at one go, before the first is listed.
 #pragma once
 
 #include "platform/Lines.h"

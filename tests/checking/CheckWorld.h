@@ -10,6 +10,7 @@
 
 #include "checking/CheckForMatches.h"
 #include "platform/Lines.h"
+#include "store/CreateTables.h"
 #include "support/World.h"
 
 namespace sorvane::testing {
@@ -72,6 +73,40 @@ struct JudgeWorld : World {
 };
 
 struct JudgeTest : ::testing::Test, JudgeWorld {};
+
+// A database file with the tables that a test makes, and a draw date.
+struct StoreTest : ::testing::Test, World {
+    StoreTest() { WithDatabase(); }
+
+    void Make(const Creator& creator, const std::string& table) {
+        creator(run, DbName(), table, PrimaryFieldName, DateFieldName);
+    }
+    // Adds rows of SQL values.
+    void Add(const std::string& table, const Texts& rows) {
+        PlainFile file = Plain();
+        for (const std::string& row : rows) file.Do("INSERT INTO [" + table + "] VALUES (" + row + ")");
+    }
+    Texts All(const std::string& table) {
+        return Plain().Rows("SELECT * FROM [" + table + "] ORDER BY rowid");
+    }
+    StoreArgs At(const std::string& table) {
+        TableName = table;
+        return {name, TableName, date};
+    }
+    void ExpectNoTable(const std::string& table) {
+        ExpectStoreError(ErrorNumber::TableNotFound,
+                         "Unable to open " + table + " table. Please advise error number to support.");
+    }
+    void ExpectAllClosed() const {
+        EXPECT_EQ(global.Open.DbOpen, Off);
+        EXPECT_EQ(global.Open.RsOpen, Off);
+        EXPECT_EQ(global.Open.WsOpen, Off);
+    }
+
+    std::string name = DbName();
+    std::string TableName;
+    Date date = Date::FromDays(46095);  // days as they stand in the rows of a test
+};
 
 // Numbers of a fixed sequence, low to high.
 inline int Between(SplitMix& mix, int low, int high) {
