@@ -92,12 +92,19 @@ Value InOwnType(const Value& value, const Column& column) {
 }
 
 Value ReadInteger(std::int64_t number, FieldType type) {
-    if (type == FieldType::Boolean) return number != 0;
-    if (type == FieldType::Currency && number >= -LargestAmount && number <= LargestAmount)
-        return Currency::FromTenThousandths(number * Currency::Scale);
-    if (type == FieldType::Date && IsDate(static_cast<double>(number)))
-        return Date::FromDays(static_cast<double>(number));
-    return static_cast<long long>(number);
+    switch (type) {
+        case FieldType::Boolean:
+            return number != 0;
+        case FieldType::Currency:
+            if (number < -LargestAmount || number > LargestAmount) break;
+            return Currency::FromTenThousandths(number * Currency::Scale);
+        case FieldType::Date:
+            if (!IsDate(static_cast<double>(number))) break;
+            return Date::FromDays(static_cast<double>(number));
+        default:
+            break;
+    }
+    return number;
 }
 
 Value ReadDouble(double number, FieldType type) {
@@ -175,16 +182,16 @@ Cell ToCell(const Value& value) {
     return std::visit(Maker{}, value.Get());
 }
 
-Value ReadValue(const Statement& row, int position, FieldType type) {
-    switch (sqlite3_column_type(row.Handle(), position)) {
+Value ReadValue(sqlite3_value* cell, FieldType type) {
+    switch (sqlite3_value_type(cell)) {
         case SQLITE_INTEGER:
-            return ReadInteger(row.Int64(position), type);
+            return ReadInteger(sqlite3_value_int64(cell), type);
         case SQLITE_FLOAT:
-            return ReadDouble(sqlite3_column_double(row.Handle(), position), type);
+            return ReadDouble(sqlite3_value_double(cell), type);
         case SQLITE_NULL:
             return type == FieldType::Boolean ? Value(false) : Value();
         default:
-            return row.Text(position);
+            return TextOf(cell);
     }
 }
 

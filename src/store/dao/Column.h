@@ -35,6 +35,6 @@ Value Converted(const Value& value, const Column& column);
 // What is bound for a value that has been converted.
 Cell ToCell(const Value& value);
 // The value of a stored cell. What does not fit the field's type comes as it is stored.
-Value ReadValue(const Statement& row, int position, FieldType type);
+Value ReadValue(sqlite3_value* cell, FieldType type);
 
 }  // namespace sorvane::Dao

@@ -43,6 +43,8 @@ Field& Field::operator=(const Value& value) {
 
 Field::operator Value() const { return recordset_.Live().Get(ordinal_); }
 
+int Field::ToInt() const { return recordset_.Live().GetInt(ordinal_); }
+
 Recordset::Recordset(std::unique_ptr<RecordsetState> state) : state_(std::move(state)) {}
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset::~Recordset() = default;

@@ -90,8 +90,8 @@ class Field {
     Field& operator=(const Field&) = delete;
     operator Value() const;  // NOLINT(google-explicit-constructor)
     bool IsNull() const { return Value(*this).IsNull(); }
-    int ToInt() const { return Value(*this).ToInt(); }
-    Integer ToInteger() const { return Value(*this).ToInteger(); }
+    int ToInt() const;
+    Integer ToInteger() const { return ToInt(); }
     bool ToBool() const { return Value(*this).ToBool(); }
     Currency ToCurrency() const { return Value(*this).ToCurrency(); }
     Date ToDate() const { return Value(*this).ToDate(); }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "store/dao/Column.h"
@@ -26,7 +27,7 @@ class RecordsetState {
     // Lets go of the file for good.
     void Close();
 
-    virtual const std::vector<Column>& Columns() const = 0;
+    const std::vector<Column>& Columns() const { return columns_; }
     virtual int RecordCount() = 0;
     virtual bool BOF() = 0;
     virtual bool AtEOF() = 0;
@@ -37,6 +38,7 @@ class RecordsetState {
     virtual void MoveNext() = 0;
     virtual void MoveLast() = 0;
     virtual Value Get(int ordinal) = 0;
+    virtual int GetInt(int ordinal) { return Get(ordinal).ToInt(); }
     virtual void Set(int ordinal, const Value& value) = 0;
     virtual void AddNew() = 0;
     virtual void Edit() = 0;
@@ -48,6 +50,7 @@ class RecordsetState {
 
   protected:
     DatabaseState& Database() const { return *database_; }
+    void SetColumns(std::vector<Column> columns) { columns_ = std::move(columns); }
     // Called last by a constructor: an opening that fails leaves the flags alone.
     void Opened();
     // Gives back all statements.
@@ -55,6 +58,7 @@ class RecordsetState {
 
   private:
     DatabaseState* database_;
+    std::vector<Column> columns_;
     bool opened_ = false;
 };
 
@@ -74,6 +78,7 @@ class DatabaseState {
     // The table's name as it stands in the file. Views, virtual tables and SQLite's own don't exist.
     std::optional<std::string> FindTable(std::string_view name) const;
     std::vector<Column> ColumnsOf(std::string_view table) const;
+    int CountOf(std::string_view table) const;
     void Append(const TableDef& table);
     void AppendIndex(std::string_view table, std::string_view name, std::string_view field, bool primary);
     void OneCommit() { oneCommit_ = true; }

@@ -1,6 +1,7 @@
 #include "store/dao/SqlRecordset.h"
 
 #include <string>
+#include <utility>
 
 #include "platform/RunTimeError.h"
 
@@ -71,16 +72,18 @@ SqlRecordset::SqlRecordset(DatabaseState& database, std::string_view sql, std::i
     if (sqlite3_stmt_readonly(rows.Handle()) == 0) Raise(ErrorNumber::InvalidProcedureCall);
     int parameter = 0;
     for (const Value& value : values) rows.Bind(++parameter, ToCell(value));
+    std::vector<Column> columns;
     for (int i = 0; i < sqlite3_column_count(rows.Handle()); ++i) {
         const char* declared = sqlite3_column_decltype(rows.Handle(), i);
-        columns_.push_back(
+        columns.push_back(
             ColumnOf(sqlite3_column_name(rows.Handle(), i), declared == nullptr ? "" : declared));
     }
     while (rows.Step()) {
         std::vector<Value>& row = rows_.emplace_back();
-        for (std::size_t i = 0; i < columns_.size(); ++i)
-            row.push_back(ReadValue(rows, static_cast<int>(i), columns_[i].type));
+        for (const Column& column : columns)
+            row.push_back(ReadValue(rows.ValueAt(static_cast<int>(row.size())), column.type));
     }
+    SetColumns(std::move(columns));
     Opened();
 }
 

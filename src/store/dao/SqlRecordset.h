@@ -13,7 +13,6 @@ class SqlRecordset final : public RecordsetState {
   public:
     SqlRecordset(DatabaseState& database, std::string_view sql, std::initializer_list<Value> values);
 
-    const std::vector<Column>& Columns() const override { return columns_; }
     int RecordCount() override { return static_cast<int>(rows_.size()); }
     bool BOF() override { return rows_.empty(); }
     bool AtEOF() override { return current_ == rows_.size(); }
@@ -37,7 +36,6 @@ class SqlRecordset final : public RecordsetState {
   private:
     void NeedRow() const;
 
-    std::vector<Column> columns_;
     std::vector<std::vector<Value>> rows_;
     std::size_t current_ = 0;
 };

@@ -100,22 +100,23 @@ bool Statement::Step() {
     return false;
 }
 
-std::string Statement::Text(int column) const {
-    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(handle_.get(), column));
-    const auto size = static_cast<std::size_t>(sqlite3_column_bytes(handle_.get(), column));
+std::string TextOf(sqlite3_value* value) {
+    const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+    const auto size = static_cast<std::size_t>(sqlite3_value_bytes(value));
     return bytes == nullptr ? std::string() : std::string(bytes, size);
 }
 
 Cell Statement::At(int column) const {
-    switch (sqlite3_column_type(handle_.get(), column)) {
+    sqlite3_value* value = ValueAt(column);
+    switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
-            return Int64(column);
+            return sqlite3_value_int64(value);
         case SQLITE_FLOAT:
-            return sqlite3_column_double(handle_.get(), column);
+            return sqlite3_value_double(value);
         case SQLITE_TEXT:
-            return Text(column);
+            return TextOf(value);
         case SQLITE_BLOB:
-            return Blob{Text(column)};
+            return Blob{TextOf(value)};
         default:
             return {};
     }
@@ -141,7 +142,7 @@ void Connection::Configure() {
         {SQLITE_DBCONFIG_ENABLE_FKEY, 0},
     };
     for (const auto& [name, value] : Switches) sqlite3_db_config(Handle(), name, value, nullptr);
-    Execute("PRAGMA cell_size_check = ON");
+    CheckCells(true);
     Execute("PRAGMA mmap_size = 0");
     Execute("PRAGMA temp_store = MEMORY");
     Execute("PRAGMA synchronous = EXTRA");
@@ -150,6 +151,11 @@ void Connection::Configure() {
     Statement journal = Prepare("PRAGMA journal_mode = DELETE");
     if (!journal.Step() || journal.Text(0) != "delete") Raise(ErrorNumber::Locked);
     CheckLength();
+}
+
+void Connection::CheckCells(bool on) const noexcept {
+    sqlite3_exec(Handle(), on ? "PRAGMA cell_size_check = ON" : "PRAGMA cell_size_check = OFF", nullptr,
+                 nullptr, nullptr);
 }
 
 // SQLite fills up a last page that is cut off with zeros. The statement holds the lock under which the file's

@@ -22,6 +22,9 @@ using Cell = std::variant<std::monostate, std::int64_t, double, std::string, Blo
 // Throws the engine's number for a result code of SQLite.
 [[noreturn]] void RaiseResult(int result);
 
+// The bytes of a text or blob, and of a number its text.
+std::string TextOf(sqlite3_value* value);
+
 // A name as SQL takes it, whatever stands in it.
 std::string Quoted(std::string_view name);
 
@@ -42,8 +45,10 @@ class Statement {
     void Reset() { sqlite3_reset(handle_.get()); }
 
     std::int64_t Int64(int column) const { return sqlite3_column_int64(handle_.get(), column); }
-    std::string Text(int column) const;
+    std::string Text(int column) const { return TextOf(ValueAt(column)); }
     Cell At(int column) const;
+    // Good until the next step. To be read from where it is needs a connection of one thread, as ours are.
+    sqlite3_value* ValueAt(int column) const { return sqlite3_column_value(handle_.get(), column); }
 
   private:
     struct Finalize {
@@ -64,6 +69,8 @@ class Connection {
     bool IsOpen() const { return handle_ != nullptr; }
     Statement Prepare(std::string_view sql) const { return Statement(handle_.get(), sql); }
     void Execute(std::string_view sql) const { Prepare(sql).Step(); }
+    // Whether each page is checked as it is read. Never raises.
+    void CheckCells(bool on) const noexcept;
     bool InTransaction() const { return sqlite3_get_autocommit(handle_.get()) == 0; }
     void Close() { handle_.reset(); }
 

@@ -31,24 +31,23 @@ std::size_t At(int ordinal) { return static_cast<std::size_t>(ordinal); }
 }  // namespace
 
 TableRecordset::TableRecordset(DatabaseState& database, std::string table)
-    : RecordsetState(database),
-      table_(std::move(table)),
-      columns_(database.ColumnsOf(table_)),
-      rowid_(RowidOf(columns_)),
-      values_(columns_.size()) {
-    selected_ = "SELECT " + rowid_ + ", " + ListOf(columns_) + " FROM " + Quoted(table_);
+    : RecordsetState(database), table_(std::move(table)) {
+    SetColumns(database.ColumnsOf(table_));
+    rowid_ = RowidOf(Columns());
+    values_.resize(Columns().size());
+    selected_ = "SELECT " + rowid_ + ", " + ListOf(Columns()) + " FROM " + Quoted(table_);
     Prepared(Query::First);
     Opened();
 }
 
 void TableRecordset::Release() {
+    walk_ = nullptr;
     statements_ = {};
-    walk_.reset();
 }
 
 // The row-value form (key, rowid) > (?, ?) would walk all rows of one key at each entry.
 std::string TableRecordset::TailOf(Query query) const {
-    const std::string key = Indexed() ? Quoted(columns_[At(key_)].name) : std::string();
+    const std::string key = Indexed() ? Quoted(ColumnAt(key_).name) : std::string();
     const std::string order = " ORDER BY " + (Indexed() ? key + ", " : "") + rowid_;
     switch (query) {
         case Query::First:
@@ -98,16 +97,15 @@ bool TableRecordset::Fetch(Query query, const Cell& first, const Cell& second) {
 void TableRecordset::Take(const Statement& row) {
     row_ = row.Int64(0);
     rowKey_ = Indexed() ? row.At(key_ + 1) : Cell();
-    for (std::size_t i = 0; i < columns_.size(); ++i)
-        values_[i] = ReadValue(row, static_cast<int>(i) + 1, columns_[i].type);
+    for (std::size_t i = 0; i < Columns().size(); ++i)
+        values_[i] = ReadValue(row.ValueAt(static_cast<int>(i) + 1), Columns()[i].type);
 }
 
 void TableRecordset::Leave() {
-    if (!walk_) return;
-    Statement& statement = Prepared(*walk_);
-    walk_.reset();
-    Take(statement);
-    statement.Reset();
+    if (walk_ == nullptr) return;
+    Statement& walk = *std::exchange(walk_, nullptr);
+    Take(walk);
+    walk.Reset();
 }
 
 void TableRecordset::Settle() {
@@ -124,9 +122,7 @@ int TableRecordset::RecordCount() {
     const std::int64_t version = Database().DataVersion();
     if (!count_ || version != countVersion_ || Database().Writes() != countWrites_) {
         count_.reset();
-        Statement counting = Database().Prepare("SELECT count(*) FROM " + Quoted(table_));
-        counting.Step();
-        count_ = static_cast<int>(counting.Int64(0));
+        count_ = Database().CountOf(table_);
         countVersion_ = version;
         countWrites_ = Database().Writes();
     }
@@ -161,7 +157,7 @@ void TableRecordset::Index(std::string_view name) {
 void TableRecordset::Seek(const Value& key) {
     if (!Indexed()) Raise(ErrorNumber::NoIndexSet);
     pending_.reset();
-    const Column& column = columns_[At(key_)];
+    const Column& column = ColumnAt(key_);
     const Value wanted = Converted(key, column);
     bool found = false;
     if (column.type == FieldType::Date && !wanted.IsNull()) {
@@ -188,30 +184,29 @@ void TableRecordset::MoveLast() {
     Raise(ErrorNumber::NoCurrentRecord);
 }
 
-// Binds the walk that goes on behind the position.
-TableRecordset::Query TableRecordset::Enter() {
-    Statement& statement = Prepared(Query::Behind);
-    statement.Bind(1, row_);
-    if (Indexed()) statement.Bind(2, rowKey_);
-    return Query::Behind;
+// The walk that goes on behind the position, among the rows of its key where there is an index.
+Statement& TableRecordset::Enter() {
+    Statement& walk = Prepared(Query::Behind);
+    walk.Bind(1, row_);
+    if (Indexed()) walk.Bind(2, rowKey_);
+    walksKey_ = true;
+    return walk;
 }
 
-TableRecordset::Query TableRecordset::EnterNextKey() {
-    if (std::holds_alternative<std::monostate>(rowKey_)) {
-        Prepared(Query::NextKeyBehindNull);
-        return Query::NextKeyBehindNull;
-    }
-    Prepared(Query::NextKey).Bind(1, rowKey_);
-    return Query::NextKey;
+Statement& TableRecordset::EnterNextKey() {
+    const bool behindNull = std::holds_alternative<std::monostate>(rowKey_);
+    Statement& walk = Prepared(behindNull ? Query::NextKeyBehindNull : Query::NextKey);
+    if (!behindNull) walk.Bind(1, rowKey_);
+    walksKey_ = false;
+    return walk;
 }
 
 // Rows whose numbers do not rise where they must are those of a damaged file, which may go round for ever.
-bool TableRecordset::StepWalk(Query query) {
-    Statement& statement = Prepared(query);
-    if (!statement.Step()) return false;
-    const std::int64_t row = statement.Int64(0);
-    if (query == Query::Behind && row <= row_) {
-        statement.Reset();
+bool TableRecordset::StepWalk(Statement& walk) {
+    if (!walk.Step()) return false;
+    const std::int64_t row = walk.Int64(0);
+    if (walksKey_ && row <= row_) {
+        walk.Reset();
         Raise(ErrorNumber::NotADatabase);
     }
     row_ = row;
@@ -223,12 +218,12 @@ void TableRecordset::MoveNext() {
     Settle();
     if (place_ != Place::Row && place_ != Place::Deleted) Raise(ErrorNumber::NoCurrentRecord);
     // A step that fails takes the row it stood on with it, unless that row is kept in memory.
-    if (walk_) place_ = Place::Nowhere;
-    std::optional<Query> walk = std::exchange(walk_, std::nullopt);
-    if (!walk) walk = Enter();
+    if (walk_ != nullptr) place_ = Place::Nowhere;
+    Statement* walk = std::exchange(walk_, nullptr);
+    if (walk == nullptr) walk = &Enter();
     bool onRow = StepWalk(*walk);
-    if (!onRow && Indexed() && *walk == Query::Behind) {
-        walk = EnterNextKey();
+    if (!onRow && Indexed() && walksKey_) {
+        walk = &EnterNextKey();
         onRow = StepWalk(*walk);
     }
     place_ = onRow ? Place::Row : Place::AtEnd;
@@ -237,21 +232,34 @@ void TableRecordset::MoveNext() {
 
 Value TableRecordset::Get(int ordinal) {
     if (pending_) return pending_->values[At(ordinal)];
-    if (walk_) return ReadValue(Prepared(*walk_), ordinal + 1, columns_[At(ordinal)].type);
+    if (walk_ != nullptr) return ReadValue(walk_->ValueAt(ordinal + 1), ColumnAt(ordinal).type);
     NeedRow();
     return values_[At(ordinal)];
 }
 
+// The tallies read nothing but plain numbers, a hundred thousand at a time.
+int TableRecordset::GetInt(int ordinal) {
+    const FieldType type = ColumnAt(ordinal).type;
+    if (walk_ != nullptr && !pending_ && (type == FieldType::Integer || type == FieldType::Long)) {
+        sqlite3_value* cell = walk_->ValueAt(ordinal + 1);
+        if (sqlite3_value_type(cell) == SQLITE_INTEGER) {
+            const std::int64_t number = sqlite3_value_int64(cell);
+            if (std::in_range<int>(number)) return static_cast<int>(number);
+        }
+    }
+    return Get(ordinal).ToInt();
+}
+
 void TableRecordset::Set(int ordinal, const Value& value) {
     if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
-    pending_->values[At(ordinal)] = Converted(value, columns_[At(ordinal)]);
+    pending_->values[At(ordinal)] = Converted(value, ColumnAt(ordinal));
     pending_->touched[At(ordinal)] = true;
 }
 
 void TableRecordset::AddNew() {
     Leave();
-    Pending pending{true, {}, std::vector<bool>(columns_.size(), true)};
-    for (const Column& column : columns_) pending.values.push_back(Converted({}, column));
+    Pending pending{true, {}, std::vector<bool>(Columns().size(), true)};
+    for (const Column& column : Columns()) pending.values.push_back(Converted({}, column));
     pending_ = std::move(pending);
 }
 
@@ -264,29 +272,29 @@ void TableRecordset::Edit() {
         place_ = Place::Deleted;
         Raise(ErrorNumber::RecordDeleted);
     }
-    pending_ = Pending{false, values_, std::vector<bool>(columns_.size(), false)};
+    pending_ = Pending{false, values_, std::vector<bool>(Columns().size(), false)};
 }
 
 Statement TableRecordset::InsertOf(const Pending& pending) {
     std::string marks;
-    for (std::size_t i = 0; i < columns_.size(); ++i) marks += i == 0 ? "?" : ", ?";
-    Statement insert = Database().Prepare("INSERT INTO " + Quoted(table_) + " (" + ListOf(columns_) +
+    for (std::size_t i = 0; i < Columns().size(); ++i) marks += i == 0 ? "?" : ", ?";
+    Statement insert = Database().Prepare("INSERT INTO " + Quoted(table_) + " (" + ListOf(Columns()) +
                                           ") VALUES (" + marks + ")");
-    for (std::size_t i = 0; i < columns_.size(); ++i)
+    for (std::size_t i = 0; i < Columns().size(); ++i)
         insert.Bind(static_cast<int>(i) + 1, ToCell(pending.values[i]));
     return insert;
 }
 
 Statement TableRecordset::UpdateOf(const Pending& pending) {
     std::string sets;
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
+    for (std::size_t i = 0; i < Columns().size(); ++i) {
         if (!pending.touched[i]) continue;
-        sets += (sets.empty() ? "" : ", ") + Quoted(columns_[i].name) + " = ?";
+        sets += (sets.empty() ? "" : ", ") + Quoted(Columns()[i].name) + " = ?";
     }
     Statement update =
         Database().Prepare("UPDATE " + Quoted(table_) + " SET " + sets + " WHERE " + rowid_ + " = ?");
     int parameter = 0;
-    for (std::size_t i = 0; i < columns_.size(); ++i)
+    for (std::size_t i = 0; i < Columns().size(); ++i)
         if (pending.touched[i]) update.Bind(++parameter, ToCell(pending.values[i]));
     update.Bind(++parameter, row_);
     return update;
@@ -324,7 +332,7 @@ void TableRecordset::Update() {
     if (pending_->adding) {
         Statement insert = InsertOf(*pending_);
         Write(insert, 1);
-    } else if (pending_->touched != std::vector<bool>(columns_.size(), false)) {
+    } else if (pending_->touched != std::vector<bool>(Columns().size(), false)) {
         Statement update = UpdateOf(*pending_);
         if (Write(update, 0) == 0) Raise(ErrorNumber::RecordDeleted);
         values_ = std::move(pending_->values);

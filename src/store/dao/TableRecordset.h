@@ -16,7 +16,6 @@ class TableRecordset final : public RecordsetState {
     // `table` is a name that FindTable gave. Raises 3343 for a table whose rows have no number.
     TableRecordset(DatabaseState& database, std::string table);
 
-    const std::vector<Column>& Columns() const override { return columns_; }
     int RecordCount() override;
     bool BOF() override;
     bool AtEOF() override;
@@ -27,6 +26,7 @@ class TableRecordset final : public RecordsetState {
     void MoveNext() override;
     void MoveLast() override;
     Value Get(int ordinal) override;
+    int GetInt(int ordinal) override;
     void Set(int ordinal, const Value& value) override;
     void AddNew() override;
     void Edit() override;
@@ -49,22 +49,22 @@ class TableRecordset final : public RecordsetState {
     };
 
     bool Indexed() const { return key_ >= 0; }
+    const Column& ColumnAt(int ordinal) const { return Columns()[static_cast<std::size_t>(ordinal)]; }
     void Settle();
     void NeedRow();
     Statement& Prepared(Query query);
     std::string TailOf(Query query) const;
     bool Fetch(Query query, const Cell& first = {}, const Cell& second = {});
     void Take(const Statement& row);
-    Query Enter();
-    Query EnterNextKey();
-    bool StepWalk(Query query);
+    Statement& Enter();
+    Statement& EnterNextKey();
+    bool StepWalk(Statement& walk);
     Statement InsertOf(const Pending& pending);
     Statement UpdateOf(const Pending& pending);
     void RefuseNullKeys(const Pending& pending);
     int Write(Statement& statement, int added);
 
     const std::string table_;
-    const std::vector<Column> columns_;
     std::string selected_;  // "SELECT rowid, fields FROM table"
     std::string rowid_;     // a name for the row's number that no field bears
     std::string index_;
@@ -76,7 +76,9 @@ class TableRecordset final : public RecordsetState {
     std::int64_t row_ = 0;       // number of the current row
     Cell rowKey_;                // its key, and
     std::vector<Value> values_;  // its fields; both only when no walk is open
-    std::optional<Query> walk_;
+    // The statement of the walk under way, if any, which stands on the current row.
+    Statement* walk_ = nullptr;
+    bool walksKey_ = false;  // through the rows of one key, or of a table without index
     std::optional<Pending> pending_;
 
     std::optional<std::vector<int>> primary_;  // ordinals of the primary fields, once asked for

@@ -259,25 +259,29 @@ TEST_F(ForeignFiles, CellsOfAnotherTypeThanTheirFieldRaiseWhereTheyAreUsed) {
     Plain().Ask(
         "UPDATE Every SET Date = 'soon', Amount = 'much', \"# of Balls\" = 'many', Regular = NULL "
         "WHERE ID1 = 1;"
-        "UPDATE Every SET Date = 1e300, Amount = 1e300, \"# of Balls\" = 1e300, Regular = 0.5 "
-        "WHERE ID1 = 2");
+        "UPDATE Every SET Date = 1e300, Amount = 1e300, \"# of Balls\" = 1e300, Regular = 0.5, "
+        "ID1 = 5000000000 WHERE ID1 = 2");
     Database db = Open();
     Recordset rs = db.OpenTable("Every");
     EXPECT_EQ(ErrorOf([&] { rs[2].ToDate(); }), ErrorNumber::TypeMismatch);
     EXPECT_EQ(rs[2].ToText(), "soon");
     EXPECT_EQ(ErrorOf([&] { rs[3].ToCurrency(); }), ErrorNumber::TypeMismatch);
     EXPECT_EQ(ErrorOf([&] { rs[4].ToInteger(); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(rs["ID1"].ToInteger(), 1);
     EXPECT_FALSE(rs[5].ToBool());
     EXPECT_FALSE(rs[5].IsNull());
     rs.MoveNext();
     EXPECT_EQ(ErrorOf([&] { rs[2].ToDate(); }), ErrorNumber::Overflow);
     EXPECT_EQ(ErrorOf([&] { rs[3].ToCurrency(); }), ErrorNumber::Overflow);
     EXPECT_EQ(ErrorOf([&] { rs[4].ToInteger(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { rs["ID1"].ToInt(); }), ErrorNumber::Overflow);
     EXPECT_TRUE(rs[5].ToBool());
     // They stand at the end of the index, behind all days.
     rs.Index("Date");
     rs.MoveFirst();
-    EXPECT_EQ(Ids(rs), (Numbers{2, 1}));
+    EXPECT_EQ(rs["ID1"].ToText(), "5000000000");
+    rs.MoveNext();
+    EXPECT_EQ(rs["ID1"].ToInt(), 1);
 }
 
 TEST_F(ForeignFiles, ADamagedOrForeignIndexIsNotFoundOrDamage) {
