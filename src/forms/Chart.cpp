@@ -1,8 +1,8 @@
 #include "forms/Chart.h"
 
-#include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QLegend>
@@ -21,9 +21,6 @@
 namespace sorvane::forms {
 
 namespace {
-
-// With more bars than this the labels stand upright.
-constexpr int MostLevelLabels = 20;
 
 std::string ValueText(double value) {
     const auto amount = Currency::FromTenThousandths(std::llround(value * Currency::Scale));
@@ -160,6 +157,22 @@ std::string Chart::RowLabel(std::size_t row) const {
     return std::to_string(row + 1);
 }
 
+// Where there is no room for every label, every second, fifth or tenth bar has one.
+int Chart::LabelStep() const {
+    int widest = 0;
+    for (std::size_t row = 0; row < rowLabels_.size(); ++row)
+        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(RowLabel(row))));
+    const double room = width() * 0.9 / std::max(1, RowCount());
+    for (const int step : {1, 2, 5})
+        if (room * step > widest + fontMetrics().horizontalAdvance(QLatin1Char(' '))) return step;
+    return 10;
+}
+
+void Chart::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (LabelStep() != drawnStep_) Changed();
+}
+
 void Chart::Draw() {
     if (!view_) {
         view_ = new QChartView(this);
@@ -172,6 +185,7 @@ void Chart::Draw() {
     }
     const std::unique_ptr<QChart> old(view_->chart());
     view_->setChart(NewChart());
+    drawnStep_ = LabelStep();
     stale_ = false;
 }
 
@@ -198,7 +212,7 @@ QChart* Chart::NewChart() {
 
 QAbstractBarSeries* Chart::NewSeries() {
     auto* series = new QBarSeries;
-    series->setBarWidth(0.8);
+    series->setBarWidth(RowCount() == 1 ? 0.4 : 0.8);
     for (std::size_t column = 0; column < columns_.size(); ++column) {
         auto* set = new QBarSet(ToQt(columns_[column].label));
         set->setColor(Look::Series(palette(), static_cast<int>(column)));
@@ -216,10 +230,12 @@ QAbstractBarSeries* Chart::NewSeries() {
 }
 
 void Chart::AddAxes(QChart& chart, const QColor& ink) const {
-    auto* bars = new QBarCategoryAxis;
-    for (std::size_t row = 0; row < rowLabels_.size(); ++row) bars->append(ToQt(RowLabel(row)));
+    auto* bars = new QCategoryAxis;
+    bars->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    bars->setRange(-0.5, RowCount() - 0.5);
+    for (int row = LabelStep() - 1; row < RowCount(); row += LabelStep())
+        bars->append(ToQt(RowLabel(static_cast<std::size_t>(row))), row);
     bars->setTitleText(ToQt(barsCaption_));
-    if (RowCount() > MostLevelLabels) bars->setLabelsAngle(-90);
     bars->setGridLineVisible(false);
 
     double largest = 1;

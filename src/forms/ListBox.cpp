@@ -12,7 +12,7 @@ namespace sorvane::forms {
 
 class ListBox::Model : public QAbstractListModel {
   public:
-    explicit Model(const QWidget& view) : view_(view) {}
+    explicit Model(const QListView& view) : view_(view) {}
 
     int rowCount(const QModelIndex& parent = {}) const override {
         return parent.isValid() ? 0 : static_cast<int>(rows_.size());
@@ -60,9 +60,8 @@ class ListBox::Model : public QAbstractListModel {
     }
     void PaletteOrFontChanged() {
         if (!isWinner_) return;
-        const int side = view_.fontMetrics().height();
-        star_ = Look::Winner(view_.palette(), side);
-        QPixmap none(side, side);
+        star_ = Look::Winner(view_.palette(), view_.iconSize().height());
+        QPixmap none(star_.actualSize(view_.iconSize()));
         none.fill(Qt::transparent);
         blank_ = QIcon(none);
     }
@@ -82,10 +81,10 @@ class ListBox::Model : public QAbstractListModel {
         const QFontMetrics metrics(Heavy());
         const int icon = isWinner_ ? metrics.height() : 0;
         return {metrics.horizontalAdvance(rows_[widest_].text) + icon + metrics.height(),
-                metrics.height() * 5 / 4};
+                metrics.height() * 7 / 5};
     }
 
-    const QWidget& view_;
+    const QListView& view_;
     std::vector<Row> rows_;
     std::size_t widest_ = 0;
     std::function<bool(int, std::string_view)> isWinner_;
@@ -128,7 +127,13 @@ void ListBox::SetHint(std::string_view text) {
 }
 
 void ListBox::SetWinners(std::function<bool(int, std::string_view)> isWinner) {
+    AdaptIcons();
     model_->SetWinners(std::move(isWinner));
+}
+
+void ListBox::AdaptIcons() {
+    const int side = fontMetrics().height();
+    setIconSize({side, side});
 }
 
 void ListBox::SetFixedPitch() { setFont(Look::FixedFont()); }
@@ -171,8 +176,9 @@ void ListBox::paintEvent(QPaintEvent* event) {
 
 void ListBox::changeEvent(QEvent* event) {
     QListView::changeEvent(event);
-    if (model_ && (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange))
-        model_->PaletteOrFontChanged();
+    if (!model_ || (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)) return;
+    AdaptIcons();
+    model_->PaletteOrFontChanged();
 }
 
 }  // namespace sorvane::forms

@@ -48,6 +48,7 @@ class ListBox : public QListView, public Control, public Lines {
 
   private:
     class Model;
+    void AdaptIcons();
     std::unique_ptr<Model> model_;
     std::function<void()> click_, dblClick_;
     QString hint_;

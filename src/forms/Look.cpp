@@ -72,15 +72,17 @@ QColor Readable(QColor ink, const QColor& paper, double ratio) {
 
 Ball BallColours(const QPalette& palette, bool ticked, bool enabled) {
     const QColor window = palette.color(QPalette::Active, QPalette::Window);
-    QColor paper = window;
-    if (ticked) paper = palette.color(QPalette::Active, QPalette::Highlight);
-    else if (enabled) paper = palette.color(QPalette::Active, QPalette::Base);
-    if (ticked && !enabled) paper = Mix(paper, window, 0.7);
-    QColor ink =
-        palette.color(QPalette::Active, ticked && enabled ? QPalette::HighlightedText : QPalette::Text);
-    if (!enabled) ink = palette.color(QPalette::Disabled, QPalette::Text);
-    const QColor ring = palette.color(QPalette::Active, enabled ? QPalette::Dark : QPalette::Mid);
-    return {paper, Readable(ink, paper), Readable(ring, window, LineContrast)};
+    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight);
+    const QColor ring = Readable(palette.color(QPalette::Active, enabled ? QPalette::Dark : QPalette::Mid),
+                                 window, LineContrast);
+    if (ticked && enabled) {
+        const QColor ink = palette.color(QPalette::Active, QPalette::HighlightedText);
+        return {Readable(highlight, ink), ink, ring};
+    }
+    QColor paper = enabled ? palette.color(QPalette::Active, QPalette::Base) : window;
+    if (ticked) paper = Mix(highlight, window, 0.7);
+    const auto group = enabled ? QPalette::Active : QPalette::Disabled;
+    return {paper, Readable(palette.color(group, QPalette::Text), paper), ring};
 }
 
 QColor FocusRing(const QPalette& palette) {

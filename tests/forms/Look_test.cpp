@@ -3,8 +3,8 @@
 
 #include <QAbstractBarSeries>
 #include <QApplication>
-#include <QBarCategoryAxis>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QToolTip>
@@ -137,6 +137,9 @@ class Bars : public testing::Test {
         window.resize(1300, 500);
     }
     QChartView* View() const { return chart.findChild<QChartView*>(); }
+    QCategoryAxis& Axis() const {
+        return *static_cast<QCategoryAxis*>(View()->chart()->axes(Qt::Horizontal).at(0));
+    }
     QBarSet& Set(int column = 0) const {
         return *static_cast<QAbstractBarSeries*>(View()->chart()->series().at(0))->barSets().at(column);
     }
@@ -208,9 +211,21 @@ TEST_F(Bars, RowsBearTheirNumbersOrTheirLabels) {
     chart.SetRowCount(3);
     chart.SetRowLabels({"0", "", "9"});
     Open(window);
-    auto* axis = qobject_cast<QBarCategoryAxis*>(View()->chart()->axes(Qt::Horizontal).at(0));
-    EXPECT_EQ((QStringList{"0", "2", "9"}), axis->categories());
-    EXPECT_EQ("Numbers Drawn", axis->titleText().toStdString());
+    EXPECT_EQ((QStringList{"0", "2", "9"}), Axis().categoriesLabels());
+    EXPECT_EQ("Numbers Drawn", Axis().titleText().toStdString());
+}
+
+TEST_F(Bars, FortyNineBarsAreAllLabelledAndEightyEverySecond) {
+    chart.SetRowCount(49);
+    Open(window);
+    EXPECT_EQ(49, Axis().categoriesLabels().size());
+    chart.SetRowCount(80);
+    Person::Settle();
+    EXPECT_EQ(40, Axis().categoriesLabels().size());
+    EXPECT_EQ("80", Axis().categoriesLabels().last().toStdString());
+    window.resize(500, 400);
+    Person::Settle();
+    EXPECT_EQ(16, Axis().categoriesLabels().size());
 }
 
 TEST_F(Bars, HoveringABarShowsItsValue) {
