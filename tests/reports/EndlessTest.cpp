@@ -18,11 +18,11 @@ using testing::ReportWorld;
 
 constexpr rlim_t Megabyte = 1024 * 1024;
 
-// Half a second of processor time, then SIGVTALRM ends the process; a process that grows meanwhile by much
-// ends by its failing allocation instead. A sanitizer has all memory reserved and needs no bound.
+// A fifth of a second of processor time, then SIGVTALRM ends the process; a process that grows meanwhile by
+// much ends by its failing allocation instead. A sanitizer has all memory reserved and needs no bound.
 void BoundThisProcess() {
-    const itimerval halfASecond{{0, 0}, {0, 500'000}};
-    setitimer(ITIMER_VIRTUAL, &halfASecond, nullptr);
+    const itimerval aFifth{{0, 0}, {0, 200'000}};
+    setitimer(ITIMER_VIRTUAL, &aFifth, nullptr);
 #if !defined(__SANITIZE_ADDRESS__)
     const rlimit memory{512 * Megabyte, 512 * Megabyte};
     setrlimit(RLIMIT_AS, &memory);
