@@ -1,5 +1,7 @@
 #include "entry/ui/GameWindow.h"
 
+#include <QBoxLayout>
+
 #include "entry/CreateAllTables.h"
 #include "entry/EntryFacts.h"
 #include "shell/Catalogue.h"
