@@ -33,6 +33,7 @@ GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
 
 // Elements of the shared arrays stand in frames of the tabs, which are destroyed before the arrays.
 GameWindow::~GameWindow() {
+    Unload();  // no events any more
     const auto take = [](auto& element, int) { element.setParent(nullptr); };
     txtNoOfTickets.ForEach(take);
     dtpEnterTickets.ForEach(take);

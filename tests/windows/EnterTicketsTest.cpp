@@ -1,0 +1,284 @@
+// The first tab of the game window: what it shows at load, its filters, the money, the tabs and the ways out.
+#include "entry/EntryFacts.h"
+#include "windows/Slip.h"
+
+namespace sorvane::test {
+namespace {
+
+class EnterTickets : public SlipWorld {};
+
+TEST_F(EnterTickets, OpensWithNothingEnteredAndTheCountInHand) {
+    Show("mnuCANONTLotto649");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 0 of 0");
+    for (const char* button : {"cmdNext_Ticket", "cmdCorrection", "cmdSave"})
+        EXPECT_FALSE(IsEnabled(button)) << button;
+    for (const char* live :
+         {"cmdCancel", "cmdExit(0)", "cmdRegular", "chkRegular", "txtDollars", "txtNoOfExtra"})
+        EXPECT_TRUE(IsEnabled(live)) << live;
+    for (int number = 1; number <= 49; ++number) EXPECT_FALSE(IsEnabled(Ball(number))) << number;
+    EXPECT_EQ(Window().dtpEnterTickets(0).Value().ToText(), Today);
+}
+
+TEST_F(EnterTickets, HasFourTabsAndStandsOnTheFirst) {
+    Show("mnuCANONTLotto649");
+    EXPECT_EQ(Window().SSTab1.Tab(), 0);
+    EXPECT_EQ(Window().SSTab1.Caption(), "&Enter Tickets");
+    constexpr std::string_view captions[] = {"&Enter Tickets", "&Check Tickets", "&Reports", "&Quick Pick"};
+    for (int tab = 0; tab < 4; ++tab) {
+        Window().SSTab1.SetTab(tab);
+        EXPECT_EQ(Window().SSTab1.Caption(), captions[tab]);
+    }
+}
+
+TEST_F(EnterTickets, EveryFamilyHasTheControlsItShouldAndLacksTheOthers) {
+    const PerFamily<std::vector<const char*>> has{{
+        {"lblNoTickets", "lblDollars", "txtPlay4(3)", "chkNumb(48)", "txtEncore", "chkEncore", "lblExtra"},
+        {"Label1", "txtPlay4(3)", "chkNumb(48)", "txtEncore", "chkEncore", "lblExtra"},
+        {"lblNoTickets", "lblDollars", "chkNumb(44)", "chkEarlybird", "txtEncore", "chkEncore", "lblExtra"},
+        {"lblNoTickets", "lblDollars", "chkNumb(69)", "cboNoOfBallsPerTicket", "cboWager", "cboNoOfQPs",
+         "txtEncore"},
+        {"lblNoTickets", "lblDollars", "chkNumb(79)", "cboNoOfBallsPerTicket", "cboWager", "txtNoOfExtra"},
+        {"Label1", "cboNumber(2)", "fraWayPlayed", "optPlayOpt(3)", "fraWager", "optTenDollars", "txtEncore"},
+        {"Label1", "cboNumber(3)", "fraWayPlayed", "optPlayOpt(3)", "fraWager", "optTenDollars",
+         "txtNoOfTickets(2)"},
+    }};
+    const PerFamily<std::vector<const char*>> lacks{{
+        {"Label1", "chkNumb(49)", "chkEarlybird", "cboWager", "cboNumber(0)"},
+        {"lblNoTickets", "lblDollars", "chkNumb(49)", "chkEarlybird"},
+        {"Label1", "chkNumb(45)", "txtPlay4(0)"},
+        {"chkNumb(70)", "txtPlay4(0)", "chkEarlybird"},
+        {"chkNumb(80)", "txtEncore", "chkEncore", "lblExtra", "txtPlay4(0)", "lstEncorePlayed"},
+        {"lblNoTickets", "lblDollars", "chkNumb(0)", "txtPlay4(0)", "cboNumber(3)", "fraWheel"},
+        {"lblNoTickets", "lblDollars", "chkNumb(0)", "txtEncore", "chkEncore", "lblExtra", "txtNoOfExtra",
+         "fraWheel"},
+    }};
+    const PerFamily<const char*> keys{
+        {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+    for (const Family family : AllFamilies) {
+        Show(family, keys[family], family == Family::frmPick4 ? "FLAPlay4" : "Encore");
+        for (const char* control :
+             {"dtpEnterTickets(0)", "dtpEnterTickets(1)", "dtpEnterTickets(2)", "cmdExit(0)", "cmdExit(1)",
+              "cmdExit(2)", "cmdExit(3)", "txtNoOfTickets(0)", "txtNoOfTickets(1)", "lblDrawDate",
+              "lblDollarsSpent", "fraTickets", "lblInfo", "cmdUse", "cmdHelp"})
+            EXPECT_TRUE(Exists(control)) << NameOf(family) << ' ' << control;
+        for (const char* control : has[family])
+            EXPECT_TRUE(Exists(control)) << NameOf(family) << ' ' << control;
+        for (const char* control : lacks[family])
+            EXPECT_FALSE(Exists(control)) << NameOf(family) << ' ' << control;
+        Window().Leave();
+    }
+}
+
+TEST_F(EnterTickets, ButtonsWithoutAPurposeDoNothingAndRaiseNoError) {
+    Show("mnuCANONTLotto649");
+    Click("cmdRegular");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_FALSE(IsTicked("chkRegular"));
+    Window().SSTab1.SetTab(Tab::QuickPick);
+    Click("cmdUse");
+    Click("cmdHelp");
+    EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(EnterTickets, ALetterInTheCountEmptiesIt) {
+    Show("mnuCANONTLotto649");
+    Type("txtNoOfTickets(0)", "12");
+    ExpectBadNumber();
+    person.Type("x");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+    person.Type("1");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "1");
+}
+
+TEST_F(EnterTickets, LeavingTheCountEmptyAsksForItAndPutsANought) {
+    Show("mnuCANONTLotto649");
+    Type("txtNoOfTickets(0)", "");
+    person.Expect("# of Tickets required", "# of Tickets required. Please enter a number.");
+    person.Tab();
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+}
+
+TEST_F(EnterTickets, TheReportsTabDoesNotAskForTheCount) {
+    Show("mnuCANONTLotto649");
+    Type("txtNoOfTickets(0)", "");
+    person.ClickTab("&Reports");
+    EXPECT_EQ(Window().SSTab1.Tab(), Tab::Reports);
+    // The later steps follow all the same.
+    EXPECT_EQ(Window().State.CurrentSheet, 1);
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+}
+
+TEST_F(EnterTickets, EnterInTheCountLeadsWhereItsFamilySays) {
+    const PerFamily<const char*> keys{
+        {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+    for (const Family family : AllFamilies) {
+        Show(family, keys[family], "Encore");
+        Type("txtNoOfTickets(0)", "1");
+        person.Enter();
+        EXPECT_EQ(Focus(), family == Family::frm649 ? "txtNoOfExtra" : "txtNoOfTickets(0)") << NameOf(family);
+        Window().Leave();
+    }
+}
+
+TEST_F(EnterTickets, EnterInTheAddOnCountLeadsToTheGridOnceItIsOpen) {
+    Show("mnuCANONTLotto649");
+    Click("txtNoOfExtra");
+    person.Enter();
+    EXPECT_EQ(Focus(), "txtNoOfExtra");
+    OneSheet(1);
+    EXPECT_EQ(Focus(), "txtNoOfExtra");
+    person.Enter();
+    EXPECT_EQ(Focus(), "chkNumb(0)");
+}
+
+TEST_F(EnterTickets, ALetterInTheMoneyPutsItBackToNought) {
+    Show("mnuCANONTLotto649");
+    Type("txtDollars", "12.5");
+    person.Expect("Error!", "Please enter a valid dollar amount. (Even if it is 0.00)", Answer::Ok,
+                  BoxStyle::Exclamation);
+    person.Type("x");
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(Focus(), "txtDollars");
+}
+
+TEST_F(EnterTickets, MoneyEmptiedByHandIsNoughtAtOnce) {
+    Show("mnuCANONTLotto649");
+    Type("txtDollars", "");
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(Focus(), "txtDollars");
+}
+
+TEST_F(EnterTickets, TwoPointsInTheMoneyGiveTheirMessageOnce) {
+    Show("mnuCANONTLotto649");
+    Type("txtDollars", "1.2.3");
+    person.Expect("ERROR",
+                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
+    person.Tab();
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(Focus(), "txtDollars");
+    EXPECT_EQ(global.Dollars, "0.00");
+}
+
+TEST_F(EnterTickets, MoneyThatStartsWithAPointBecomesNoughtWithTheMessage) {
+    Show("mnuCANONTLotto649");
+    Type("txtDollars", ".50");
+    person.Expect("ERROR",
+                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
+    person.Tab();
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+}
+
+TEST_F(EnterTickets, MoneyTypedIsTheAmountOfTheEntry) {
+    Show("mnuCANONTLotto649");
+    Put("txtDollars", "12.50");
+    EXPECT_EQ(global.Dollars, "12.50");
+}
+
+TEST_F(EnterTickets, TheMoneysWholeTextIsSelectedAlsoByMouse) {
+    Show("mnuCANONTLotto649");
+    Click("txtDollars");
+    person.Type("7");
+    EXPECT_EQ(TextOf("txtDollars"), "7");
+}
+
+TEST_F(EnterTickets, TheQuickPickTabPutsItsCountToNoughtAndTakesTheFocus) {
+    Show("mnuCANONTLotto649");
+    person.ClickTab("&Quick Pick");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(1)");
+    EXPECT_EQ(TextOf("txtNoOfTickets(1)"), "0");
+    person.Type("3");
+    EXPECT_EQ(TextOf("txtNoOfTickets(1)"), "3");
+}
+
+TEST_F(EnterTickets, AnyDrawDateGoesIntoTheEntrysDate) {
+    Show("mnuCANONTLotto649");
+    EXPECT_EQ(global.DrawDate.ToText(), Today);
+    for (const int picker : {0, 1, 2}) {
+        const Date day = Date::FromYmd(2006, 3, 1 + picker);
+        Window().dtpEnterTickets(picker).SetValue(day);
+        EXPECT_EQ(global.DrawDate, day);
+    }
+    Click("dtpEnterTickets(0)");
+    person.Tab();
+    EXPECT_EQ(global.DrawDate, Window().dtpEnterTickets(0).Value());
+}
+
+TEST_F(EnterTickets, TheDateStandsBeforeTheCount) {
+    Show("mnuCANONTLotto649");
+    person.BackTab();
+    EXPECT_EQ(Focus(), "dtpEnterTickets(0)");
+}
+
+TEST_F(EnterTickets, TabWalksOverTheCountsAndTheTicketToTheMoney) {
+    Show("mnuCANONTLotto649");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+    person.Type("1");
+    person.Tab();
+    EXPECT_EQ(Focus(), "txtNoOfExtra");
+    person.Tab();
+    EXPECT_EQ(Focus(), "chkNumb(0)");
+    for (int i = 1; i < 49; ++i) person.Tab();
+    EXPECT_EQ(Focus(), "chkNumb(48)");
+    person.Tab();
+    EXPECT_EQ(Focus(), "chkRegular");
+    while (Focus() != "txtDollars" && Focus() != "cmdExit(0)") person.Tab();
+    EXPECT_EQ(Focus(), "txtDollars");
+}
+
+TEST_F(EnterTickets, OnceAcceptedTheCountIsLeftOutOfTheTabOrder) {
+    Show("mnuCANONTLotto649");
+    OneSheet(1);
+    Click("dtpEnterTickets(0)");
+    while (Focus() == "dtpEnterTickets(0)") person.Tab();
+    EXPECT_EQ(Focus(), "txtNoOfExtra");
+}
+
+TEST_F(EnterTickets, SuperSevensCountLeftEmptyOnTheReportsTabBecomesNought) {
+    Show("mnuCANONTSuper7");
+    Type("txtNoOfTickets(0)", "");
+    person.ClickTab("&Reports");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+}
+
+TEST_F(EnterTickets, TheCloseBoxIsTheExitOfTheTabInFront) {
+    for (const int tab : {0, 1, 2, 3})
+        ShowModal("mnuCANONTLotto649", [&](GameWindow& window) {
+            window.SSTab1.SetTab(tab);
+            person.Close(window);
+            EXPECT_FALSE(window.IsShown());
+        });
+    EXPECT_FALSE(windows.IsLoaded(Family::frm649));
+}
+
+TEST_F(EnterTickets, EscapeDoesNothingInAGameWindow) {
+    Show("mnuCANONTLotto649");
+    person.Key(Qt::Key_Escape);
+    EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(EnterTickets, ACountBeyondSixteenBitsIsTheOverflowBox) {
+    Show("mnuCANONTLotto649");
+    Type("txtNoOfTickets(0)", "40000");
+    person.Expect("Sorvane", "Run-time error '6':\n\nOverflow", Answer::Ok, BoxStyle::Stop);
+    person.Tab();
+    EXPECT_TRUE(Window().IsShown());
+    EXPECT_EQ(global.NoOfTickets, 0);
+}
+
+TEST_F(EnterTickets, LettersPastedIntoTheCountAreATypeMismatch) {
+    Show("mnuCANONTLotto649");
+    Paste("txtNoOfTickets(0)", "abc");
+    person.Expect("Sorvane", "Run-time error '13':\n\nType mismatch", Answer::Ok, BoxStyle::Stop);
+    person.Tab();
+    EXPECT_TRUE(Window().IsShown());
+}
+
+}  // namespace
+}  // namespace sorvane::test

@@ -1,0 +1,299 @@
+// Tickets picked on the grid: six numbers, Super 7 with its bonus tickets, Lottario.
+#include "windows/Slip.h"
+
+namespace sorvane::test {
+namespace {
+
+class LottoCaptureTest : public SlipWorld {
+  protected:
+    std::string Next() const { return CaptionOf("cmdNext_Ticket"); }
+    std::string Title() const { return CaptionOf("fraTicketNumber"); }
+    bool GridIsOpen() const { return IsEnabled("chkNumb(0)"); }
+    // A ticket of `count` numbers on from `first`, and on to the next.
+    void TicketAndNext(int first, int count) {
+        PickFrom(first, count);
+        Click("cmdNext_Ticket");
+    }
+};
+
+TEST_F(LottoCaptureTest, NumbersAreStoredAscendingWhateverTheOrderOfTheClicks) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    Pick({49, 1, 30, 7, 12, 8});
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1, Ball_2, Ball_3, Ball_4, Ball_5, Ball_6 FROM PlayedBC49"),
+              Texts{"1|7|8|12|30|49"});
+}
+
+TEST_F(LottoCaptureTest, ANumberTakenBackAtFiveKeepsTheGridOpen) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    Pick({1, 2, 3, 4, 5});
+    Pick({5});
+    EXPECT_EQ(global.NumbersPicked, 4);
+    EXPECT_TRUE(GridIsOpen());
+    Pick({6, 7});
+    EXPECT_FALSE(GridIsOpen());
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_5, Ball_6 FROM PlayedBC49"), Texts{"6|7"});
+}
+
+TEST_F(LottoCaptureTest, OnTheSixthEveryBoxGoesDisabledAndStaysTicked) {
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    PickFrom(1, 6);
+    for (int number = 1; number <= 49; ++number) {
+        EXPECT_FALSE(IsEnabled(Ball(number)));
+        EXPECT_EQ(IsTicked(Ball(number)), number <= 6);
+    }
+    EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_TRUE(IsEnabled("cmdCorrection"));
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+    Click("cmdNext_Ticket");
+    EXPECT_FALSE(IsTicked("chkNumb(0)"));
+    EXPECT_TRUE(GridIsOpen());
+    EXPECT_EQ(Title(), "Ticket #2 - Sheet 1 of 1");
+    EXPECT_EQ(Focus(), "chkNumb(0)");
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_FALSE(IsEnabled("cmdCorrection"));
+}
+
+TEST_F(LottoCaptureTest, AfterTheLastTicketWithoutAddOnsOnlySaveAndReEnterAreOpen) {
+    Show("mnuCANBCBC49");
+    OneSheet(1);
+    PickFrom(1, 6);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+    EXPECT_TRUE(IsEnabled("cmdCorrection"));
+}
+
+TEST_F(LottoCaptureTest, ReEnteringTheFirstTicketTakesItBackAndLeavesTheTitle) {
+    Show("mnuCANBCBC49");
+    OneSheet(1);
+    PickFrom(1, 6);
+    Click("cmdCorrection");
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(global.Correcting, 1);
+    EXPECT_EQ(Title(), "Ticket #1 - Sheet 1 of 1");
+    EXPECT_TRUE(GridIsOpen());
+    EXPECT_FALSE(IsTicked("chkNumb(0)"));
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+    EXPECT_EQ(Focus(), "chkNumb(0)");
+    PickFrom(40, 6);
+    EXPECT_EQ(global.Correcting, 0);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedBC49"), Texts{"40"});
+}
+
+TEST_F(LottoCaptureTest, TheLastTicketsGridIsClearedForLotto649AndStaysShownForTheOthers) {
+    for (const char* menu : {"mnuCANBCLotto649", "mnuCANBCBC49"}) {
+        Show(menu);
+        OneSheet(1);
+        PickFrom(1, 6);
+        SaveSheet(true);
+        EXPECT_EQ(Window().Enter.Capture().Slip().findChild<QCheckBox*>("chkNumb(0)")->isChecked(),
+                  std::string(menu) == "mnuCANBCBC49");
+    }
+}
+
+TEST_F(LottoCaptureTest, AMarkSticksInItsSlotForLaterSheetsOfTheSixNumberGames) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("2");
+    ExpectTicketsOnSheet("2");
+    Count("4");
+    Click("chkRegular");
+    TicketAndNext(1, 6);
+    Click("chkRegular");
+    PickFrom(7, 6);
+    SaveSheet(false);
+    TicketAndNext(13, 6);
+    PickFrom(19, 6);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Regular FROM PlayedBC49"), (Texts{"1", "0", "1", "0"}));
+}
+
+TEST_F(LottoCaptureTest, SuperSevenOffersNoFortyEightAndNoFortyNineOnceDressed) {
+    Show("mnuCANBCSuper7");
+    OneSheet(1);
+    PickFrom(41, 7);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+}
+
+TEST_F(LottoCaptureTest, ASuperSevenSheetOfTwoTicketsEndsAtTheSixth) {
+    Show("mnuCANBCSuper7");
+    OneSheet(2);
+    EXPECT_EQ(global.SheetTickets, 6);
+    PickFrom(1, 7);
+    EXPECT_EQ(Next(), "&Next Ticket");
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Title(), "Ticket #2 - Sheet 1 of 1");
+    Click("chkRegular");
+    PickFrom(8, 7);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+    EXPECT_EQ(Window().State.BonusPhase, 1);
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Title(), "Bonus Ticket #1 - Sheet 1 of 1");
+    EXPECT_FALSE(IsTicked("chkRegular"));
+    EXPECT_FALSE(IsEnabled("chkRegular"));
+    for (int bonus = 1; bonus <= 4; ++bonus) {
+        PickFrom(bonus, 7);
+        EXPECT_EQ(global.TicketNo, 2 + bonus);
+        EXPECT_EQ(Next(), "Next &Bonus");
+        EXPECT_EQ(IsEnabled("cmdSave"), bonus == 4);
+        if (bonus == 4) break;
+        Click("cmdNext_Ticket");
+        EXPECT_EQ(Title(), "Bonus Ticket #" + std::to_string(bonus + 1) + " - Sheet 1 of 1");
+    }
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1, Regular FROM PlayedSuper7"),
+              (Texts{"1|0", "8|1", "1|0", "2|0", "3|0", "4|0"}));
+    EXPECT_EQ(Rows("SELECT Lottoflag, Spent FROM Spent"), Texts{"Super 7|4"});
+}
+
+TEST_F(LottoCaptureTest, ACorrectionInSuperSevenEndsWithinItsClick) {
+    Show("mnuCANBCSuper7");
+    OneSheet(2);
+    PickFrom(1, 7);
+    Click("cmdCorrection");
+    EXPECT_EQ(global.Correcting, 0);
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(global.TotalTickets, 1);
+    EXPECT_EQ(global.NumbersPicked, 0);
+    PickFrom(20, 7);
+    EXPECT_EQ(global.TicketNo, 1);
+    EXPECT_EQ(Next(), "&Next Ticket");
+}
+
+TEST_F(LottoCaptureTest, CorrectingTheLastBoughtTicketTakesTheBonusPhaseBackAndTicksItsMarkAgain) {
+    Show("mnuCANBCSuper7");
+    OneSheet(2);
+    Click("chkRegular");
+    TicketAndNext(1, 7);
+    Click("chkRegular");
+    PickFrom(8, 7);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+    Click("cmdCorrection");
+    EXPECT_EQ(Next(), "&Next Ticket");
+    EXPECT_EQ(Window().State.BonusPhase, 0);
+    EXPECT_TRUE(IsTicked("chkRegular"));
+    EXPECT_EQ(global.TicketNo, 1);
+}
+
+TEST_F(LottoCaptureTest, ACorrectionAmongTheBonusTicketsWritesACaptionThatNothingLooksFor) {
+    Show("mnuCANBCSuper7");
+    ExpectSheets("2");
+    ExpectTicketsOnSheet("1");
+    Count("5");
+    TicketAndNext(1, 7);
+    PickFrom(8, 7);
+    ASSERT_EQ(Next(), "Next &Bonus");
+    ASSERT_EQ(global.TicketNo, 2);
+    Click("cmdCorrection");
+    EXPECT_EQ(Next(), "&Next Bonus");
+    EXPECT_FALSE(IsEnabled("chkRegular"));
+    // Its click takes no path: nothing is stored, the title stays.
+    const std::string title = Title();
+    Window().Enter.cmdNext_Ticket.SetEnabled(true);
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Next(), "&Next Bonus");
+    EXPECT_EQ(Title(), title);
+    // The next ticket writes the right caption again.
+    PickFrom(15, 7);
+    EXPECT_EQ(Next(), "Next &Bonus");
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Title(), "Bonus Ticket #2 - Sheet 1 of 2");
+}
+
+TEST_F(LottoCaptureTest, ASecondSuperSevenSheetBeginsWithBoughtTickets) {
+    Show("mnuCANBCSuper7");
+    ExpectSheets("2");
+    Count("2");
+    TicketAndNext(1, 7);
+    TicketAndNext(2, 7);
+    PickFrom(3, 7);
+    SaveSheet(false);
+    EXPECT_EQ(Next(), "&Next Ticket");
+    EXPECT_EQ(Window().State.BonusPhase, 0);
+    EXPECT_TRUE(IsEnabled("chkRegular"));
+    TicketAndNext(4, 7);
+    TicketAndNext(5, 7);
+    PickFrom(6, 7);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedSuper7"), (Texts{"1", "2", "3", "4", "5", "6"}));
+}
+
+class Lottario : public LottoCaptureTest {
+  protected:
+    void Open(int tickets) {
+        Show("mnuCANONTLOTTARIO");
+        // The add-on count is visited, as a player does: Encore numbers come into being there.
+        if (tickets > 1) ExpectSheets("1");
+        Count(std::to_string(tickets));
+        Visit("txtNoOfExtra");
+    }
+};
+
+TEST_F(Lottario, EachBoughtTicketHasOneBonusTicketAndBothMarksAreWritten) {
+    Open(2);
+    EXPECT_EQ(global.SheetTickets, 4);
+    Click("chkEarlybird");
+    EXPECT_EQ(global.EarlyBirdPlayed, True);
+    TicketAndNext(1, 6);
+    Click("chkEarlybird");
+    EXPECT_EQ(global.EarlyBirdPlayed, 0);
+    PickFrom(2, 6);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Title(), "Bonus Ticket #1 - Sheet 1 of 1");
+    PickFrom(3, 6);
+    EXPECT_EQ(global.TotalTickets, 3);
+    Click("cmdNext_Ticket");
+    PickFrom(4, 6);
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1, Regular, EarlyBird FROM PlayedLottario"),
+              (Texts{"1|0|1", "2|0|0", "3|0|0", "4|0|0"}));
+    EXPECT_EQ(Rows("SELECT Lottoflag, Spent FROM Spent"), Texts{"Lottario|2"});
+}
+
+TEST_F(Lottario, ARegularMarkCarriesOverToTheNextBoughtTicket) {
+    Open(2);
+    Click("chkRegular");
+    PickFrom(1, 6);
+    Click("cmdNext_Ticket");
+    EXPECT_TRUE(IsTicked("chkRegular"));
+    EXPECT_EQ(global.RegularMarked, 0);
+    PickFrom(2, 6);
+    EXPECT_EQ(global.RegularMarked, True);
+    Click("cmdNext_Ticket");
+    EXPECT_FALSE(IsTicked("chkRegular"));
+    EXPECT_FALSE(IsEnabled("chkRegular"));
+    EXPECT_EQ(global.RegularMarked, True);
+}
+
+TEST_F(Lottario, MarksAreWrittenBothWaysOnEveryTicket) {
+    Show("mnuCANONTLOTTARIO");
+    ExpectSheets("2");
+    Count("2");
+    Visit("txtNoOfExtra");
+    Click("chkRegular");
+    Click("chkEarlybird");
+    TicketAndNext(1, 6);
+    PickFrom(2, 6);
+    SaveSheet(false);
+    Visit("txtNoOfExtra");
+    Click("chkEarlybird");
+    TicketAndNext(3, 6);
+    PickFrom(4, 6);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1, Regular, EarlyBird FROM PlayedLottario").at(2), "3|0|0");
+}
+
+TEST_F(Lottario, TheGridEndsAtFortyFive) {
+    Open(1);
+    PickFrom(40, 6);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+}
+
+}  // namespace
+}  // namespace sorvane::test

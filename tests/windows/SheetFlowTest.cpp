@@ -1,0 +1,425 @@
+// Sheet by sheet: the count, the two questions, saving, cancel, and leaving half-way.
+#include "windows/Slip.h"
+
+namespace sorvane::test {
+namespace {
+
+class SheetFlowTest : public SlipWorld {
+  protected:
+    // Tickets of six, each on numbers of its own.
+    void Fill(int tickets) {
+        for (int i = 0; i < tickets; ++i) {
+            PickFrom(1 + 6 * i, 6);
+            if (i + 1 < tickets) Click("cmdNext_Ticket");
+        }
+    }
+};
+
+TEST_F(SheetFlowTest, OneTicketIsOneSheetWithoutADialog) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    EXPECT_EQ(global.NoOfSheets, 1);
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 1");
+    EXPECT_TRUE(IsEnabled("chkNumb(0)"));
+    EXPECT_EQ(TextOf("txtDollars"), "0.50");
+}
+
+TEST_F(SheetFlowTest, TenTicketsOnTenSheetsNeverAskHowTheyAreSpread) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("10");
+    Count("10");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
+    for (int sheet = 1; sheet <= 10; ++sheet) {
+        PickFrom(sheet, 6);
+        SaveSheet(sheet == 10);
+    }
+    EXPECT_EQ(CountOf("PlayedBC49"), "10");
+    EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"5"});
+}
+
+TEST_F(SheetFlowTest, MoreSheetsThanTicketsAreRefused) {
+    Show("mnuCANBCBC49");
+    person.ExpectWindow("frmHowManySheets", [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), "Number of Sheets played for this Draw Date");
+        Type("txtNoOfSheets", "4");
+        person.Expect("ERROR", "Number of Sheets exceeds Number of Tickets. Please try again.");
+        Click("cmdOk");
+        EXPECT_EQ(Focus(), "txtNoOfSheets");
+        Type("txtNoOfSheets", "");
+        person.Expect("ERROR", "Please enter a valid number");
+        Click("cmdOk");
+        // The refused number stays, and asks how its sheets are filled.
+        ExpectCancelled("frmTicketsOnSheet");
+        Click("cmdCancel");
+    });
+    Count("3");
+    EXPECT_EQ(global.NoOfSheets, 4);
+}
+
+TEST_F(SheetFlowTest, TheDialogsTakeDigitsAloneAndEnterLeadsToOk) {
+    Show("mnuCANBCBC49");
+    person.ExpectWindow("frmHowManySheets", [&](QWidget&) {
+        EXPECT_EQ(Focus(), "txtNoOfSheets");
+        ExpectBadNumber();
+        person.Type("x");
+        EXPECT_EQ(TextOf("txtNoOfSheets"), "");
+        person.Type("1");
+        person.Enter();
+        EXPECT_EQ(Focus(), "cmdOk");
+        person.Enter();
+    });
+    Count("2");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 2);
+}
+
+TEST_F(SheetFlowTest, EscapeAndTheCloseBoxCancelTheDialogs) {
+    Show("mnuCANBCBC49");
+    person.ExpectWindow("frmHowManySheets", [&](QWidget&) { person.Key(Qt::Key_Escape); });
+    Count("2");
+    EXPECT_EQ(global.NoOfSheets, 0);
+    person.ExpectWindow("frmHowManySheets", [&](QWidget& dialog) { person.Close(dialog); });
+    Count("2");
+    EXPECT_EQ(global.NoOfSheets, 0);
+}
+
+TEST_F(SheetFlowTest, WithoutASheetTheTicketCompletesButNothingFollowsUntilTheCountIsLeftAgain) {
+    Show("mnuCANBCBC49");
+    ExpectCancelled("frmHowManySheets");
+    Count("2");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 0");
+    PickFrom(1, 6);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+    ExpectSheets("0");
+    Count("2");
+    EXPECT_EQ(global.NoOfSheets, 0);
+    ExpectSheets("1");
+    Count("2");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 2);
+}
+
+TEST_F(SheetFlowTest, TicketsOnASheetThatIsNotTheLastAreTestedInTheirOrder) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("2");
+    const std::string again = "\r\nPlease select a new amount and Click on 'OK' again.";
+    person.ExpectWindow("frmTicketsOnSheet", [&](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), "Number of Tickets on this Sheet?");
+        const auto refused = [&](const char* tickets, const std::string& message) {
+            Type("txtNoOfTicketsOnSheet", tickets);
+            person.Expect("ERROR!", message + again);
+            Click("cmdOk");
+            EXPECT_EQ(Focus(), "txtNoOfTicketsOnSheet");
+        };
+        refused("5", "You have entered an amount greater than the total number of tickets purchased.");
+        refused("4", "You have entered an amount which doesn't allow enough tickets for your last sheet.");
+        Type("txtNoOfTicketsOnSheet", "3");
+        Click("cmdOk");
+    });
+    Count("4");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 3);
+}
+
+TEST_F(SheetFlowTest, MoreTicketsThanAreLeftAreRefusedOnALaterSheet) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("3");
+    ExpectTicketsOnSheet("2");
+    Count("5");
+    Fill(2);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
+        Type("txtNoOfTicketsOnSheet", "4");
+        person.Expect("ERROR!",
+                      "You have entered an amount greater than the number of tickets left to enter.\r\n"
+                      "Please select a new amount and Click on 'OK' again.");
+        Click("cmdOk");
+        Type("txtNoOfTicketsOnSheet", "1");
+        Click("cmdOk");
+    });
+    Click("cmdSave");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 3");
+    EXPECT_EQ(Focus(), "txtNoOfExtra");
+    PickFrom(1, 6);
+    SaveSheet(false);
+    // The last sheet takes the two that are left, and nobody is asked.
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 2);
+    Fill(2);
+    SaveSheet(true);
+    EXPECT_EQ(CountOf("PlayedBC49"), "5");
+    EXPECT_EQ(Rows("SELECT ID1, Lottoflag, Spent FROM Spent"), Texts{"1|BC49|2.5"});
+}
+
+TEST_F(SheetFlowTest, DefaultAmountsFollowTheGame) {
+    const std::pair<const char*, const char*> games[] = {
+        {"mnuCANBCBC49", "1.50"},  {"mnuCANONTONT49", "1.50"},  {"mnuCANQCQuebec49", "1.50"},
+        {"mnuCANWEST649", "3.00"}, {"mnuCANONTSuper7", "6.00"}, {"mnuCANONTLOTTARIO", "3.00"}};
+    for (const auto& [menu, amount] : games) {
+        Show(menu);
+        OneSheet(3);
+        EXPECT_EQ(TextOf("txtDollars"), amount) << menu;
+        EXPECT_EQ(global.Dollars, amount) << menu;
+        Window().Leave();
+    }
+}
+
+TEST_F(SheetFlowTest, QuebecFortyNinesAddOnBoxIsLiveOnceTheCountIsAccepted) {
+    Show("mnuCANQCQuebec49");
+    Window().Enter.AddOns.chkEncore->SetEnabled(false);
+    OneSheet(1);
+    EXPECT_TRUE(IsEnabled("chkEncore"));
+}
+
+TEST_F(SheetFlowTest, ThreeSheetsAreOneRowOfSpendingWrittenAtTheLast) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("3");
+    Count("3");
+    for (int sheet = 1; sheet <= 3; ++sheet) {
+        PickFrom(sheet, 6);
+        SaveSheet(sheet == 3);
+        EXPECT_EQ(CountOf("Spent"), sheet == 3 ? "1" : "0");
+    }
+}
+
+TEST_F(SheetFlowTest, TheAmountIsWhateverThePlayerLeftThere) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    Put("txtDollars", "1234.56");
+    PickFrom(1, 6);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Lottoflag, Spent FROM Spent"), Texts{"BC49|1234.56"});
+}
+
+TEST_F(SheetFlowTest, AnAmountOfNoughtIsARowToo) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    Put("txtDollars", "0.00");
+    PickFrom(1, 6);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"0"});
+}
+
+TEST_F(SheetFlowTest, ABadAmountLeavesTheTicketsSavedWithoutAnyMoney) {
+    Show("mnuCANBCBC49");
+    Count("1");
+    PickFrom(1, 6);
+    global.Dollars = ".";
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("ERROR!", "ERROR #3421\r\nPlease enter a valid amount and try again.", Answer::Ok,
+                  BoxStyle::Stop);
+    person.Expect("CONFIRMED", "Tickets Saved");
+    Click("cmdSave");
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    EXPECT_EQ(CountOf("Spent"), "0");
+}
+
+TEST_F(SheetFlowTest, NoThrowsTheWholeEntryAwayButSavedSheetsStay) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("2");
+    Count("2");
+    PickFrom(1, 6);
+    SaveSheet(false);
+    EXPECT_EQ(global.TicketsSaved, True);
+    PickFrom(7, 6);
+    ExpectSaveQuestion(Answer::No);
+    Click("cmdSave");
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+    EXPECT_FALSE(IsEnabled("chkNumb(0)"));
+    EXPECT_FALSE(IsTicked("chkNumb(6)"));
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(global.TicketsSaved, 0);
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+}
+
+TEST_F(SheetFlowTest, AnIncompleteSheetIsNotWritten) {
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    PickFrom(1, 6);
+    Window().Enter.cmdSave.SetEnabled(true);
+    ExpectSaveQuestion(Answer::Yes);
+    Click("cmdSave");
+    EXPECT_EQ(CountOf("PlayedBC49"), "0");
+    EXPECT_EQ(global.TicketsSaved, 0);
+    EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(SheetFlowTest, TheLastSheetUnloadsTheWindow) {
+    ShowModal("mnuCANBCBC49", [&](GameWindow& window) {
+        Count("1");
+        PickFrom(1, 6);
+        SaveSheet(true);
+        EXPECT_FALSE(window.IsShown());
+        EXPECT_FALSE(windows.IsLoaded(Family::frm649));
+    });
+    EXPECT_EQ(global.NoOfTickets, 0);
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(global.Msg, "");
+}
+
+TEST_F(SheetFlowTest, AFailedSaveStillSaysTicketsSavedAndTheEntryGoesOn) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("2");
+    Count("2");
+    Do("INSERT INTO PlayedBC49 (ID1) VALUES (2)");
+    PickFrom(1, 6);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("ERROR!",
+                  "ERROR #3022\r\nUnexpected error occurred. Please advise error number to support.",
+                  Answer::Ok, BoxStyle::Stop);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    Click("cmdSave");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
+}
+
+TEST_F(SheetFlowTest, CancelAsksAndStartsOverWithoutTouchingTheStore) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("2");
+    Count("2");
+    PickFrom(1, 6);
+    SaveSheet(false);
+    Pick({1, 2});
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::No, BoxStyle::YesNo);
+    Click("cmdCancel");
+    EXPECT_TRUE(IsTicked("chkNumb(1)"));
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+    Click("cmdCancel");
+    EXPECT_FALSE(IsTicked("chkNumb(1)"));
+    EXPECT_FALSE(IsEnabled("chkNumb(0)"));
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 0 of 0");
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
+    EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+    EXPECT_EQ(global.TicketsSaved, True);
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    // Nothing is left to finish, so leaving asks nothing.
+    Click("cmdExit(0)");
+    EXPECT_FALSE(Window().IsShown());
+}
+
+TEST_F(SheetFlowTest, LeavingBeforeAnySheetWasSavedAsksNothing) {
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    PickFrom(1, 6);
+    Click("cmdExit(0)");
+    EXPECT_FALSE(Window().IsShown());
+}
+
+class HalfSaved : public SheetFlowTest {
+  protected:
+    // The first of two sheets is saved.
+    void Begin(std::string_view menu) {
+        Show(menu);
+        ExpectSheets("2");
+        Count("2");
+        PickFrom(1, 6);
+        SaveSheet(false);
+    }
+};
+
+TEST_F(HalfSaved, CancelLeavesTheWindowAllTheSame) {
+    Begin("mnuCANBCBC49");
+    ExpectCleanUp(Answer::Cancel);
+    Click("cmdExit(0)");
+    EXPECT_FALSE(Window().IsShown());
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    EXPECT_EQ(CountOf("Spent"), "0");
+}
+
+TEST_F(HalfSaved, NoLeavesTheRowsAndTheWindow) {
+    Begin("mnuCANBCBC49");
+    ExpectCleanUp(Answer::No);
+    Click("cmdExit(0)");
+    EXPECT_FALSE(Window().IsShown());
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+}
+
+TEST_F(HalfSaved, YesRemovesAllRowsOfTheDateFromBothTablesWhicheverGameTheyCarry) {
+    Begin("mnuCANBCBC49");
+    const std::string day = std::to_string(Date::FromText(Today).Day());
+    Do("INSERT INTO PlayedBC49 (ID1, Date) VALUES (70, " + day + "), (71, 1)");
+    Do("INSERT INTO PlayedExtra (ID1, Lottoflag, Date) VALUES (1, 'Super 7', " + day + "), (2, 'BC49', 1)");
+    Do("INSERT INTO Spent (ID1, Lottoflag, Date) VALUES (1, 'BC49', " + day + ")");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), Texts{"71"});
+    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedExtra"), Texts{"2"});
+    EXPECT_EQ(CountOf("Spent"), "1");
+}
+
+TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckHasMovedOn) {
+    Begin("mnuCANBCBC49");
+    Window().SSTab1.SetTab(Tab::Check);
+    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
+    person.Expect("ERROR", "Missing Data. Please enter a valid number from 1 to 49 and try again.");
+    Click("cmdCheck");
+    EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(2)");
+    EXPECT_EQ(CountOf("PlayedBC49"), "0");
+}
+
+TEST_F(HalfSaved, AfterACleanUpOfEarlierRowsALaterSaveMeetsATakenKey) {
+    Begin("mnuCANBCBC49");
+    Do("INSERT INTO PlayedBC49 (ID1, Date) VALUES (2, 1)");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    Show("mnuCANBCBC49");
+    Count("1");
+    PickFrom(1, 6);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("ERROR!",
+                  "ERROR #3022\r\nUnexpected error occurred. Please advise error number to support.",
+                  Answer::Ok, BoxStyle::Stop);
+    person.Expect("CONFIRMED", "Tickets Saved");
+    Click("cmdSave");
+    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), Texts{"2"});
+}
+
+TEST_F(HalfSaved, WesternExtraIsCleanedToo) {
+    Show("mnuCANWESTSuper7");
+    const std::string day = std::to_string(Date::FromText(Today).Day());
+    Do("INSERT INTO PlayedWESTExtra (ID1, Lottoflag, Date) VALUES (1, 'Super 7', " + day + ")");
+    Click("txtDollars");
+    global.NoOfTickets = 2;
+    global.NoOfSheets = 2;
+    global.TicketsSaved = True;
+    Window().State.CurrentSheet = 2;
+    Window().State.SavedDate = Date::FromText(Today);
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedWESTExtra"), "0");
+}
+
+TEST_F(SheetFlowTest, ADateAlreadyInUseTakesFurtherRows) {
+    for (int entry = 1; entry <= 2; ++entry) {
+        Show("mnuCANBCBC49");
+        Count("1");
+        PickFrom(1, 6);
+        SaveSheet(true);
+    }
+    EXPECT_EQ(Rows("SELECT ID1, Date FROM PlayedBC49"), (Texts{"1|38787", "2|38787"}));
+    EXPECT_EQ(Rows("SELECT ID1, Spent FROM Spent"), (Texts{"1|0.5", "2|0.5"}));
+}
+
+TEST_F(SheetFlowTest, TwoRegionsOfOneGameShareItsTicketsAndOneCleanUpRemovesBoth) {
+    global.AddOnTickets.Redim(1);
+    Show("mnuCANATLLotto649");
+    Count("1");
+    PickFrom(1, 6);
+    SaveSheet(true);
+    Show("mnuCANQCLotto649");
+    ExpectSheets("2");
+    Count("2");
+    PickFrom(7, 6);
+    SaveSheet(false);
+    EXPECT_EQ(CountOf("PlayedLotto649"), "2");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedLotto649"), "0");
+}
+
+}  // namespace
+}  // namespace sorvane::test
