@@ -120,6 +120,27 @@ void OpenAndClose(benchmark::State& state) {
 }
 BENCHMARK(OpenAndClose)->Unit(benchmark::kMillisecond);
 
+// A delete walk enters anew behind each row; that must not walk the rows of the same date again.
+void MoveAmongRowsOfOneDate(benchmark::State& state) {
+    constexpr int Rows = 30'000;
+    const std::string& path = FastFileOf(Rows);
+    sqlite3* handle = OpenPlain(path);
+    sqlite3_exec(handle, "UPDATE WinLotto649 SET Date = 1", nullptr, nullptr, nullptr);
+    sqlite3_close(handle);
+    Engine engine;
+    OpenFlags flags;
+    Database db = engine.OpenDatabase(path, flags);
+    Recordset rs = db.OpenTable("WinLotto649");
+    rs.Index("Date");
+    rs.MoveFirst();
+    for (auto _ : state) {
+        rs.AddNew();  // leaves the walk
+        rs.MoveNext();
+        if (rs.AtEOF()) rs.MoveFirst();
+    }
+}
+BENCHMARK(MoveAmongRowsOfOneDate)->Unit(benchmark::kMicrosecond);
+
 // Ten rows, each on the disk before the next, at a place that has to be synced.
 constexpr int Updates = 10;
 

@@ -143,8 +143,9 @@ void TableRecordset::Index(std::string_view name) {
     Leave();
     pending_.reset();
     Statement find = Database().Prepare(
-        "SELECT i.name, x.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x "
-        "WHERE i.name = ?2 COLLATE NOCASE AND NOT i.partial AND x.seqno = 0 AND x.cid >= 0");
+        "SELECT i.name, t.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x, "
+        "pragma_table_info(?1) t "
+        "WHERE i.name = ?2 COLLATE NOCASE AND NOT i.partial AND x.seqno = 0 AND t.name = x.name");
     find.Bind(1, table_);
     find.Bind(2, IndexName(table_, name));
     if (!find.Step()) Raise(ErrorNumber::IndexNotFound);
@@ -170,19 +171,15 @@ void TableRecordset::Seek(const Value& key) {
     if (noMatch_) place_ = Place::Nowhere;
 }
 
-void TableRecordset::MoveFirst() {
+void TableRecordset::MoveTo(Query end) {
     pending_.reset();
-    if (Fetch(Query::First)) return;
+    if (Fetch(end)) return;
     place_ = Place::Empty;
     Raise(ErrorNumber::NoCurrentRecord);
 }
 
-void TableRecordset::MoveLast() {
-    pending_.reset();
-    if (Fetch(Query::Last)) return;
-    place_ = Place::Empty;
-    Raise(ErrorNumber::NoCurrentRecord);
-}
+void TableRecordset::MoveFirst() { MoveTo(Query::First); }
+void TableRecordset::MoveLast() { MoveTo(Query::Last); }
 
 // The walk that goes on behind the position, among the rows of its key where there is an index.
 Statement& TableRecordset::Enter() {
@@ -305,9 +302,11 @@ void TableRecordset::RefuseNullKeys(const Pending& pending) {
     if (!primary_) {
         primary_.emplace();
         Statement list = Database().Prepare(
-            "SELECT x.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x "
-            "WHERE i.\"unique\" AND i.origin = 'c' AND x.seqno = 0 AND x.cid >= 0");
+            "SELECT t.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x, "
+            "pragma_table_info(?1) t "
+            "WHERE i.\"unique\" AND substr(i.name, 1, length(?2)) = ?2 AND x.seqno = 0 AND t.name = x.name");
         list.Bind(1, table_);
+        list.Bind(2, IndexName(table_, ""));
         while (list.Step()) primary_->push_back(static_cast<int>(list.Int64(0)));
     }
     for (const int ordinal : *primary_) {

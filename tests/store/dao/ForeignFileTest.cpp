@@ -320,6 +320,25 @@ TEST_F(ForeignFiles, RulesOfAForeignTableRefuseWithTheNearestNumber) {
     EXPECT_EQ(add(2, "a", 5), ErrorNumber::Conversion);
 }
 
+TEST_F(ForeignFiles, ReckonedFieldsDoNotCountAsFields) {
+    CreateWithDays({10});
+    Plain().Ask(
+        "CREATE TABLE Reckoned (twice AS (ID1 * 2), ID1 LONG, more AS (ID1 + 1), Date DATETIME);"
+        "CREATE UNIQUE INDEX \"Reckoned.ID1\" ON Reckoned (ID1);"
+        "CREATE INDEX \"Reckoned.Date\" ON Reckoned (Date);"
+        "CREATE INDEX \"Reckoned.twice\" ON Reckoned (twice);"
+        "INSERT INTO Reckoned VALUES (1, 30), (2, 20)");
+    Database db = Open();
+    Recordset rs = db.OpenTable("Reckoned");
+    EXPECT_EQ(rs.FieldCount(), 2);
+    rs.Index("Date");
+    rs.Seek(20);
+    EXPECT_EQ(Ids(rs), (Numbers{2, 1}));
+    EXPECT_EQ(ErrorOf([&] { rs.Index("twice"); }), ErrorNumber::IndexNotFound);
+    rs.AddNew();
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::NullInKey);
+}
+
 TEST_F(ForeignFiles, AMisspeltFieldIsNotTakenForAText) {
     CreateWithDays({10});
     Database db = Open();
