@@ -1,11 +1,13 @@
 // The paddings that never end: each runs in a process of its own until its time is up.
 #include <gtest/gtest.h>
 
-#ifdef __unix__
+#ifdef __linux__
 #include <sys/resource.h>
 #include <sys/time.h>
+#include <unistd.h>
 
 #include <csignal>
+#include <fstream>
 
 #include "reports/MoneyReport.h"
 #include "reports/PadAmount.h"
@@ -16,15 +18,22 @@ namespace {
 
 using testing::ReportWorld;
 
-constexpr rlim_t Megabyte = 1024 * 1024;
+// What the process has mapped now, in bytes.
+rlim_t Mapped() {
+    rlim_t pages = 0;
+    std::ifstream("/proc/self/statm") >> pages;
+    return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
+}
 
-// A fifth of a second of processor time, then SIGVTALRM ends the process; a process that grows meanwhile by
-// much ends by its failing allocation instead. A sanitizer has all memory reserved and needs no bound.
+// A fifth of a second of processor time, then SIGVTALRM ends the process; one that grows meanwhile ends by
+// its failing allocation instead. A sanitizer has all memory reserved and needs no bound.
 void BoundThisProcess() {
     const itimerval aFifth{{0, 0}, {0, 200'000}};
     setitimer(ITIMER_VIRTUAL, &aFifth, nullptr);
 #if !defined(__SANITIZE_ADDRESS__)
-    const rlimit memory{512 * Megabyte, 512 * Megabyte};
+    constexpr rlim_t Room = 32 * 1024 * 1024;
+    const rlim_t most = Mapped() + Room;
+    const rlimit memory{most, most};
     setrlimit(RLIMIT_AS, &memory);
 #endif
 }

@@ -148,6 +148,16 @@ TEST(MoneyReportTest, ANegativeTotalHasASignAndANegativeRowParentheses) {
     EXPECT_EQ(world.LineAfter(DifferenceLine), "     (1,234.50)");
 }
 
+TEST(MoneyReportTest, TheDifferenceHasOneDollarSign) {
+    MoneyWorld world("BC49");
+    for (const char* won : {"0", "20"}) {
+        world.global.TotalSpent = Currency::FromInt(5);
+        world.global.TotalWon = Currency::FromText(won);
+        WriteMoneyReport(world.run, GameMoney, "BC/49", world.text);
+        EXPECT_EQ(world.LineAfter(DifferenceLine).find('$'), std::string::npos);
+    }
+}
+
 TEST(MoneyReportTest, ADifferenceOfThirteenCharactersStillFits) {
     MoneyWorld world("BC49");
     world.global.TotalWon = Currency::FromText("999999.99");
@@ -282,20 +292,31 @@ TEST(SumTest, AllWinningsAreReadFromTheTableOfTheCallersName) {
     EXPECT_EQ(world.global.WonRows, 0);
 }
 
-TEST(SumTest, MoreThan32767RowsAreAnOverflow) {
+TEST(SumTest, MoreThan32767RowsOfALedgerAreAnOverflow) {
     MoneyWorld world("");
     world.Spent({});
-    world.Plain().Do(
-        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32767) "
-        "INSERT INTO Spent SELECT i, 'BC49', 46000, 1 FROM n");
-    SumSpent(world.run, world.db, "Spent", world.chart, ReportMode);
-    EXPECT_EQ(world.global.SpentRows, 32'767);
-    EXPECT_EQ(world.global.TotalSpent, Currency::FromInt(32'767));
-    world.Plain().Do("INSERT INTO Spent VALUES (32768, 'BC49', 46000, 1)");
-    world.ExpectUnexpected(6);
-    SumSpent(world.run, world.db, "Spent", world.chart, ReportMode);
-    EXPECT_EQ(world.global.SpentRows, 32'767);
-    world.ExpectAllClosed();
+    world.Winnings({});
+    const Global& g = world.global;
+    struct Case {
+        const char* table;
+        decltype(&SumSpent) sum;
+        const Integer& rows;
+        const Currency& total;
+    };
+    for (const Case& ledger : {Case{"Spent", SumSpent, g.SpentRows, g.TotalSpent},
+                               Case{"Winnings", SumWon, g.WonRows, g.TotalWon}}) {
+        const std::string insert = "INSERT INTO " + std::string(ledger.table);
+        world.Plain().Do("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32767) " +
+                         insert + " SELECT i, 'BC49', 46000, 1 FROM n");
+        ledger.sum(world.run, world.db, ledger.table, world.chart, ReportMode);
+        EXPECT_EQ(ledger.rows, 32'767);
+        EXPECT_EQ(ledger.total, Currency::FromInt(32'767));
+        world.Plain().Do(insert + " VALUES (32768, 'BC49', 46000, 1)");
+        world.ExpectUnexpected(6);
+        ledger.sum(world.run, world.db, ledger.table, world.chart, ReportMode);
+        EXPECT_EQ(ledger.rows, 32'767);
+        world.ExpectAllClosed();
+    }
 }
 
 TEST(SumTest, TotalsAreExactDecimalSums) {
