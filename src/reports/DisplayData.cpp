@@ -311,17 +311,20 @@ void ForEachRow(Dao::Recordset& Rs, int rows, EachRow eachRow) {
 
 void KeepLines(Global& g, const Ledger& ledger, Dao::Recordset& Rs, int rows) {
     constexpr int DateWidth = 8;
+    constexpr std::size_t UsualLine = 64;
     Array<std::string>& lines = g.*ledger.lines;
     Array<std::string>& allLines = g.*ledger.allLines;
     lines.Redim(rows);
     allLines.Redim(rows);
     Currency total;
     ForEachRow(Rs, rows, [&](int i) {
-        const std::string date = PadLeft(Rs[DateField].ToText(), DateWidth);
         const Currency amount = Rs[AmountField].ToCurrency();
-        std::string line = date + std::string(14, ' ') + "$" + PadAmount(Format(amount, ledger.rowPicture));
+        std::string line = PadLeft(Rs[DateField].ToText(), DateWidth);
+        line.reserve(UsualLine);
+        line.append(14, ' ').append("$").append(PadAmount(Format(amount, ledger.rowPicture)));
         lines(i) = line + g.NL;
-        allLines(i) = std::move(line) + "     " + Rs[KeyField].ToText() + g.NL;
+        line.append("     ").append(Rs[KeyField].ToText()).append(g.NL);
+        allLines(i) = std::move(line);
         total += amount;
     });
     g.*ledger.total = total;
