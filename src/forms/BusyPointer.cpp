@@ -8,7 +8,8 @@ namespace {
 constexpr std::chrono::milliseconds Patience{250};
 }
 
-BusyPointer::BusyPointer(std::chrono::milliseconds expected) : start_(std::chrono::steady_clock::now()) {
+BusyPointer::BusyPointer(std::chrono::milliseconds expected, Clock::time_point (*now)())
+    : now_(now), start_(now()) {
     if (expected > Patience) Show();
 }
 
@@ -17,7 +18,7 @@ BusyPointer::~BusyPointer() {
 }
 
 void BusyPointer::Tick() {
-    if (!shown_ && std::chrono::steady_clock::now() - start_ > Patience) Show();
+    if (!shown_ && now_() - start_ > Patience) Show();
 }
 
 void BusyPointer::Show() {

@@ -9,9 +9,11 @@ namespace sorvane::forms {
 // of this object. Boxes and windows opened meanwhile show their own pointer.
 class BusyPointer {
   public:
+    using Clock = std::chrono::steady_clock;
     // `expected`: how long the work will last, as far as known; over a quarter of a second shows the pointer
     // at once.
-    explicit BusyPointer(std::chrono::milliseconds expected = std::chrono::milliseconds{0});
+    explicit BusyPointer(std::chrono::milliseconds expected = std::chrono::milliseconds{0},
+                         Clock::time_point (*now)() = &Clock::now);
     ~BusyPointer();
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
@@ -22,7 +24,8 @@ class BusyPointer {
 
   private:
     void Show();
-    std::chrono::steady_clock::time_point start_;
+    Clock::time_point (*now_)();
+    Clock::time_point start_;
     bool shown_ = false;
 };
 

@@ -8,7 +8,6 @@
 namespace sorvane::forms {
 
 CommandButton::CommandButton(std::string_view name, std::string_view caption) : Control(*this, name) {
-    setAutoDefault(false);
     SetCaption(caption);
     connect(this, &QPushButton::clicked, this, [this] { Fire(click_); });
 }

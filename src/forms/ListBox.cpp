@@ -149,7 +149,6 @@ void ListBox::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
-    pressed_ = false;
     QListView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) Fire(dblClick_);
 }

@@ -1,7 +1,9 @@
 #include "forms/NumberBall.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cstdlib>
 
 #include "forms/Look.h"
 
@@ -18,6 +20,30 @@ QSize NumberBall::sizeHint() const {
 }
 
 bool NumberBall::hitButton(const QPoint& at) const { return rect().contains(at); }
+
+void NumberBall::keyPressEvent(QKeyEvent* event) {
+    QPoint ahead;  // one step in the direction of the key
+    if (event->key() == Qt::Key_Left) ahead = {-1, 0};
+    if (event->key() == Qt::Key_Right) ahead = {1, 0};
+    if (event->key() == Qt::Key_Up) ahead = {0, -1};
+    if (event->key() == Qt::Key_Down) ahead = {0, 1};
+    if (ahead.isNull() || !parentWidget()) return CheckBox::keyPressEvent(event);
+    const QPoint aside(ahead.y(), ahead.x());
+    QWidget* nearest = nullptr;
+    int least = 0;
+    for (QObject* other : parentWidget()->children()) {
+        auto* ball = dynamic_cast<NumberBall*>(other);
+        if (!ball || !ball->isEnabled() || !ball->isVisible()) continue;
+        const QPoint way = ball->geometry().center() - geometry().center();
+        const int forwards = QPoint::dotProduct(way, ahead),
+                  sideways = std::abs(QPoint::dotProduct(way, aside));
+        const int far = forwards + 4 * sideways;  // a ball in the same line comes before one closer by
+        if (forwards <= sideways || (nearest && far >= least)) continue;
+        nearest = ball;
+        least = far;
+    }
+    if (nearest) nearest->setFocus(Qt::TabFocusReason);
+}
 
 void NumberBall::paintEvent(QPaintEvent*) {
     const Look::Ball ball = Look::BallColours(palette(), isChecked(), isEnabled());

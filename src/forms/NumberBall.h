@@ -7,7 +7,8 @@ namespace sorvane::forms {
 
 // A check box painted as a round ball that can be hit anywhere. Its states differ in shape as well as colour:
 // free (ring), ticked (filled, with a tick), disabled (thin broken ring), disabled and ticked (filled pale,
-// with a tick), focused (a second ring around it).
+// with a tick), focused (a second ring around it). The arrow keys go to the nearest enabled ball in their
+// direction.
 class NumberBall : public CheckBox {
   public:
     explicit NumberBall(std::string_view name, std::string_view caption = {});
@@ -17,6 +18,7 @@ class NumberBall : public CheckBox {
 
   protected:
     bool hitButton(const QPoint& at) const override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 

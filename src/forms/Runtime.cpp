@@ -59,7 +59,7 @@ void Runtime::WithoutFocus(QWidget& widget, const std::function<void()>& change)
 
 void Runtime::FocusChanged(QWidget* now) {
     Level& level = levels_.back();
-    if (!now || !level.window || now->window() != level.window || level.moving) return;
+    if (!now || level.moving) return;
     if (level.hold > 0) level.held = true;
     else Settle();
 }

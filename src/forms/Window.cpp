@@ -65,6 +65,7 @@ void Window::Appear(Qt::WindowModality modality) {
     setWindowModality(modality);
     create();
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
+    if (focusWidget() == this) clearFocus();  // the control that had it was hidden or disabled meanwhile
     if (firstFocus_ && firstFocus_->isEnabledTo(this) && firstFocus_->isVisibleTo(this))
         firstFocus_->setFocus();
     show();

@@ -1,4 +1,7 @@
 // KeyPress: what is a key press, and what a refusal does.
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+
 #include "Fixture.h"
 #include "forms/ComboBox.h"
 #include "forms/MultiLineBox.h"
@@ -103,6 +106,14 @@ TEST_F(Keys, CommittedTextReplacesWhatIsSelected) {
     window.txtOne.SelectAll();
     person.Commit("12");
     EXPECT_EQ("12", window.txtOne.Text());
+}
+
+TEST_F(Keys, CommittedTextThatReplacesEarlierTextReplacesItOnce) {
+    window.txtOne.SetText("12345");
+    QInputMethodEvent event;
+    event.setCommitString("67", -3, 2);
+    QCoreApplication::sendEvent(&window.txtOne, &event);
+    EXPECT_EQ("12675", window.txtOne.Text());
 }
 
 TEST_F(Keys, CommittedTextBeyondAsciiIsOneKeyPressACharacter) {

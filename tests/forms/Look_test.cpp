@@ -7,10 +7,12 @@
 #include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
+#include <QGridLayout>
 #include <QToolTip>
 
 #include "Fixture.h"
 #include "forms/Chart.h"
+#include "forms/ControlArray.h"
 #include "forms/NumberBall.h"
 
 namespace sorvane::test {
@@ -91,6 +93,31 @@ TEST(NumberBall, CanBeHitAnywhere) {
         person.Click(ball, at);
         EXPECT_NE(before, ball.Value());
     }
+}
+
+TEST(NumberBall, ArrowsGoToTheNearestEnabledBallInTheirDirection) {
+    LoggingWindow window;
+    QWidget page;
+    QGridLayout grid(&page);
+    ControlArray<NumberBall> balls("chkNumb");
+    for (int i = 0; i < 9; ++i) grid.addWidget(&balls.Load(i, std::to_string(i + 1)), i / 3, i % 3);
+    window.layout()->addWidget(&page);
+    balls(4).SetEnabled(false);
+    Open(window);
+    Person person;
+    const auto goes = [&](Qt::Key key, int to) {
+        person.Key(key);
+        EXPECT_TRUE(balls(to).HasFocus()) << to;
+    };
+    goes(Qt::Key_Right, 1);
+    goes(Qt::Key_Down, 7);
+    goes(Qt::Key_Right, 8);
+    goes(Qt::Key_Right, 8);
+    goes(Qt::Key_Up, 5);
+    goes(Qt::Key_Left, 3);
+    goes(Qt::Key_Up, 0);
+    person.Key(Qt::Key_Space);
+    EXPECT_EQ(1, balls(0).Value());
 }
 
 // A picture without colour: what remains is shape and lightness.

@@ -83,6 +83,17 @@ TEST_F(Tabs, TabOfTheProgramFiresInTheSameOrder) {
         window.log);
 }
 
+TEST_F(Tabs, WishOfALostFocusIsGivenBeforeTheHandlerThatChangedTheTabGoesOn) {
+    window.cmdCancel.OnLostFocus([&] { window.cmdCheck.SetFocus(); });
+    window.cmdCancel.OnClick([&] {
+        window.SSTab1.SetTab(1);
+        window.Write("end of handler");
+    });
+    person.Click(window.cmdCancel);
+    EXPECT_EQ((Log{"-txtNoOfTickets", "+cmdCancel", "+cmdCheck", "tab &Check Tickets", "end of handler"}),
+              window.log);
+}
+
 TEST_F(Tabs, TabThatIsInFrontAlreadyFiresNothing) {
     window.SSTab1.SetTab(0);
     person.ClickTab("&Enter");

@@ -67,6 +67,17 @@ TEST(Window, OpensWithTheFirstInTabOrderWhereNoneIsNamedOrTheNamedOneIsDisabled)
     EXPECT_TRUE(window.txtCount.HasFocus());
 }
 
+TEST(Window, OpensWithTheFocusOnAControlAfterTheOneThatHadItWasDisabledWhileHidden) {
+    LoggingWindow window;
+    TextBox first("txtFirst"), second("txtSecond");
+    window.LayOut(first, second);
+    Open(window);
+    window.Unload();
+    first.SetEnabled(false);
+    Open(window);
+    EXPECT_TRUE(second.HasFocus());
+}
+
 TEST(Window, CanBeShownAgain) {
     Small window;
     Person person;
@@ -290,10 +301,15 @@ TEST(BusyPointer, IsShownAtOnceForWorkKnownToBeLong) {
     EXPECT_EQ(nullptr, QApplication::overrideCursor());
 }
 
-TEST(BusyPointer, IsNotShownForShortWork) {
-    BusyPointer busy(std::chrono::milliseconds(250));
+TEST(BusyPointer, IsShownOnceWorkHasLastedOverAQuarterOfASecond) {
+    static BusyPointer::Clock::time_point now;
+    BusyPointer busy(std::chrono::milliseconds(250), [] { return now; });
+    now += std::chrono::milliseconds(250);
     busy.Tick();
     EXPECT_FALSE(busy.Shown());
+    now += std::chrono::milliseconds(1);
+    busy.Tick();
+    EXPECT_TRUE(busy.Shown());
 }
 
 TEST(BusyPointer, GivesWayToABox) {

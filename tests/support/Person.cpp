@@ -30,7 +30,8 @@ using forms::ToUtf8;
 // A loop that shows boxes without end would never let the test end.
 constexpr int MostUnexpected = 50;
 // Milliseconds that a window manager may take to put a window in place.
-constexpr int MostWaiting = 2000;
+constexpr int MostWaiting = 5000;
+constexpr int Patience = 1000;
 
 std::string OneKindOfBreak(std::string_view text) { return ToUtf8(ToQt(text).replace("\r\n", "\n")); }
 
@@ -94,6 +95,8 @@ void Person::Await(QWidget& window) {
     const auto active = [&] {
         return window.isActiveWindow() && QGuiApplication::focusWindow() == window.windowHandle();
     };
+    if (QTest::qWaitFor(active, Patience)) return;
+    window.activateWindow();  // a window manager may leave no window active; a person then clicks on one
     if (!QTest::qWaitFor(active, MostWaiting)) ADD_FAILURE() << "never became active: " << Describe(window);
 }
 
@@ -234,6 +237,7 @@ void Person::Appeared(QWidget& modal) {
     // A mouse that is still down is let go here.
     if (std::exchange(pressed_, nullptr))
         QTest::mouseRelease(modal.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
+    Await(modal);
     auto* box = qobject_cast<QMessageBox*>(&modal);
     if (awaited_.empty() || awaited_.front().window.empty() != (box != nullptr)) return Unexpected(modal);
     const Event event = std::move(awaited_.front());
