@@ -32,6 +32,7 @@ class TabStrip::Bar : public QTabBar {
   protected:
     bool event(QEvent* event) override {
         if (HandleAccessKey(*this, *event)) return true;
+        if (!event->isInputEvent()) return QTabBar::event(event);  // some come while the strip is torn down
         Change change(tabs_);
         return QTabBar::event(event);
     }
