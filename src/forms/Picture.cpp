@@ -32,10 +32,19 @@ void Picture::Loaded() {
 
 QSize Picture::sizeHint() const { return drawing_->defaultSize(); }
 
+int Picture::heightForWidth(int width) const {
+    const QSize size = drawing_->defaultSize();
+    return size.width() > 0 ? width * size.height() / size.width() : 0;
+}
+
+// What a drawing has beyond its frame is not shown.
 void Picture::paintEvent(QPaintEvent*) {
     if (!drawing_->isValid()) return;
+    QRectF frame(QPointF(0, 0), drawing_->defaultSize().scaled(size(), Qt::KeepAspectRatio));
+    frame.moveCenter(QRectF(rect()).center());
     QPainter painter(this);
-    drawing_->render(&painter, QRectF(rect()));
+    painter.setClipRect(frame);
+    drawing_->render(&painter, frame);
 }
 
 }  // namespace sorvane::forms

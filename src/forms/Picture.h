@@ -19,6 +19,9 @@ class Picture : public QWidget, public Control {
     // A drawing from a file or from a resource (":/...").
     void SetFile(std::string_view path);
     QSize sizeHint() const override;
+    // Layouts keep the drawing's proportions where they can.
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
 
   protected:
     // Painted as large as fits, in its own proportions.
