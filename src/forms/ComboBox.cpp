@@ -1,8 +1,8 @@
 #include "forms/ComboBox.h"
 
-#include <QLineEdit>
 #include <QWheelEvent>
 
+#include "forms/SelectingEdit.h"
 #include "forms/Utf8.h"
 #include "platform/RunTimeError.h"
 
@@ -11,7 +11,7 @@ namespace sorvane::forms {
 ComboBox::ComboBox(std::string_view name, Style style) : Control(*this, name) {
     setFocusPolicy(Qt::StrongFocus);
     if (style == Style::Editable) {
-        setEditable(true);
+        setLineEdit(new SelectingEdit(this));  // which makes it editable
         setInsertPolicy(NoInsert);
         setCompleter(nullptr);  // "1" typed must not become "10"
     }
@@ -57,7 +57,7 @@ int ComboBox::ListIndex() const {
 void ComboBox::SetListIndex(int index) { SetText(index == -1 ? std::string() : List(index)); }
 
 void ComboBox::SelectAll() {
-    if (lineEdit()) lineEdit()->selectAll();
+    if (auto* edit = static_cast<SelectingEdit*>(lineEdit())) edit->SelectWhole();
 }
 
 void ComboBox::TextMayHaveChanged() {

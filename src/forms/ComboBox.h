@@ -31,7 +31,7 @@ class ComboBox : public KeyFilter<QComboBox>, public Control {
 
     // Change: the text has become another one, by the user or by the program.
     void OnChange(std::function<void()> handler) { change_ = std::move(handler); }
-    // Selects the whole text of an editable one.
+    // Selects the whole text of an editable one; holds also when a mouse press brought the focus.
     void SelectAll();
 
   protected:

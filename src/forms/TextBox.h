@@ -1,14 +1,13 @@
 // A field of one line.
 #pragma once
 
-#include <QLineEdit>
-
 #include "forms/Control.h"
 #include "forms/KeyFilter.h"
+#include "forms/SelectingEdit.h"
 
 namespace sorvane::forms {
 
-class TextBox : public KeyFilter<QLineEdit>, public Control {
+class TextBox : public KeyFilter<SelectingEdit>, public Control {
   public:
     explicit TextBox(std::string_view name);
 
@@ -26,15 +25,8 @@ class TextBox : public KeyFilter<QLineEdit>, public Control {
     void SetMaxLength(int characters);
     int MaxLength() const;
 
-  protected:
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-
   private:
     std::function<void()> change_;
-    bool keepSelection_ = false;  // the press in hand selected all: small moves of the mouse don't undo it
-    QPoint pressedAt_;
 };
 
 }  // namespace sorvane::forms

@@ -148,11 +148,13 @@ class SelectAll : public testing::Test {
   protected:
     LoggingWindow window;
     TextBox other{"txtOther"}, field{"txtDollars"};
+    ComboBox list{"cboNoOfBallsPerTicket"};
     Person person;
     void SetUp() override {
-        window.LayOut(other, field);
+        window.LayOut(other, field, list);
         field.SetText("1234");
         field.OnGotFocus([this] { field.SelectAll(); });
+        list.OnGotFocus([this] { list.SelectAll(); });
         Open(window);
     }
 };
@@ -174,6 +176,14 @@ TEST_F(SelectAll, HoldsThroughASmallMoveOfTheMouse) {
     person.MoveTo(field, QPoint(14, field.height() / 2));
     person.Release();
     EXPECT_EQ("1234", field.selectedText());
+}
+
+TEST_F(SelectAll, HoldsInAListThatCanBeTypedInto) {
+    list.AddItem("10");
+    list.SetListIndex(0);
+    person.Click(list, QPoint(8, list.height() / 2));
+    person.Type("3");
+    EXPECT_EQ("3", list.Text());
 }
 
 TEST_F(SelectAll, SecondClickPutsTheCaret) {
