@@ -44,6 +44,8 @@ inline constexpr PerFamily<bool> HasEncore          {{ yes,   yes,   yes,   yes,
 inline constexpr PerFamily<bool> HasPlay4           {{ yes,   yes,   no,    no,    no,    no,    no    }};
 inline constexpr PerFamily<bool> HasNoOfExtra       {{ yes,   yes,   yes,   yes,   yes,   yes,   no    }};  // keno 80: there, without a flow
 inline constexpr PerFamily<bool> HasExtraFlow       {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
+inline constexpr PerFamily<bool> CountShownAtLoad   {{ yes,   yes,   yes,   yes,   yes,   no,    no    }};  // txtNoOfExtra and its label
+inline constexpr PerFamily<bool> CheckShownAtLoad   {{ yes,   yes,   no,    no,    no,    no,    no    }};  // chkEncore
 inline constexpr PerFamily<bool> HasWheel           {{ yes,   yes,   yes,   yes,   yes,   no,    no    }};
 inline constexpr PerFamily<bool> ExtraFiltersKeys   {{ yes,   yes,   no,    yes,   yes,   yes,   no    }};  // Lottario's count takes any key: meant
 inline constexpr PerFamily<Go>   EnterInCount0      {{ Go::Extra, Go::Stay, Go::Stay, Go::Make, Go::Make, Go::Stay, Go::Stay }};
@@ -60,10 +62,8 @@ inline constexpr PerFamily<bool> SpentAfterBox      {{ no,    no,    no,    no, 
 inline constexpr PerFamily<bool> NextSheetEndsAddOns{{ no,    yes,   yes,   no,    no,    no,    no    }};  // frm649 keeps the phase: meant
 inline constexpr PerFamily<bool> TablesAfterSave    {{ yes,   yes,   yes,   yes,   no,    yes,   yes   }};
 inline constexpr PerFamily<bool> CancelCleansUp     {{ no,    no,    no,    yes,   no,    no,    no    }};
-inline constexpr PerFamily<bool> CorrectionEndsAtOnce {{ no,  yes,   yes,   no,    no,    no,    no    }};
 inline constexpr PerFamily<bool> CorrectionStopsAtZero{{ yes, yes,   yes,   no,    no,    yes,   yes   }};
-inline constexpr PerFamily<bool> LoadNamesNext      {{ no,    no,    no,    yes,   no,    yes,   no    }};
-inline constexpr PerFamily<bool> ShortGuardForAll   {{ no,    yes,   yes,   yes,   no,    yes,   no    }};  // frm649: Encore and Extra alone go on
+inline constexpr PerFamily<bool> EveryEncoreGoesOn  {{ no,    yes,   yes,   yes,   no,    yes,   no    }};  // leaving txtEncore; frm649: under Encore and Extra alone
 // Which add-on keys a window saves, makes tables for, and cleans up.
 inline constexpr PerFamily<unsigned> Saves          {{ Keys::East, Keys::Encore | Keys::West | Keys::Quebec | Keys::TagKey | Keys::Extra, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};
 inline constexpr PerFamily<unsigned> Creates        {{ Keys::East, Keys::East | Keys::West, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};

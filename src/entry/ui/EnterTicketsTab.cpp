@@ -69,6 +69,7 @@ void EnterTicketsTab::LayOut() {
     head->addLayout(Above({&lblNoTickets}, count));
     if (AddOns.txtNoOfExtra) {
         AddOns.txtNoOfExtra->setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
+        AddOns.lblNoOfExtra->SetBuddy(*AddOns.txtNoOfExtra);
         head->addLayout(Above({&*AddOns.lblNoOfExtra}, *AddOns.txtNoOfExtra));
     }
     lblDollarsSpent.SetBuddy(txtDollars);
@@ -86,12 +87,12 @@ void EnterTicketsTab::LayOut() {
     auto* marks = new QHBoxLayout;
     marks->setSpacing(gap);
     marks->addWidget(&chkRegular);
-    if (AddOns.chkEncore) marks->addWidget(&*AddOns.chkEncore);
     capture_->AddMarks(*marks);
     marks->addStretch(1);
 
     auto* addOn = new QHBoxLayout;
     addOn->setSpacing(gap / 2);
+    if (AddOns.chkEncore) addOn->addWidget(&*AddOns.chkEncore);
     if (AddOns.lblExtra) addOn->addWidget(&*AddOns.lblExtra);
     if (AddOns.txtEncore) {
         AddOns.txtEncore->setFixedWidth(forms::Look::DigitsWidth(page, AmountDigits));
@@ -131,6 +132,11 @@ void EnterTicketsTab::LayOut() {
     whole->addLayout(body, 1);
     whole->addWidget(&lblInfo);
     OrderTabs();
+    // The count of frmPick4 is there a second time; nothing shows it.
+    if (window_.Which != Family::frmPick4) return;
+    forms::TextBox& second = window_.txtNoOfTickets.Load(2);
+    second.setParent(&page);
+    second.SetVisible(false);
 }
 
 void EnterTicketsTab::OrderTabs() {
@@ -176,7 +182,7 @@ void EnterTicketsTab::EmptyFields() {
     txtDollars.SetText("");
     AddOns.EmptyCount();
     window_.txtNoOfTickets(0).SetText("0");
-    AddOns.HideAtCancel();
+    AddOns.HideExtra();
 }
 
 void EnterTicketsTab::txtDollars_KeyPress(forms::KeyPress& key) {

@@ -65,6 +65,7 @@ void GameWindow::Form_Load() {
     QuickPick.ChooseHot();
     ClearCountersAtLoad();
     Enter.AddOns.EmptyCount();
+    Enter.Capture().ForgetChoices();
     Enter.Capture().Load();
     Enter.FirstCaption();
     Enter.Capture().Close();

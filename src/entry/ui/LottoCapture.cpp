@@ -50,8 +50,10 @@ void LottoCapture::FocusAtNextSheet() { window_.Enter.AddOns.FocusCount(); }
 bool LottoCapture::CountNumber(int Index) {
     if (grid_.chkNumb(Index).Value() == 1) g_.NumbersPicked += 1;
     else if (g_.NumbersPicked > 0) g_.NumbersPicked -= 1;
-    return g_.NumbersPicked == TicketLength[window_.Which];
+    return g_.NumbersPicked == NumbersWanted();
 }
+
+int LottoCapture::NumbersWanted() const { return TicketLength[window_.Which]; }
 
 void LottoCapture::chkNumb_Click(int Index) {
     if (!CountNumber(Index)) return;
@@ -83,17 +85,6 @@ void LottoCapture::Next() {
 
 void LottoCapture::BeforeStoring() { window_.Enter.cmdCorrection.SetEnabled(false); }
 
-template <class Ticket>
-void LottoCapture::TakeNumbers(Ticket& ticket, bool clear) {
-    int slot = 0;
-    for (int i = 0; i < grid_.Count(); ++i) {
-        if (grid_.chkNumb(i).Value() == 0) continue;
-        ticket.Numbers(slot++) = i + 1;
-        if (clear) grid_.chkNumb(i).SetValue(0);
-    }
-    ticket.DrawDate = g_.DrawDate;
-}
-
 void LottoCapture::AfterStoring(bool more) {
     if (more) grid_.SetOpen(true);
     window_.Enter.cmdNext_Ticket.SetEnabled(false);
@@ -122,7 +113,7 @@ bool LottoCapture::SheetIsFull() const { return g_.TicketNo == g_.NoOfTicketsOnS
 
 void LottoCapture::SaveSheet(const StoreArgs& at) { SaveLotto6Tickets(window_.run, at); }
 
-std::optional<std::string> LottoCapture::AmountAtCount(int tickets) const {
+std::string LottoCapture::AmountAtCount(int tickets) const {
     return DefaultAmount(window_.Which, g_.LottoFlag, tickets);
 }
 

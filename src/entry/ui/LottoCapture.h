@@ -1,12 +1,13 @@
 // Tickets picked on the grid of numbers: frm649, and with bonus tickets frm749 and frm645.
 #pragma once
 
-#include <optional>
+#include <string>
+#include <vector>
 
 #include "entry/ui/NumberGrid.h"
 #include "entry/ui/TicketCapture.h"
 #include "forms/CheckBox.h"
-#include "shell/Types.h"
+#include "shell/Global.h"
 
 namespace sorvane {
 
@@ -28,16 +29,18 @@ class LottoCapture : public TicketCapture {
     void Correct() override;
     bool SheetIsFull() const override;
     void SaveSheet(const StoreArgs& at) override;
-    std::optional<std::string> AmountAtCount(int tickets) const override;
+    std::string AmountAtCount(int tickets) const override;
 
   protected:
     // chkNumb has changed.
     virtual void chkNumb_Click(int Index);
     // A number more or less; true when the ticket is complete.
     bool CountNumber(int Index);
+    // How many numbers make a ticket.
+    virtual int NumbersWanted() const;
     // The last ticket of the sheet is complete: on to the add-ons, or to saving.
     void SheetComplete();
-    // The numbers ticked, upwards, into the slots; each box is cleared while more tickets follow.
+    // The numbers ticked, upwards, into the slots, and the draw date; `clear`: each box is cleared.
     template <class Ticket>
     void TakeNumbers(Ticket& ticket, bool clear);
     // What storing does around the array: before, and behind it (`more`: further tickets follow on this
@@ -50,6 +53,17 @@ class LottoCapture : public TicketCapture {
     Global& g_;
     NumberGrid grid_;
 };
+
+template <class Ticket>
+void LottoCapture::TakeNumbers(Ticket& ticket, bool clear) {
+    int slot = 0;
+    for (int i = 0; i < grid_.Count(); ++i) {
+        if (grid_.chkNumb(i).Value() == 0) continue;
+        ticket.Numbers(slot++) = i + 1;
+        if (clear) grid_.chkNumb(i).SetValue(0);
+    }
+    ticket.DrawDate = g_.DrawDate;
+}
 
 // Bonus tickets behind the bought ones of a sheet: two for each Super 7 ticket, one for each Lottario ticket.
 class BonusCapture : public LottoCapture {

@@ -83,8 +83,7 @@ void SheetFlow::AskTicketsOnSheet() {
 
 void SheetFlow::DefaultTheAmount(forms::TextBox& count) {
     if (count.Text().empty()) count.SetText("0");
-    if (const auto amount = window_.Enter.Capture().AmountAtCount(window_.run.global.NoOfTickets))
-        window_.Enter.PutAmount(*amount);
+    window_.Enter.PutAmount(window_.Enter.Capture().AmountAtCount(window_.run.global.NoOfTickets));
 }
 
 void SheetFlow::cmdNext_Ticket_Click() {
@@ -166,7 +165,7 @@ void SheetFlow::BeginNextSheet() {
     if (NextSheetEndsAddOns[w.Which]) g.EnteringAddOns = Off;
     w.Enter.FirstCaption();
     w.Enter.cmdSave.SetEnabled(false);
-    w.Enter.AddOns.HideForNextSheet();
+    w.Enter.AddOns.HideEncore();
     w.Enter.Capture().FocusAtNextSheet();
     if (AsksTicketsOnNextSheet()) AskTicketsOnSheet();
     if (w.Which == Family::frmKeno70) w.Enter.AddOns.EmptyForKenoSheet();

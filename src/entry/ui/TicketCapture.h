@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,9 +27,11 @@ class TicketCapture {
     virtual void AddMarks(QBoxLayout&) {}
     virtual void AddToTabOrder(std::vector<QWidget*>& order) = 0;
 
-    // Lists, choices and counts of numbers as Form_Load and cmdCancel leave them.
+    // Lists and counts of numbers as Form_Load and cmdCancel leave them.
     virtual void Load() = 0;
-    // The slip cleared and disabled.
+    // Form_Load alone: the way of play, the wager and the number of balls chosen are forgotten.
+    virtual void ForgetChoices() {}
+    // The slip cleared and disabled; lists of digits are live from the start.
     virtual void Close() = 0;
     // The count of tickets was accepted.
     virtual void Open() = 0;
@@ -52,8 +53,8 @@ class TicketCapture {
     virtual bool SheetIsFull() const = 0;
     // The writer of its shape.
     virtual void SaveSheet(const StoreArgs& at) = 0;
-    // The amount put in when the count is accepted; nothing: it stays as it is.
-    virtual std::optional<std::string> AmountAtCount(int tickets) const = 0;
+    // The amount put in when the count is accepted.
+    virtual std::string AmountAtCount(int tickets) const = 0;
 };
 
 // The capture of the window's family.
