@@ -6,11 +6,14 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QListView>
-#include <QTimer>
-#include <exception>
+#include <algorithm>
+#include <stdexcept>
 
 #include "forms/Control.h"
 #include "forms/Utf8.h"
+#include "shell/Dressing.h"
+#include "shell/SelectGame.h"
+#include "shell/ui/Dress.h"
 #include "store/StoreRoutine.h"
 
 namespace sorvane::test {
@@ -26,38 +29,39 @@ WindowWorld::WindowWorld() {
 const Game& WindowWorld::Select(std::string_view menu) {
     const Game* game = FindGame(menu);
     if (!game) throw std::runtime_error("no game behind " + std::string(menu));
-    Select(game->opens, game->LottoFlag, game->ExtraFlag);
-    if (game->MaxTicketsOnSheet) global.MaxTicketsOnSheet = *game->MaxTicketsOnSheet;
-    if (game->TicketPriceCents)
-        global.TicketPrice = Currency::FromTenThousandths(*game->TicketPriceCents * Currency::Scale / 100);
-    if (game->FreePlays) global.FreePlays = *game->FreePlays;
+    sorvane::Select(global, *game);
     return *game;
 }
 
 void WindowWorld::Select(Family family, std::string_view LottoFlag, std::string_view ExtraFlag) {
-    global.NoOfSheets = 0;
-    global.LottoFlag = LottoFlag;
-    global.ExtraFlag = ExtraFlag;
-    global.GameForm = NameOf(family);
+    sorvane::Select(global, {"", LottoFlag, ExtraFlag, family, ""});
 }
 
-GameWindow& WindowWorld::Front(Family family) {
-    window_ = &windows.Load(family);
+// The steps of frmMain's menu.
+GameWindow& WindowWorld::LoadDressed(const Game& game) {
+    windows.Load(game.titleGoesTo.value_or(game.opens)).SetCaption(game.title);
+    window_ = &windows.Load(game.opens);
+    Dress(*window_, DressingOf(game));
+    return *window_;
+}
+
+GameWindow& WindowWorld::Front(GameWindow& window) {
+    window_ = &window;
     window_->Show();
     Person::Await(*window_);
     Person::Settle();
     return *window_;
 }
 
-GameWindow& WindowWorld::Show(std::string_view menu) { return Front(Select(menu).opens); }
+GameWindow& WindowWorld::Show(std::string_view menu) { return Front(LoadDressed(Select(menu))); }
 
 GameWindow& WindowWorld::Show(Family family, std::string_view LottoFlag, std::string_view ExtraFlag) {
     Select(family, LottoFlag, ExtraFlag);
-    return Front(family);
+    return Front(windows.Load(family));
 }
 
 void WindowWorld::ShowModal(std::string_view menu, const std::function<void(GameWindow&)>& act) {
-    window_ = &windows.Load(Select(menu).opens);
+    LoadDressed(Select(menu));
     person.ExpectWindow(window_->Name(), [&](QWidget&) {
         act(*window_);
         if (window_->IsShown()) window_->Leave();
@@ -98,6 +102,17 @@ std::string WindowWorld::Focus() const {
     return control ? control->Name() : std::string();
 }
 
+void WindowWorld::Tick(std::initializer_list<int> numbers) {
+    for (const int number : numbers) Click("chkNumb(" + std::to_string(number - 1) + ")");
+}
+
+std::vector<int> WindowWorld::Ticked() const {
+    std::vector<int> numbers;
+    for (int i = 0; Exists("chkNumb(" + std::to_string(i) + ")"); ++i)
+        if (IsTicked("chkNumb(" + std::to_string(i) + ")")) numbers.push_back(i + 1);
+    return numbers;
+}
+
 void WindowWorld::Type(std::string_view name, std::string_view text) {
     Click(name);
     person.Key(Qt::Key_A, Qt::ControlModifier);
@@ -117,14 +132,64 @@ void WindowWorld::Paste(std::string_view name, std::string_view text) {
     person.Key(Qt::Key_V, Qt::ControlModifier);
 }
 
-void WindowWorld::Visit(std::string_view name) {
+void WindowWorld::Enter(std::string_view name) {
     Click(name);
+    if (QApplication::activePopupWidget()) person.Key(Qt::Key_Escape);
+}
+
+void WindowWorld::Visit(std::string_view name) {
+    Enter(name);
     person.Tab();
+}
+
+void WindowWorld::Choose(std::string_view name, std::string_view entry) {
+    const Texts entries = ListOf(name);
+    const auto at = std::find(entries.begin(), entries.end(), entry);
+    if (at == entries.end()) ADD_FAILURE() << name << " has no entry " << entry;
+    Enter(name);
+    person.Key(Qt::Key_Home);
+    for (auto row = entries.begin(); row != at; ++row) person.Key(Qt::Key_Down);
+}
+
+void WindowWorld::ExpectNumber(std::string_view dialog, std::string_view field, int number) {
+    person.ExpectWindow(dialog, [this, field = std::string(field), number](QWidget&) {
+        Type(field, std::to_string(number));
+        Click("cmdOk");
+    });
+}
+
+void WindowWorld::PutCount(int tickets, int sheets, int onFirst) {
+    if (tickets > 1) ExpectNumber("frmHowManySheets", "txtNoOfSheets", sheets);
+    if (onFirst > 0) ExpectNumber("frmTicketsOnSheet", "txtNoOfTicketsOnSheet", onFirst);
+    Put("txtNoOfTickets(0)", std::to_string(tickets));
 }
 
 void WindowWorld::ExpectSaveQuestion(Answer answer) {
     person.Expect("CONFIRM", "Save this sheet of tickets?", answer, BoxStyle::YesNo);
     if (answer != Answer::Yes) person.Expect("CONFIRMED", "Tickets NOT Saved");
+}
+
+void WindowWorld::SaveLastSheet() {
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved");
+    Click("cmdSave");
+}
+
+void WindowWorld::SaveSheet() {
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    Click("cmdSave");
+}
+
+void WindowWorld::RefuseToSave() {
+    ExpectSaveQuestion(Answer::No);
+    Click("cmdSave");
+}
+
+void WindowWorld::ExpectRunTimeError(int number) {
+    person.Expect("Sorvane",
+                  "Run-time error '" + std::to_string(number) + "':\n\n" + std::string(Sentence(number)),
+                  Answer::Ok, BoxStyle::Stop);
 }
 
 PlainFile WindowWorld::Plain() const { return PlainFile(DatabasePath(global.AppPath)); }

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,7 +31,7 @@ using Texts = std::vector<std::string>;
 //
 //     Show("mnuCANONTKENO");
 //     Put("txtNoOfTickets(0)", "1");
-//     Click("chkNumb(4)");
+//     Tick({5, 17});
 //     person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo);
 //     Click("cmdSave");
 //     EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedONTKeno"), Texts{"5"});
@@ -59,8 +60,8 @@ class WindowWorld : public ::testing::Test {
     const Game& Select(std::string_view menu);
     void Select(Family family, std::string_view LottoFlag, std::string_view ExtraFlag);
 
-    // Selects the game, loads its window and shows it without a loop of its own, so that the test goes on
-    // below. The window lives until the end of the test, also when it has been left.
+    // Selects the game, loads its window, dresses it and shows it without a loop of its own, so that the test
+    // goes on below. The window lives until the end of the test, also when it has been left.
     GameWindow& Show(std::string_view menu);
     GameWindow& Show(Family family, std::string_view LottoFlag, std::string_view ExtraFlag);
     // The same as the menu does it: runs `act` inside the window's own loop, and returns when the window has
@@ -87,17 +88,36 @@ class WindowWorld : public ::testing::Test {
 
     // What the person does with them.
     void Click(std::string_view name) { person.Click(Find(name)); }
+    // Clicks the balls of these numbers.
+    void Tick(std::initializer_list<int> numbers);
+    // The balls that are ticked.
+    std::vector<int> Ticked() const;
     // Clicks the field, replaces its text by typing, and stays in it.
     void Type(std::string_view name, std::string_view text);
     // The same, and leaves it with the Tab key.
     void Put(std::string_view name, std::string_view text);
     // Pastes over the whole text of the field, past every filter of keys.
     void Paste(std::string_view name, std::string_view text);
-    // Moves the focus into a control by a click, and out of it by Tab.
+    // Moves the focus into a control by a click (a list that opens is closed again), and out of it by Tab.
+    void Enter(std::string_view name);
     void Visit(std::string_view name);
+    // Chooses an entry of a list without a field by the arrow keys, and stays in the list.
+    void Choose(std::string_view name, std::string_view entry);
 
-    // Answers to the boxes of "&Save Tickets".
+    // Leaves the count of tickets; more than one ticket comes on `sheets` sheets, the first one with
+    // `onFirst` tickets (0: nobody asks).
+    void PutCount(int tickets, int sheets = 1, int onFirst = 0);
+    // What `act` shall do in a dialog that asks for a number: type it and press "&Ok".
+    void ExpectNumber(std::string_view dialog, std::string_view field, int number);
+    // The boxes of "&Save Tickets" as far as the answer decides them: behind a No the next one too.
     void ExpectSaveQuestion(Answer answer);
+    // "&Save Tickets", answered Yes: the last sheet, and one that is followed by another.
+    void SaveLastSheet();
+    void SaveSheet();
+    // The same, answered No.
+    void RefuseToSave();
+    // The box of a run-time error that nothing traps.
+    void ExpectRunTimeError(int number);
 
     // Plain SQL on the file; rows with their columns joined by '|', Null as "NULL".
     PlainFile Plain() const;
@@ -105,7 +125,8 @@ class WindowWorld : public ::testing::Test {
     void Do(const std::string& sql) const { Plain().Do(sql); }
 
   private:
-    GameWindow& Front(Family family);
+    GameWindow& LoadDressed(const Game& game);
+    GameWindow& Front(GameWindow& window);
 
     GameWindow* window_ = nullptr;
 };
