@@ -1,4 +1,4 @@
-#include "windows/Slip.h"
+#include "support/WindowWorld.h"
 
 namespace sorvane::test {
 namespace {
@@ -7,7 +7,7 @@ const std::string TicketRow =
     "SELECT Ball_1, Ball_2, Ball_3, Ball_4, Ball_5, Ball_6, Ball_7, Ball_8, Ball_9, Ball_10, Wager, "
     "\"# of Balls\", Regular FROM PlayedONTKeno ORDER BY ID1";
 
-class KenoWindow : public SlipWorld {
+class KenoWindow : public WindowWorld {
   protected:
     void ShowKeno() { Show("mnuCANONTKENO"); }
     void ShowKeno80() { Show(Family::frmKeno80, "PrairieKeno", "PrairieKeno"); }
@@ -20,6 +20,10 @@ class KenoWindow : public SlipWorld {
     void PutBalls(std::string_view balls) {
         Type("cboNoOfBallsPerTicket", balls);
         person.BackTab();
+    }
+    void ExpectShortEncore(Answer answer = Answer::Ok) {
+        person.Expect("Encore Too Short!", "Encore number too short. Please check the number and try again.",
+                      answer, BoxStyle::OkCancel);
     }
     void ExpectMissingWager() {
         person.Expect("Please Select Wager...",
@@ -108,7 +112,7 @@ TEST_F(KenoWindow, WhatThisFamilyLacksIsNotThere) {
 
 TEST_F(KenoWindow, TheCountLeavesTheGridClosedAndPutsTheAmountWithALeadingBlank) {
     ShowKeno();
-    OneSheet(3);
+    PutCount(3);
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
     EXPECT_EQ(TextOf("txtDollars"), " 3.00");
     EXPECT_EQ(global.Dollars, " 3.00");
@@ -116,7 +120,7 @@ TEST_F(KenoWindow, TheCountLeavesTheGridClosedAndPutsTheAmountWithALeadingBlank)
 
 TEST_F(KenoWindow, BallsLeftEmptyBecomeTwoAndOpenTheGridWithoutAWager) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Put("cboNoOfBallsPerTicket", "");
     EXPECT_EQ(TextOf("cboNoOfBallsPerTicket"), "2");
     EXPECT_EQ(global.NoOfBallsPerTicket, 2);
@@ -127,7 +131,7 @@ TEST_F(KenoWindow, BallsLeftEmptyBecomeTwoAndOpenTheGridWithoutAWager) {
 
 TEST_F(KenoWindow, TheBallsAreSelectedWhenTheirListGetsTheFocus) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutBalls("10");
     Click("cboNoOfBallsPerTicket");
     person.Type("3");
@@ -137,7 +141,7 @@ TEST_F(KenoWindow, TheBallsAreSelectedWhenTheirListGetsTheFocus) {
 
 TEST_F(KenoWindow, LettersAndTooManyBallsAreRunTimeErrorsThatTheProgramSurvives) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Type("cboNoOfBallsPerTicket", "four");
     ExpectRunTimeError(13);
     person.BackTab();
@@ -151,7 +155,7 @@ TEST_F(KenoWindow, LettersAndTooManyBallsAreRunTimeErrorsThatTheProgramSurvives)
 
 TEST_F(KenoWindow, AWagerOfLettersIsARunTimeErrorThatTheProgramSurvives) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Type("cboWager", "two");
     ExpectRunTimeError(13);
     person.Tab();
@@ -161,12 +165,12 @@ TEST_F(KenoWindow, AWagerOfLettersIsARunTimeErrorThatTheProgramSurvives) {
 
 TEST_F(KenoWindow, ASixthBallOfFiveCannotBeTaken) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("5", "1.00");
-    Pick({1, 2, 3, 4, 5});
+    Tick({1, 2, 3, 4, 5});
     EXPECT_FALSE(IsEnabled("chkNumb(5)"));
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
-    Pick({6});
+    Tick({6});
     EXPECT_EQ(Ticked(), (std::vector{1, 2, 3, 4, 5}));
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_TRUE(IsEnabled("cmdSave"));
@@ -176,30 +180,30 @@ TEST_F(KenoWindow, ASixthBallOfFiveCannotBeTaken) {
 
 TEST_F(KenoWindow, ANumberClickedAgainIsGivenBack) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("2", "1.00");
-    Pick({7, 7});
+    Tick({7, 7});
     EXPECT_EQ(global.NumbersPicked, 0);
-    Pick({9, 8});
+    Tick({9, 8});
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_EQ(Ticked(), (std::vector{8, 9}));
 }
 
 TEST_F(KenoWindow, NoTicketIsCompleteWithoutANumber) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("0", "1.00");
-    Pick({7, 7});
+    Tick({7, 7});
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_FALSE(IsEnabled("cmdSave"));
 }
 
 TEST_F(KenoWindow, ATicketOfFourLeavesTheOtherBallsZeroAndStandsInAscendingOrder) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("4", "5.00");
-    Pick({70, 3, 41, 12});
-    SaveSheet(true);
+    Tick({70, 3, 41, 12});
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), Texts{"3|12|41|70|0|0|0|0|0|0|5|4|0"});
     EXPECT_EQ(Rows("SELECT ID1, Lottoflag FROM PlayedONTKeno"), Texts{"1|ONTKeno"});
     EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"5"});
@@ -208,10 +212,10 @@ TEST_F(KenoWindow, ATicketOfFourLeavesTheOtherBallsZeroAndStandsInAscendingOrder
 
 TEST_F(KenoWindow, EachTicketKeepsItsOwnBallsAndWagerWhileTheAmountStays) {
     ShowKeno();
-    OneSheet(2);
+    PutCount(2);
     PutChoices("4", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Pick({1, 2, 3, 4});
+    Tick({1, 2, 3, 4});
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Click("cmdNext_Ticket");
@@ -222,18 +226,18 @@ TEST_F(KenoWindow, EachTicketKeepsItsOwnBallsAndWagerWhileTheAmountStays) {
     PutChoices("6", "1.00");
     EXPECT_EQ(global.Wager, 1);
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Pick({11, 12, 13, 14, 15, 16});
-    SaveSheet(true);
+    Tick({11, 12, 13, 14, 15, 16});
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), (Texts{"1|2|3|4|0|0|0|0|0|0|2|4|0", "11|12|13|14|15|16|0|0|0|0|1|6|0"}));
     EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"4"});
 }
 
 TEST_F(KenoWindow, TheWagerSetsTheAmountUntilTheFirstTicketIsStored) {
     ShowKeno();
-    OneSheet(2);
+    PutCount(2);
     PutChoices("2", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Put("cboWager", "10.00");  // complete, but not stored yet
     EXPECT_EQ(TextOf("txtDollars"), "20.00");
     EXPECT_EQ(global.Dollars, "20.00");
@@ -241,20 +245,20 @@ TEST_F(KenoWindow, TheWagerSetsTheAmountUntilTheFirstTicketIsStored) {
 
 TEST_F(KenoWindow, AfterCancelTheWagerSetsTheAmountAgain) {
     ShowKeno();
-    OneSheet(2);
+    PutCount(2);
     PutChoices("2", "2.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     Click("cmdCancel");
-    OneSheet(1);
+    PutCount(1);
     PutChoices("2", "5.00");
     EXPECT_EQ(TextOf("txtDollars"), "5.00");
 }
 
 TEST_F(KenoWindow, ADisabledAmountLeavesTheWagerAlone) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Window().Enter.txtDollars.SetEnabled(false);
     Put("cboWager", "5.00");
     EXPECT_EQ(global.Wager, 5);
@@ -266,11 +270,11 @@ TEST_F(KenoWindow, ADisabledAmountLeavesTheWagerAlone) {
 
 TEST_F(KenoWindow, OnTheSecondSheetTheWagerTouchesNothing) {
     ShowKeno();
-    SeveralSheets(3, 2, 1);
+    PutCount(3, 2, 1);
     PutChoices("2", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "6.00");
-    Pick({1, 2});
-    SaveSheet(false);
+    Tick({1, 2});
+    SaveSheet();
     PutChoices("2", "10.00");
     EXPECT_EQ(TextOf("txtDollars"), "6.00");
     EXPECT_EQ(global.Wager, 2);
@@ -278,7 +282,7 @@ TEST_F(KenoWindow, OnTheSecondSheetTheWagerTouchesNothing) {
 
 TEST_F(KenoWindow, AnEmptyWagerIsAskedForAndNoClickGetsPast) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Click("cboWager");
     ExpectMissingWager();
     Click("cboNoOfBallsPerTicket");
@@ -293,73 +297,73 @@ TEST_F(KenoWindow, AnEmptyWagerIsAskedForAndNoClickGetsPast) {
 
 TEST_F(KenoWindow, ATicketWithoutAWagerIsSavedWithZero) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutBalls("2");
-    Pick({1, 2});
-    SaveSheet(true);
+    Tick({1, 2});
+    SaveLastSheet();
     EXPECT_EQ(Rows("SELECT Wager FROM PlayedONTKeno"), Texts{"0"});
 }
 
 TEST_F(KenoWindow, BallsTypedBeyondTenAreKeptAsTypedButTenAreWritten) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("12", "1.00");
-    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    SaveSheet(true);
+    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), Texts{"1|2|3|4|5|6|7|8|9|10|1|12|0"});
 }
 
 TEST_F(KenoWindow, RegularIsWrittenForItsOwnTicketOnly) {
     ShowKeno();
-    OneSheet(2);
+    PutCount(2);
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("chkRegular");
     Click("cmdNext_Ticket");
     Click("chkNumb(2)");
     Click("chkRegular");
-    Pick({4});
-    SaveSheet(true);
+    Tick({4});
+    SaveLastSheet();
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedONTKeno ORDER BY ID1"), (Texts{"1", "0"}));
 }
 
 TEST_F(KenoWindow, AReenteredTicketOfFewerBallsLeavesNoOldOnes) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("4", "1.00");
-    Pick({1, 2, 3, 4});
+    Tick({1, 2, 3, 4});
     Click("cmdCorrection");
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_EQ(Ticked(), std::vector<int>{});
     EXPECT_EQ(Focus(), "chkNumb(0)");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 1");
     Put("cboNoOfBallsPerTicket", "2");
-    Pick({60, 50});
-    SaveSheet(true);
+    Tick({60, 50});
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), Texts{"50|60|0|0|0|0|0|0|0|0|1|2|0"});
 }
 
 TEST_F(KenoWindow, SlotsOfAnEarlierSheetDoNotShineThrough) {
     ShowKeno();
-    SeveralSheets(2, 2);
+    PutCount(2, 2);
     PutChoices("4", "1.00");
-    Pick({1, 2, 3, 4});
-    SaveSheet(false);
+    Tick({1, 2, 3, 4});
+    SaveSheet();
     Put("cboNoOfBallsPerTicket", "2");
-    Pick({5, 6});
-    SaveSheet(true);
+    Tick({5, 6});
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), (Texts{"1|2|3|4|0|0|0|0|0|0|1|4|0", "5|6|0|0|0|0|0|0|0|0|1|2|0"}));
 }
 
 TEST_F(KenoWindow, ATicketThatWasReenteredIsNotOfferedForReentryAgain) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdCorrection");
     EXPECT_EQ(global.Correcting, 1);
     EXPECT_FALSE(IsEnabled("cmdSave"));
-    Pick({3, 4});
+    Tick({3, 4});
     EXPECT_EQ(global.Correcting, 0);
     EXPECT_FALSE(IsEnabled("cmdCorrection"));
     EXPECT_TRUE(IsEnabled("cmdSave"));
@@ -367,9 +371,9 @@ TEST_F(KenoWindow, ATicketThatWasReenteredIsNotOfferedForReentryAgain) {
 
 TEST_F(KenoWindow, ReentryLowersTheCountOfTicketsWithoutATestForZero) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     global.TicketNo = 0;
     Click("cmdCorrection");
     EXPECT_EQ(global.TicketNo, -1);
@@ -377,9 +381,9 @@ TEST_F(KenoWindow, ReentryLowersTheCountOfTicketsWithoutATestForZero) {
 
 TEST_F(KenoWindow, AChangeOfBallsAfterTheTicketCompletesNoOther) {
     ShowKeno();
-    OneSheet(2);
+    PutCount(2);
     PutChoices("4", "1.00");
-    Pick({1, 2, 3, 4});
+    Tick({1, 2, 3, 4});
     Put("cboNoOfBallsPerTicket", "2");
     Click("cmdNext_Ticket");
     EXPECT_EQ(global.TicketNo, 1);
@@ -388,10 +392,10 @@ TEST_F(KenoWindow, AChangeOfBallsAfterTheTicketCompletesNoOther) {
 
 TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Put("txtNoOfExtra", "2");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Enter Encore");
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
@@ -417,7 +421,7 @@ TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
     person.Type("654321");
     person.Tab();
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveSheet(true);
+    SaveLastSheet();
     EXPECT_EQ(Rows("SELECT \"Number 1\", \"Number 6\", Lottoflag FROM PlayedEncore ORDER BY ID1"),
               (Texts{"1|6|ONTKeno", "6|1|ONTKeno"}));
     // Stored again at each of these clicks with no box ticked: the numbers stay.
@@ -426,25 +430,25 @@ TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
 
 TEST_F(KenoWindow, StoringAgainWithoutNumbersWritesTheOtherFields) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     Click("chkRegular");
     EXPECT_EQ(Focus(), "cmdSave");
     Put("cboNoOfBallsPerTicket", "3");
-    SaveSheet(true);
+    SaveLastSheet();
     EXPECT_EQ(Rows(TicketRow), Texts{"1|2|0|0|0|0|0|0|0|0|1|3|1"});
 }
 
 TEST_F(KenoWindow, AShortEncoreHoldsEveryClick) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("12345");
     ExpectShortEncore();
@@ -458,10 +462,10 @@ TEST_F(KenoWindow, AShortEncoreHoldsEveryClick) {
 
 TEST_F(KenoWindow, AtlanticChoiceOpensNoEncoreField) {
     Show(Family::frmKeno70, "ATLChoice", "Encore");
-    OneSheet(1);
+    PutCount(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Encore");
     EXPECT_FALSE(IsShown("txtEncore"));
@@ -470,7 +474,7 @@ TEST_F(KenoWindow, AtlanticChoiceOpensNoEncoreField) {
 
 TEST_F(KenoWindow, EnterInTheEncoreCountLeadsToTheGridWhenItIsOpen) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Click("txtNoOfExtra");
     person.Enter();
     EXPECT_EQ(Focus(), "txtNoOfExtra");
@@ -489,14 +493,14 @@ TEST_F(KenoWindow, EnterInTheCountAsksForAButtonOnAnotherTabAndStays) {
 
 TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
     ShowKeno();
-    SeveralSheets(3, 2, 1);
+    PutCount(3, 2, 1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     person.Tab();
-    SaveSheet(false);
+    SaveSheet();
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
     EXPECT_EQ(TextOf("txtNoOfExtra"), "0");
@@ -513,9 +517,9 @@ TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
 
 TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     PutChoices("3", "2.00");
-    Pick({1, 2, 3});
+    Tick({1, 2, 3});
     RefuseToSave();
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_EQ(global.Wager, 0);
@@ -531,17 +535,23 @@ TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
 
 TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
     ShowKeno();
-    SeveralSheets(2, 2);
+    PutCount(2, 2);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Pick({1, 2});
+    Tick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     person.Tab();
-    SaveSheet(false);
+    SaveSheet();
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"1"});
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
-    ExpectCleanUp(Answer::Yes, "Cancelling before completion...");
+    person.Expect("Cancelling before completion...",
+                  "Since you've already saved some tickets, your database will be incorrect.\r\n"
+                  "Would you like to clean up your database?\r\n"
+                  "(NOTE: This will delete ALL records with the same Draw Date as indicated\r\n"
+                  "in the Draw Date box above.)",
+                  Answer::Yes, BoxStyle::YesNoCancel);
+    person.Expect("Database Cleaned", "Database cleaned!");
     Click("cmdCancel");
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedONTKeno"), Texts{"0"});
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"0"});
@@ -551,7 +561,7 @@ TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
 
 TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {
     ShowKeno();
-    OneSheet(1);
+    PutCount(1);
     Type("txtDollars", ".50");
     person.Expect("ERROR",
                   "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
@@ -563,14 +573,14 @@ TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {
 TEST_F(KenoWindow, TheEightyGridOpensAtTheCountWithoutBallsOrWager) {
     ShowKeno80();
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
-    OneSheet(1);
+    PutCount(1);
     EXPECT_TRUE(IsEnabled("chkNumb(79)"));
     EXPECT_EQ(TextOf("txtDollars"), "1.00");
 }
 
 TEST_F(KenoWindow, TheListsOfTheEightyAreOutOfTheFlow) {
     ShowKeno80();
-    OneSheet(1);
+    PutCount(1);
     Visit("cboWager");
     Visit("cboNoOfBallsPerTicket");
     EXPECT_EQ(TextOf("cboNoOfBallsPerTicket"), "");
@@ -579,34 +589,34 @@ TEST_F(KenoWindow, TheListsOfTheEightyAreOutOfTheFlow) {
 
 TEST_F(KenoWindow, AnEightyTicketHasTwentyNumbersOfWhichTenAreWritten) {
     ShowKeno80();
-    OneSheet(2);
-    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19});
+    PutCount(2);
+    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19});
     EXPECT_EQ(global.TicketNo, 0);
-    Pick({80});
+    Tick({80});
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Click("cmdNext_Ticket");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #2 - Sheet 1 of 1");
     EXPECT_EQ(Focus(), "chkNumb(0)");
-    Pick({61, 62, 63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
+    Tick({61, 62, 63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
-    SaveSheet(true);  // makes its table, which nothing has made before
+    SaveLastSheet();  // makes its table, which nothing has made before
     EXPECT_EQ(Rows("SELECT Ball_1, Ball_10, Wager, \"# of Balls\" FROM PlayedPrairieKeno ORDER BY ID1"),
               (Texts{"1|10|0|0", "61|70|0|0"}));
 }
 
 TEST_F(KenoWindow, NoLeavesTheEightyAsItIs) {
     ShowKeno80();
-    OneSheet(1);
-    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
+    PutCount(1);
+    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
     RefuseToSave();
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_EQ(Ticked().size(), 20U);
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_EQ(global.TicketsSaved, 0);
-    SaveSheet(true);
+    SaveLastSheet();
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedPrairieKeno"), Texts{"1"});
 }
 
