@@ -1,5 +1,6 @@
 #include "forms/TabStrip.h"
 
+#include <QEvent>
 #include <QTabBar>
 
 #include "forms/AccessKeys.h"
