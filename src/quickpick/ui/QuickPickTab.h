@@ -5,6 +5,11 @@
 
 #include "forms/ComboBox.h"
 #include "forms/CommandButton.h"
+#include "forms/Label.h"
+#include "forms/ListBox.h"
+#include "quickpick/ui/WheelControls.h"
+
+class QLayout;
 
 namespace sorvane {
 
@@ -14,13 +19,30 @@ class QuickPickTab {
   public:
     explicit QuickPickTab(GameWindow& window);
 
+    forms::Label lblDrawDate{"lblDrawDate", "Draw Date:"};
+    forms::Label lblNoOfTickets{"lblNoOfTickets", "Number of Tickets:"};
+    std::optional<forms::Label> lblNumOfBalls;  // keno windows, like the next one
+    std::optional<forms::ComboBox> cboNoOfQPs;  // tells nothing in frmKeno80: meant
+    std::optional<WheelControls> Wheel;         // not in the digit windows
+    forms::Label lblDisplay{"lblDisplay", "Number Display:"};
+    forms::ListBox lstDisplay{"lstDisplay"};
     forms::CommandButton cmdGenerate{"cmdGenerate", "&Generate Numbers"};
-    std::optional<forms::ComboBox> cboNoOfQPs;  // keno windows
+    forms::CommandButton cmdPrint{"cmdPrint", "&Print"};
+    forms::CommandButton cmdUse{"cmdUse", "&Use These #'s"};  // this and the next one do nothing
+    forms::CommandButton cmdHelp{"cmdHelp", "&Help"};
 
     // optWheelType(0) on, where the window has it: at load and at cancel.
     void ChooseHot();
 
   private:
+    void LayOut();
+    QLayout* HeadRow();
+    QLayout* ButtonColumn();
+    void OrderTabs();
+    void cmdGenerate_Click();
+    void cmdPrint_Click();
+    void cboNoOfQPs_LostFocus();
+
     GameWindow& window_;
 };
 

@@ -1,16 +1,123 @@
 #include "reports/ui/ReportsTab.h"
 
-#include <QVBoxLayout>
+#include <string>
+#include <vector>
 
 #include "entry/ui/GameWindow.h"
+#include "platform/Text.h"
+#include "reports/DigitReports.h"
+#include "reports/FrequencyReport.h"
+#include "reports/MoneyReport.h"
+#include "reports/PrintReport.h"
+#include "reports/ReportFacts.h"
+#include "reports/ui/Charts.h"
+#include "reports/ui/ReportLayout.h"
+#include "reports/ui/frmReportType.h"
+#include "shell/ui/Windows.h"
 
 namespace sorvane {
 
-ReportsTab::ReportsTab(GameWindow& window) : window_(window) {
-    auto* page = new QVBoxLayout(&window_.Pages[Tab::Reports]);
-    page->addWidget(&window_.cmdExit.Load(3, "E&xit"));
+ReportsTab::ReportsTab(GameWindow& window)
+    : cmdReport(ReportButton[window.Which], "Number &Frequency"), window_(window) {
+    window.cmdExit.Load(3, "E&xit");
+    cmdPrintReport.SetEnabled(false);
+    mscProfitLoss.SetVisible(false);
+    CaptionNumberChart();
+    ClearCharts();
+    cmdNumberFrequency.OnClick([this] { cmdNumberFrequency_Click(); });
+    cmdReport.OnClick([this] { cmdReport_Click(); });
+    cmdProfitLoss.OnClick([this] { cmdProfitLoss_Click(); });
+    cmdPLReport.OnClick([this] { cmdPLReport_Click(); });
+    cmdPrintReport.OnClick([this] { cmdPrintReport_Click(); });
+    LayOut();
 }
 
-void ReportsTab::ClearCharts() {}
+void ReportsTab::CaptionNumberChart() {
+    const Family family = window_.Which;
+    const auto series = ChartSeries[family];
+    mscNumberFrequency.SetTitle(ChartTitle[family]);
+    mscNumberFrequency.SetAxes(ChartAxis[family], FrequencyAxis);
+    mscNumberFrequency.SetRowCount(ChartRows[family]);
+    mscNumberFrequency.SetColumnCount(static_cast<int>(series.size()));
+    for (std::size_t i = series.size(); i-- > 0;) {
+        mscNumberFrequency.SetColumn(static_cast<int>(i) + 1);
+        mscNumberFrequency.SetColumnLabel(series[i]);
+    }
+    const int first = IsPick(family) ? 0 : 1;  // digits begin at 0
+    std::vector<std::string> labels;
+    for (int row = 0; row < ChartRows[family]; ++row) labels.push_back(Str(first + row));
+    mscNumberFrequency.SetRowLabels(labels);
+}
+
+void ReportsTab::LayOut() {
+    LayOutReports(window_.Pages[Tab::Reports], {&mscNumberFrequency, &mscProfitLoss, &txtReport},
+                  {{"Charts", "chart", {&cmdNumberFrequency, &cmdProfitLoss}},
+                   {"Reports", "report", {&cmdReport, &cmdPLReport, &cmdPrintReport}}},
+                  window_.cmdExit(3));
+}
+
+void ReportsTab::Show(const forms::Control& seen) {
+    for (forms::Control* control :
+         std::initializer_list<forms::Control*>{&mscNumberFrequency, &mscProfitLoss, &txtReport})
+        control->SetVisible(control == &seen);
+}
+
+void ReportsTab::ClearCharts() {
+    const Family family = window_.Which;
+    mscNumberFrequency.Clear();
+    EmptyMoneyChart(mscProfitLoss, {MoneyChartTitle[family], MoneyChartAxis[family], WonLegend[family]});
+}
+
+ReportArgs ReportsTab::Args() {
+    WindowState& state = window_.State;
+    return {window_.Which, state.DbName, state.TableName, state.mode};
+}
+
+void ReportsTab::cmdNumberFrequency_Click() {
+    cmdPrintReport.SetEnabled(false);
+    Show(mscNumberFrequency);
+    ChartCells cells(mscNumberFrequency);
+    if (IsPick(window_.Which)) ChartDigits(window_.run, Args(), cells);
+    else ChartFrequency(window_.run, Args(), cells);
+}
+
+void ReportsTab::cmdReport_Click() {
+    cmdPrintReport.SetEnabled(true);
+    if (!Tally[window_.Which]) return;  // keno 80 has no report
+    Show(txtReport);
+    Run& run = window_.run;
+    ChartCells cells(mscNumberFrequency);
+    const std::string caption = window_.Caption();
+    const auto askType = [&] {
+        frmReportType dialog(run);
+        window_.windows.ShowModal(dialog);
+    };
+    txtReport.Write([&](std::string& text) {
+        if (IsPick(window_.Which)) ReportDigits(run, Args(), cells, askType, caption, text);
+        else ReportFrequency(run, Args(), cells, caption, text);
+    });
+}
+
+void ReportsTab::cmdProfitLoss_Click() {
+    WindowState& state = window_.State;
+    Show(mscProfitLoss);
+    ChartCells cells(mscProfitLoss);
+    ChartMoney(window_.run, GameMoney, state.DbName, state.TableName, state.mode, cells);
+}
+
+void ReportsTab::cmdPLReport_Click() {
+    WindowState& state = window_.State;
+    cmdPrintReport.SetEnabled(true);
+    Show(txtReport);
+    ChartCells cells(mscProfitLoss);
+    txtReport.Write([&](std::string& text) {
+        ReportMoney(window_.run, GameMoney, state.DbName, state.TableName, state.mode, cells,
+                    window_.Caption(), text);
+    });
+}
+
+void ReportsTab::cmdPrintReport_Click() {
+    if (PrintsReport[window_.Which]) PrintReport(window_.run.services.printer, txtReport.Text());
+}
 
 }  // namespace sorvane

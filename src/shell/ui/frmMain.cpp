@@ -10,6 +10,7 @@
 #include "forms/BusyPointer.h"
 #include "forms/Look.h"
 #include "forms/Runtime.h"
+#include "reports/ui/frmReport.h"
 #include "shell/Dressing.h"
 #include "shell/SelectGame.h"
 #include "shell/ui/Dress.h"
@@ -88,6 +89,10 @@ std::function<void()> frmMain::HandlerOf(const MenuEntry& entry) {
         case MenuAction::About:
             return shows([this] { return std::make_unique<frmAbout>(run_); });
         case MenuAction::Report:
+            return shows([this] {
+                run_.global.LottoFlag.clear();  // all lotteries
+                return std::make_unique<frmReport>(run_);
+            });
         case MenuAction::Menu:
         case MenuAction::Dead:
             break;

@@ -1,0 +1,40 @@
+#include "reports/ui/ReportBox.h"
+
+#include <QScrollBar>
+#include <exception>
+
+namespace sorvane {
+
+namespace {
+// The head line with the longest title of a window.
+constexpr int Columns = 80;
+constexpr int LeastLines = 16;
+}  // namespace
+
+ReportBox::ReportBox(std::string_view name) : MultiLineBox(name) {
+    SetReadOnly(true);
+    SetFixedPitch();
+    SetAccessibleName("Report");
+    SetVisible(false);
+    const QFontMetrics metrics = fontMetrics();
+    const int frame = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    setMinimumSize(metrics.horizontalAdvance(QString(Columns, QLatin1Char('0'))) + frame +
+                       verticalScrollBar()->sizeHint().width(),
+                   metrics.lineSpacing() * LeastLines + frame);
+}
+
+void ReportBox::Write(const std::function<void(std::string& text)>& write) {
+    const std::string before = Text();
+    std::string text = before;
+    std::exception_ptr failure;
+    try {
+        write(text);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    // The same text again would scroll back to the top.
+    if (text != before) SetText(text);
+    if (failure) std::rethrow_exception(failure);
+}
+
+}  // namespace sorvane

@@ -1,0 +1,49 @@
+#include "reports/ui/frmReport.h"
+
+#include "reports/MoneyReport.h"
+#include "reports/ReportFacts.h"
+#include "reports/ui/Charts.h"
+#include "reports/ui/ReportLayout.h"
+#include "store/StoreRoutine.h"
+
+namespace sorvane {
+
+frmReport::frmReport(Run& run) : Window("frmReport"), run_(run) {
+    SetCaption(AllCaption);
+    SetCloseButton(cmdExit);
+    cmdProfitLoss.OnClick([this] { cmdProfitLoss_Click(); });
+    cmdPLReport.OnClick([this] { cmdPLReport_Click(); });
+    cmdExit.OnClick([this] { Unload(); });
+    LayOut();
+    Form_Load();
+}
+
+void frmReport::LayOut() {
+    LayOutReports(*this, {&mscProfitLoss, &txtReport},
+                  {{"Charts", "chart", {&cmdProfitLoss}}, {"Reports", "report", {&cmdPLReport}}}, cmdExit);
+}
+
+void frmReport::Form_Load() {
+    DbName_ = DatabasePath(run_.global.AppPath);
+    mscProfitLoss.SetVisible(true);
+    txtReport.SetVisible(false);
+    EmptyMoneyChart(mscProfitLoss, {AllMoneyChartTitle, "", AllWonLegend});
+}
+
+void frmReport::cmdProfitLoss_Click() {
+    txtReport.SetVisible(false);
+    mscProfitLoss.SetVisible(true);
+    ChartCells cells(mscProfitLoss);
+    ChartMoney(run_, AllGamesMoney, DbName_, TableName_, mode_, cells);
+}
+
+void frmReport::cmdPLReport_Click() {
+    mscProfitLoss.SetVisible(false);
+    txtReport.SetVisible(true);
+    ChartCells cells(mscProfitLoss);
+    txtReport.Write([&](std::string& text) {
+        ReportMoney(run_, AllGamesMoney, DbName_, TableName_, mode_, cells, Caption(), text);
+    });
+}
+
+}  // namespace sorvane

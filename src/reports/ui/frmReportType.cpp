@@ -1,0 +1,46 @@
+#include "reports/ui/frmReportType.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "forms/Look.h"
+#include "reports/ReportTypes.h"
+
+namespace sorvane {
+
+frmReportType::frmReportType(Run& run) : Window("frmReportType") {
+    SetCaption("Type of Report");
+    SetCloseButton(cmdCancel);
+    SetEscapeButton(cmdCancel);
+    for (std::size_t i = 0; i < ReportTypes::All.size(); ++i)
+        optReportType.Load(static_cast<int>(i), ReportTypes::All[i]);
+    optReportType.OnClick(
+        [&run](int Index) { run.global.ReportType = ReportTypes::All[static_cast<std::size_t>(Index)]; });
+    cmdOK.OnClick([this] { Unload(); });
+    cmdCancel.OnClick([this, &run] {
+        run.global.ReportType.clear();
+        Unload();
+    });
+    SetFirstFocus(optReportType(0));
+    LayOut();
+    // Four digits have no triples.
+    if (run.global.LottoFlag == "FLAPlay4") optReportType(1).SetVisible(false);
+}
+
+void frmReportType::LayOut() {
+    const int gap = forms::Look::Gap(*this), margin = forms::Look::Margin(*this);
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(margin, margin, margin, margin);
+    whole->setSpacing(forms::Look::Space(*this));
+    optReportType.ForEach([&](forms::OptionButton& option, int) { whole->addWidget(&option); });
+    whole->addSpacing(gap);
+    whole->addStretch(1);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(forms::Look::Space(*this));
+    buttons->addStretch(1);
+    buttons->addWidget(&cmdOK);
+    buttons->addWidget(&cmdCancel);
+    whole->addLayout(buttons);
+}
+
+}  // namespace sorvane
