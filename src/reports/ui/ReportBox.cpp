@@ -8,7 +8,7 @@ namespace sorvane {
 namespace {
 // The head line with the longest title of a window.
 constexpr int Columns = 80;
-constexpr int LeastLines = 16;
+constexpr int LeastLines = 16, ComfortableLines = 28;
 }  // namespace
 
 ReportBox::ReportBox(std::string_view name) : MultiLineBox(name) {
@@ -16,12 +16,18 @@ ReportBox::ReportBox(std::string_view name) : MultiLineBox(name) {
     SetFixedPitch();
     SetAccessibleName("Report");
     SetVisible(false);
+    setMinimumSize(SizeFor(LeastLines));
+}
+
+QSize ReportBox::SizeFor(int lines) const {
     const QFontMetrics metrics = fontMetrics();
     const int frame = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
-    setMinimumSize(metrics.horizontalAdvance(QString(Columns, QLatin1Char('0'))) + frame +
-                       verticalScrollBar()->sizeHint().width(),
-                   metrics.lineSpacing() * LeastLines + frame);
+    return {metrics.horizontalAdvance(QString(Columns, QLatin1Char('0'))) + frame +
+                verticalScrollBar()->sizeHint().width(),
+            metrics.lineSpacing() * lines + frame};
 }
+
+QSize ReportBox::sizeHint() const { return SizeFor(ComfortableLines); }
 
 void ReportBox::Write(const std::function<void(std::string& text)>& write) {
     const std::string before = Text();

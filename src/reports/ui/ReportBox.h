@@ -17,6 +17,12 @@ class ReportBox final : public forms::MultiLineBox {
     // Runs `write` on a copy of the text and shows what came of it, once; also when `write` raises, which
     // then goes on to the caller.
     void Write(const std::function<void(std::string& text)>& write);
+
+    QSize sizeHint() const override;
+
+  private:
+    // Room for the longest line and so many lines.
+    QSize SizeFor(int lines) const;
 };
 
 }  // namespace sorvane
