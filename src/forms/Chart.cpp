@@ -1,10 +1,12 @@
 #include "forms/Chart.h"
 
+#include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
-#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
+#include <QGraphicsLayout>
+#include <QGraphicsSimpleTextItem>
 #include <QLegend>
 #include <QToolTip>
 #include <QVBoxLayout>
@@ -21,6 +23,58 @@
 namespace sorvane::forms {
 
 namespace {
+
+// With more bars than this there is no room for the labels side by side: they stand on two or three lines in
+// turn.
+constexpr int MostLevelLabels = 20, MostOnTwoLines = 50;
+
+// The labels of many bars and the caption below them, which the axis itself would cut off. They move with the
+// chart, and the labels shrink with it.
+class StaggeredLabels {
+  public:
+    StaggeredLabels(QChart& chart, const QStringList& labels, const QString& caption, const QFont& font,
+                    const QColor& ink)
+        : font_(font), lines_(labels.size() > MostOnTwoLines ? 3 : 2) {
+        const QFontMetricsF metrics(font);
+        height_ = metrics.height();
+        for (const QString& label : labels) {
+            labels_.push_back(NewText(chart, label, ink));
+            widest_ = std::max(widest_, metrics.horizontalAdvance(label));
+        }
+        caption_ = NewText(chart, caption, ink);
+    }
+    // How many lines of text stand below the plot.
+    int Lines() const { return lines_ + 1; }
+    void Place(const QRectF& plot) const {
+        const double step = plot.width() / static_cast<double>(labels_.size());
+        QFont font = font_;
+        if (const double room = step * lines_ * 0.85; widest_ > room)
+            font.setPointSizeF(std::max(1.0, font_.pointSizeF() * room / widest_));
+        for (std::size_t i = 0; i < labels_.size(); ++i) {
+            labels_[i]->setFont(font);
+            Put(*labels_[i], plot.left() + step * (static_cast<double>(i) + 0.5),
+                plot.bottom() + height_ * (static_cast<int>(i) % lines_ + 0.2));
+        }
+        Put(*caption_, plot.center().x(), plot.bottom() + height_ * (lines_ + 0.4));
+    }
+
+  private:
+    QGraphicsSimpleTextItem* NewText(QChart& chart, const QString& text, const QColor& ink) const {
+        auto* item = new QGraphicsSimpleTextItem(text, &chart);
+        item->setFont(font_);
+        item->setBrush(ink);
+        return item;
+    }
+    static void Put(QGraphicsSimpleTextItem& item, double centre, double top) {
+        item.setPos(centre - item.boundingRect().width() / 2, top);
+    }
+
+    QFont font_;
+    int lines_;
+    std::vector<QGraphicsSimpleTextItem*> labels_;
+    QGraphicsSimpleTextItem* caption_;
+    double widest_ = 0, height_;
+};
 
 std::string ValueText(double value) {
     const auto amount = Currency::FromTenThousandths(std::llround(value * Currency::Scale));
@@ -157,22 +211,6 @@ std::string Chart::RowLabel(std::size_t row) const {
     return std::to_string(row + 1);
 }
 
-// Where there is no room for every label, every second, fifth or tenth bar has one.
-int Chart::LabelStep() const {
-    int widest = 0;
-    for (std::size_t row = 0; row < rowLabels_.size(); ++row)
-        widest = std::max(widest, fontMetrics().horizontalAdvance(ToQt(RowLabel(row))));
-    const double room = width() * 0.9 / std::max(1, RowCount());
-    for (const int step : {1, 2, 5})
-        if (room * step > widest + fontMetrics().horizontalAdvance(QLatin1Char(' '))) return step;
-    return 10;
-}
-
-void Chart::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    if (LabelStep() != drawnStep_) Changed();
-}
-
 void Chart::Draw() {
     if (!view_) {
         view_ = new QChartView(this);
@@ -183,9 +221,9 @@ void Chart::Draw() {
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(view_);
     }
+    view_->setBackgroundBrush(palette().color(QPalette::Base));
     const std::unique_ptr<QChart> old(view_->chart());
     view_->setChart(NewChart());
-    drawnStep_ = LabelStep();
     stale_ = false;
 }
 
@@ -196,6 +234,7 @@ QChart* Chart::NewChart() {
     heading.setBold(true);
     chart->setBackgroundBrush(paper);
     chart->setBackgroundRoundness(0);
+    chart->layout()->setContentsMargins(0, 0, 0, 0);
     chart->setTitle(ToQt(title_));
     chart->setTitleFont(heading);
     chart->setTitleBrush(ink);
@@ -230,12 +269,17 @@ QAbstractBarSeries* Chart::NewSeries() {
 }
 
 void Chart::AddAxes(QChart& chart, const QColor& ink) const {
-    auto* bars = new QCategoryAxis;
-    bars->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
-    bars->setRange(-0.5, RowCount() - 0.5);
-    for (int row = LabelStep() - 1; row < RowCount(); row += LabelStep())
-        bars->append(ToQt(RowLabel(static_cast<std::size_t>(row))), row);
+    auto* bars = new QBarCategoryAxis;
+    for (std::size_t row = 0; row < rowLabels_.size(); ++row) bars->append(ToQt(RowLabel(row)));
     bars->setTitleText(ToQt(barsCaption_));
+    QFont barsFont = font();
+    if (RowCount() > MostLevelLabels) {
+        const StaggeredLabels labels(chart, bars->categories(), bars->titleText(), font(), ink);
+        connect(&chart, &QChart::plotAreaChanged, this, [labels](const QRectF& plot) { labels.Place(plot); });
+        // The axis keeps their place by an unseen caption as high as they are together.
+        bars->setLabelsVisible(false);
+        barsFont.setPointSizeF(barsFont.pointSizeF() * labels.Lines());
+    }
     bars->setGridLineVisible(false);
 
     double largest = 1;
@@ -258,8 +302,8 @@ void Chart::AddAxes(QChart& chart, const QColor& ink) const {
          {std::pair<QAbstractAxis*, Qt::AlignmentFlag>{bars, Qt::AlignBottom}, {values, Qt::AlignLeft}}) {
         axis->setLabelsColor(ink);
         axis->setLabelsFont(font());
-        axis->setTitleFont(font());
-        axis->setTitleBrush(ink);
+        axis->setTitleFont(axis == bars ? barsFont : font());
+        axis->setTitleBrush(axis == bars && !bars->labelsVisible() ? Qt::transparent : ink);
         axis->setLinePenColor(ink);
         axis->setGridLineColor(grid);
         chart.addAxis(axis, side);

@@ -59,7 +59,6 @@ class Chart : public QWidget, public Control {
   protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
   private:
     struct Series {
@@ -69,7 +68,6 @@ class Chart : public QWidget, public Control {
     Series& InHand();
     double& Cell();
     std::string RowLabel(std::size_t row) const;  // from 0
-    int LabelStep() const;
     void Changed();
     void Draw();
     QChart* NewChart();
@@ -82,7 +80,6 @@ class Chart : public QWidget, public Control {
     int row_ = 1, column_ = 1;
     bool stale_ = true;     // what is drawn, if anything, is not what the cells say
     bool waiting_ = false;  // drawing will come once the handlers are done
-    int drawnStep_ = 0;
     QChartView* view_ = nullptr;
 };
 
