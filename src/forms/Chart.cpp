@@ -1,8 +1,8 @@
 #include "forms/Chart.h"
 
-#include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
 #include <QGraphicsLayout>
@@ -269,12 +269,15 @@ QAbstractBarSeries* Chart::NewSeries() {
 }
 
 void Chart::AddAxes(QChart& chart, const QColor& ink) const {
-    auto* bars = new QBarCategoryAxis;
-    for (std::size_t row = 0; row < rowLabels_.size(); ++row) bars->append(ToQt(RowLabel(row)));
+    auto* bars = new QCategoryAxis;
+    bars->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    bars->setRange(-0.5, RowCount() - 0.5);
+    for (int row = 0; row < RowCount(); ++row)
+        bars->append(ToQt(RowLabel(static_cast<std::size_t>(row))), row);
     bars->setTitleText(ToQt(barsCaption_));
     QFont barsFont = font();
     if (RowCount() > MostLevelLabels) {
-        const StaggeredLabels labels(chart, bars->categories(), bars->titleText(), font(), ink);
+        const StaggeredLabels labels(chart, bars->categoriesLabels(), bars->titleText(), font(), ink);
         connect(&chart, &QChart::plotAreaChanged, this, [labels](const QRectF& plot) { labels.Place(plot); });
         // The axis keeps their place by an unseen caption as high as they are together.
         bars->setLabelsVisible(false);

@@ -7,8 +7,10 @@
 #include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
+#include <QGraphicsSimpleTextItem>
 #include <QGridLayout>
 #include <QToolTip>
+#include <set>
 
 #include "Fixture.h"
 #include "forms/Chart.h"
@@ -242,17 +244,28 @@ TEST_F(Bars, RowsBearTheirNumbersOrTheirLabels) {
     EXPECT_EQ("Numbers Drawn", Axis().titleText().toStdString());
 }
 
-TEST_F(Bars, FortyNineBarsAreAllLabelledAndEightyEverySecond) {
-    chart.SetRowCount(49);
-    Open(window);
-    EXPECT_EQ(49, Axis().categoriesLabels().size());
-    chart.SetRowCount(80);
-    Person::Settle();
-    EXPECT_EQ(40, Axis().categoriesLabels().size());
-    EXPECT_EQ("80", Axis().categoriesLabels().last().toStdString());
-    window.resize(500, 400);
-    Person::Settle();
-    EXPECT_EQ(16, Axis().categoriesLabels().size());
+TEST_F(Bars, ManyBarsAreAllLabelledAndNoLabelLiesOnAnother) {
+    for (const int rows : {45, 49, 70, 80})
+        for (const int width : {600, 1300}) {
+            chart.SetRowCount(rows);
+            window.resize(width, 400);
+            Open(window);
+            Person::Settle();
+            std::vector<std::pair<std::string, QRectF>> labels;
+            for (const QGraphicsItem* item : View()->scene()->items())
+                if (const auto* text = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(item))
+                    labels.emplace_back(text->text().toStdString(),
+                                        text->sceneBoundingRect().adjusted(0, 1, 0, -1));
+            std::set<std::string> seen;
+            for (const auto& [text, place] : labels) {
+                seen.insert(text);
+                EXPECT_TRUE(View()->sceneRect().contains(place)) << text;
+                for (const auto& [other, otherPlace] : labels)
+                    EXPECT_TRUE(text == other || !place.intersects(otherPlace)) << text << " and " << other;
+            }
+            EXPECT_TRUE(seen.contains("Numbers Drawn"));
+            for (int row = 1; row <= rows; ++row) EXPECT_TRUE(seen.contains(std::to_string(row))) << row;
+        }
 }
 
 TEST_F(Bars, HoveringABarShowsItsValue) {
