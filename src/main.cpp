@@ -3,6 +3,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QTimer>
+#include <chrono>
 
 #include "forms/Application.h"
 #include "forms/MessageBoxes.h"
@@ -36,10 +37,12 @@ int main(int, char** argv) {
     Windows windows(run);
 
     const std::string folder = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
-    frmMain window(run, windows, folder, [] { QCoreApplication::quit(); });
+    frmMain window(run, windows, folder, [] { QCoreApplication::exit(); });
     window.Load();
     window.Show();
-    // The icon is drawn once the window stands.
-    QTimer::singleShot(0, &window, [] { QGuiApplication::setWindowIcon(QIcon(":/pictures/icon.svg")); });
+    // Drawing the icon can wait until the window is on the screen.
+    constexpr std::chrono::milliseconds Painted{100};
+    QTimer::singleShot(Painted, &window,
+                       [] { QGuiApplication::setWindowIcon(QIcon(":/pictures/icon.svg")); });
     return QCoreApplication::exec();
 }

@@ -230,7 +230,7 @@ class Ending : public Started {
         Global global;
         sorvane::Run run{global, services};
         Windows windows{run};
-        frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::quit(); });
+        frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
         main.Load();
         main.Show();
         QTimer::singleShot(0, &main, [&] { act(main); });
