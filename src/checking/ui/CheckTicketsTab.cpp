@@ -22,8 +22,8 @@ using namespace CheckFacts;
 constexpr int BoxesARow = 10;
 constexpr int FourBoxes = 4;
 
-void RefuseAndKeep(forms::KeyPress& key) {
-    forms::Window::MsgBox(KeyText, BoxStyle::Exclamation, KeyTitle);
+void RefuseAndKeep(forms::KeyPress& key, int style) {
+    forms::Window::MsgBox(KeyText, style, KeyTitle);
     key.Swallow();
 }
 
@@ -37,6 +37,13 @@ void GuardRange(forms::TextBox& box, int top, std::string_view text) {
     forms::Window::MsgBox(text, BoxStyle::Exclamation, RangeTitle);
     box.SetText("");
     box.SetFocus();
+}
+
+// Selects the row that a verdict belongs to; one that the list lacks leads nowhere.
+void Follow(forms::ListBox& to, int row, forms::ListBox& other) {
+    if (row >= to.ListCount()) return;
+    to.SetListIndex(row);
+    other.ClearSelection();
 }
 
 bool IsWinner(std::string_view line) {
@@ -447,13 +454,13 @@ void CheckTicketsTab::txtWin4_KeyPress(int Index, forms::KeyPress& key) {
         return;
     }
     if (RefusalEmptiesFour[window_.Which]) RefuseKey(txtWin4(Index), key);
-    else RefuseAndKeep(key);
+    else RefuseAndKeep(key, BoxStyle::Exclamation);
 }
 
 void CheckTicketsTab::txtWinEncore_KeyPress(forms::KeyPress& key) {
     // Backspace, too, moves on: meant.
     if (key.KeyAscii == Backspace || key.KeyAscii == sorvane::EnterKey) cmdCheck.SetFocus();
-    else if (!IsDigit(key.KeyAscii)) RefuseAndKeep(key);
+    else if (!IsDigit(key.KeyAscii)) RefuseAndKeep(key, BoxStyle::Exclamation);
 }
 
 void CheckTicketsTab::txtWinEncore_LostFocus() {
@@ -469,7 +476,7 @@ void CheckTicketsTab::txtWinEncore_LostFocus() {
 
 void CheckTicketsTab::txtDollarsWon_KeyPress(forms::KeyPress& key) {
     const int k = key.KeyAscii;
-    if (!IsRowKey(k) && k != ',' && k != '.' && k != sorvane::EnterKey) RefuseAndKeep(key);
+    if (!IsRowKey(k) && k != ',' && k != '.' && k != sorvane::EnterKey) RefuseAndKeep(key, BoxStyle::Ok);
 }
 
 void CheckTicketsTab::chkStatUpdate_Click() {
@@ -489,13 +496,8 @@ void CheckTicketsTab::chkStatUpdate_Click() {
 void CheckTicketsTab::lstMessage_DblClick() {
     const int row = lstMessage.ListIndex();
     const int split = window_.State.TicketRows;
-    if (row < split) {
-        lstNumbersPlayed.SetListIndex(row);
-        lstEncorePlayed->ClearSelection();
-    } else {
-        lstEncorePlayed->SetListIndex(row - split);
-        lstNumbersPlayed.ClearSelection();
-    }
+    if (row < split) Follow(lstNumbersPlayed, row, *lstEncorePlayed);
+    else Follow(*lstEncorePlayed, row - split, lstNumbersPlayed);
 }
 
 void CheckTicketsTab::lstNumbersPlayed_Click() {
