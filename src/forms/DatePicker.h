@@ -22,10 +22,8 @@ class DatePicker : public QDateEdit, public Control {
 
   protected:
     // Tab leaves the control at once; the arrows go from year to month to day.
-    bool focusNextPrevChild(bool next) override {
-        return QWidget::focusNextPrevChild(
-            next);  // NOLINT(bugprone-parent-virtual-call): past the date fields
-    }
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
