@@ -212,6 +212,7 @@ void WheelControls::txtFavs_LostFocus(int Index) {
         forms::Window::MsgBox("Number cannot be greater than " + Str(limit) +
                                   ". Please enter a new number less than or equal to " + Str(limit) + ".",
                               BoxStyle::Ok, "Number Too High!");
+        box.SelectAll();
         box.SetFocus();
         return;
     }
