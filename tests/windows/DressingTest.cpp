@@ -97,6 +97,7 @@ class LottoDressing : public Dressing, public ::testing::WithParamInterface<Lott
     void ExpectRow(const LottoRow& row) {
         ExpectVisible(row.counted, {"lblNoOfExtra", "txtNoOfExtra"});
         ExpectCaption("lblNoOfExtra", row.countCaption);
+        ExpectCaption("lblExtra", row.countCaption == Encore ? "Encore Numbers" : "Extra Numbers:");
         ExpectVisible(row.check, {"chkEncore"});
         EXPECT_EQ(The("chkEncore").Enabled(), row.checkEnabled);
         ExpectCaption("chkEncore", row.checkCaption);
