@@ -1,6 +1,9 @@
 #include "forms/MessageBoxes.h"
 
+#include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
+#include <algorithm>
 
 #include "forms/Runtime.h"
 #include "forms/Utf8.h"
@@ -46,6 +49,14 @@ Answer AnswerOf(int button) {
     }
 }
 
+// The lines of a text are broken where it says so, as long as the screen has room; Qt would break them sooner.
+void KeepLinesWhole(const QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    if (!label) return;
+    const int room = box.screen()->availableSize().width() * 2 / 3;
+    label->setMinimumWidth(std::min(label->sizeHint().width(), room));
+}
+
 }  // namespace
 
 Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view title) {
@@ -54,6 +65,7 @@ Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view t
     // A carriage return would be a line break of its own on the screen.
     QMessageBox box(IconOf(style), ToQt(title), ToQt(text).replace("\r\n", "\n"), ButtonsOf(style), owner);
     box.setTextFormat(Qt::PlainText);
+    KeepLinesWhole(box);
     for (const auto way : {QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::No})
         if (auto* button = box.button(way)) {
             box.setEscapeButton(button);

@@ -2,6 +2,7 @@
 #include "forms/Window.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTest>
 #include <QWindow>
@@ -290,6 +291,16 @@ TEST(MessageBox, TextIsPlainAndItsLineBreaksAreOneLineEach) {
         EXPECT_EQ("<b>one</b>\n\ntwo ", box->text().toStdString());
     });
     MessageBoxes().MsgBox("<b>one</b>\r\n\r\ntwo ");
+}
+
+TEST(MessageBox, LinesStayWholeWhereTheScreenHasRoom) {
+    constexpr std::string_view line = "Since you've already saved some tickets, your database is incorrect.";
+    Person person;
+    person.Expect("Sorvane", line, Answer::Ok, BoxStyle::Ok, [] {
+        const auto& label = Person::FindIn<QLabel>(*QApplication::activeModalWidget(), "qt_msgbox_label");
+        EXPECT_LT(label.heightForWidth(label.width()), 2 * label.fontMetrics().lineSpacing());
+    });
+    MessageBoxes().MsgBox(line);
 }
 
 TEST(BusyPointer, IsShownAtOnceForWorkKnownToBeLong) {
