@@ -196,7 +196,7 @@ QLayout* CheckTicketsTab::ListsRow() {
         lists->addWidget(&list, 1, column);
         lists->setColumnStretch(column++, share);
     };
-    add(lblNumbersPlayed, lstNumbersPlayed, 3);
+    add(lblNumbersPlayed, lstNumbersPlayed, IsKeno(window_.Which) ? 4 : 3);  // ten numbers stand in a row
     if (lstEncorePlayed) add(*lblEncorePlayed, *lstEncorePlayed, 2);
     add(lblMessage, lstMessage, 5);
     return lists;
