@@ -1,33 +1,8 @@
-// The main of tests with windows: the same on every machine.
+// The main of tests with windows.
 #include <gtest/gtest.h>
 
-#include <QFont>
-#include <QLocale>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <cstdio>
-
 #include "forms/Application.h"
-
-namespace {
-
-// Nothing moves by itself.
-class StillStyle : public QProxyStyle {
-  public:
-    StillStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-        return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
-    }
-};
-
-// What the platform without a screen can't do needs no line for each window.
-void Report(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    if (!text.startsWith("This plugin does not support"))
-        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
-}
-
-}  // namespace
+#include "support/Stage.h"
 
 // Under a real screen the bus library keeps a buffer until the process ends.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
@@ -35,14 +10,8 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1"; 
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    qInstallMessageHandler(Report);
-    qputenv("TZ", "America/Toronto");
-    qputenv("QT_QPA_PLATFORMTHEME", "");
-    QLocale::setDefault(QLocale::c());
+    sorvane::test::PrepareStage();
     sorvane::forms::Application application(argc, argv);
-    QApplication::setStyle(new StillStyle);
-    QApplication::setFont(QFont("DejaVu Sans", 10));
-    QApplication::setCursorFlashTime(0);
+    sorvane::test::SetStage();
     return RUN_ALL_TESTS();
 }

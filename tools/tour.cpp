@@ -1,0 +1,104 @@
+// The guided tour: the program's own windows, used by real events through one evening of a player.
+//     tour [FOLDER] [--out FOLDER] [--dark] [--scale PERCENT]
+#include <gtest/gtest.h>
+
+#include <QPalette>
+#include <charconv>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/Application.h"
+#include "support/Stage.h"
+#include "tour/Evening.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Options {
+    fs::path out = "tour-out";
+    bool dark = false;
+    int scale = 100;  // per cent
+};
+
+std::optional<Options> Read(int argc, char** argv) {
+    Options options;
+    for (int i = 1; i < argc; ++i) {
+        const std::string_view word = argv[i];
+        const bool last = i + 1 == argc;
+        if (word == "--dark") {
+            options.dark = true;
+        } else if (word == "--out" && !last) {
+            options.out = argv[++i];
+        } else if (word == "--scale" && !last) {
+            const std::string_view number = argv[++i];
+            const auto read = std::from_chars(number.data(), number.data() + number.size(), options.scale);
+            if (read.ec != std::errc() || read.ptr != number.data() + number.size()) return std::nullopt;
+            if (options.scale < 50 || options.scale > 400) return std::nullopt;
+        } else if (word.empty() || word.front() == '-') {
+            return std::nullopt;
+        } else {
+            options.out = word;
+        }
+    }
+    return options;
+}
+
+// Without a display: a screen of 1366 x 768 at this scale.
+void ImagineScreen(const Options& options) {
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale / 100.0));
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY") ||
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY"))
+        return;
+    fs::create_directories(options.out);
+    const fs::path screen = fs::absolute(options.out) / "screen.json";
+    std::ofstream(screen) << R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": )"
+                          << 1366 * options.scale / 100 << R"(, "height": )" << 768 * options.scale / 100
+                          << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(screen.string()));
+}
+
+void Darken() {
+    QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
+    palette.setColor(QPalette::Link, QColor(120, 180, 255));
+    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+}
+
+void Play(const fs::path& out) {
+    sorvane::tour::Evening evening(out);
+    evening.Play();
+    const sorvane::tour::Album& album = evening.Pictures();
+    std::printf("%d pictures and %d printed pages are in %s\n", album.Pictures(), album.Pages(),
+                out.string().c_str());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::optional<Options> options = Read(argc, argv);
+    if (!options) {
+        std::fprintf(stderr, "usage: tour [FOLDER] [--out FOLDER] [--dark] [--scale 50...400]\n");
+        return 2;
+    }
+    testing::InitGoogleTest();
+    ImagineScreen(*options);
+    sorvane::test::PrepareStage();
+    int arguments = 1;
+    sorvane::forms::Application application(arguments, argv);
+    sorvane::test::SetStage();
+    if (options->dark) Darken();
+    try {
+        Play(options->out);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "The tour broke off: %s\n", failure.what());
+        return 1;
+    }
+    return testing::UnitTest::GetInstance()->Failed() ? 1 : 0;
+}
