@@ -64,7 +64,9 @@ void ImagineScreen(const Options& options) {
 }
 
 void Darken() {
-    QPalette palette(QColor(53, 53, 53), QColor(42, 42, 42));
+    QPalette palette(QColor(58, 58, 58), QColor(45, 45, 45));
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(45, 45, 45));
     palette.setColor(QPalette::Link, QColor(120, 180, 255));
     palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
     palette.setColor(QPalette::HighlightedText, Qt::white);

@@ -41,9 +41,10 @@ QWidget* WindowBehind(const QWidget& window) {
     return nullptr;
 }
 
+// Whether enough of it is to be seen.
 bool IsLarger(const QWidget* behind, const QWidget& front) {
-    return behind && behind->isVisible() && behind->width() > front.width() &&
-           behind->height() > front.height();
+    return behind && behind->isVisible() && behind->width() * 6 > front.width() * 7 &&
+           behind->height() * 6 > front.height() * 7;
 }
 
 // From the bottom to the top.
@@ -83,9 +84,9 @@ void Paint(QPainter& painter, const Part& part) {
         QFont font = part.window->font();
         font.setBold(true);
         painter.setFont(font);
-        painter.drawText(bar, Qt::AlignCenter, part.window->windowTitle());
-        painter.drawText(bar.adjusted(0, 0, -height / 3, 0), Qt::AlignRight | Qt::AlignVCenter,
-                         QStringLiteral("\u00d7"));
+        const QRect text = bar.adjusted(height / 3, 0, -height / 3, 0);
+        painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, part.window->windowTitle());
+        painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("\u00d7"));
     }
     painter.drawPixmap(part.at.topLeft(), part.window->grab());
 }

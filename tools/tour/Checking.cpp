@@ -79,8 +79,7 @@ void Evening::CheckLottario() {
 void Evening::CheckKeno() {
     Visit("mnuCANONTKENO", "frmKeno70", [this] {
         person.ClickTab("&Check");
-        TypeDraw("txtWin20", {{1,  3,  7,  11, 14, 19, 20, 23, 28, 30,
-                               35, 37, 42, 45, 50, 52, 58, 64, 66, 69},
+        TypeDraw("txtWin20", {{1, 3, 7, 11, 14, 19, 20, 23, 28, 30, 35, 37, 42, 45, 50, 52, 58, 64, 66, 69},
                               {},
                               SaturdaysEncore});
         Click("cmdCheck");

@@ -1,9 +1,9 @@
 // One evening of a player: the tour's story, told by real events on the real windows.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <filesystem>
-#include <algorithm>
 #include <functional>
 #include <initializer_list>
 #include <string>

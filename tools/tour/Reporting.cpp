@@ -135,13 +135,13 @@ void Evening::SmallWindows() {
         Click("cmdOk");
     });
     Visit("mnuOTHERRequest", "frmRequestNewLottery", [this] {
-        for (const auto& [field, text] : std::initializer_list<std::pair<const char*, const char*>>{
-                 {"txtNameOfLottery", "Viking Lotto"},
-                 {"txtCountry", "Norway"},
-                 {"txtNumberOfNumbers", "6"},
-                 {"txtLow", "1"},
-                 {"txtHigh", "48"},
-                 {"txtCostPerTicket", "5"}})
+        for (const auto& [field, text] :
+             std::initializer_list<std::pair<const char*, const char*>>{{"txtNameOfLottery", "Viking Lotto"},
+                                                                        {"txtCountry", "Norway"},
+                                                                        {"txtNumberOfNumbers", "6"},
+                                                                        {"txtLow", "1"},
+                                                                        {"txtHigh", "48"},
+                                                                        {"txtCostPerTicket", "5"}})
             Type(field, text);
         person.Type(*person.Find<QPlainTextEdit>("txtAdditionalInfo").viewport(),
                     "Drawn on Wednesdays, together with the neighbours.");
