@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "DaoWorld.h"
+#include "support/NoSuperuser.h"
 
 namespace sorvane::Dao {
 namespace {
@@ -19,25 +20,6 @@ class ForeignFiles : public DaoWorld {
         bytes << std::ifstream(path_, std::ios::binary).rdbuf();
         return bytes.str();
     }
-};
-
-// Rights of the file count for nothing with the superuser: for the time of a test it is somebody else.
-class NoSuperuser {
-  public:
-    NoSuperuser() : was_(geteuid()) {
-        constexpr uid_t Nobody = 65534;
-        if (was_ == 0) changed_ = seteuid(Nobody) == 0;
-    }
-    NoSuperuser(const NoSuperuser&) = delete;
-    NoSuperuser& operator=(const NoSuperuser&) = delete;
-    ~NoSuperuser() {
-        if (!changed_) return;
-        EXPECT_EQ(seteuid(was_), 0);
-    }
-
-  private:
-    uid_t was_;
-    bool changed_ = false;
 };
 
 TEST_F(ForeignFiles, AFileThatIsNotThere) {
