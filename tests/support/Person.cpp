@@ -221,6 +221,12 @@ void Person::ExpectWindow(std::string_view name, std::function<void(QWidget&)> a
     awaited_.push_back(std::move(event));
 }
 
+void Person::Bear(std::string_view title, std::string_view text, std::function<void()> seen) {
+    Expect(title, text, Answer::Ok, BoxStyle::Stop, std::move(seen));
+    borne_.push_back(std::move(awaited_.back()));
+    awaited_.pop_back();
+}
+
 bool Person::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::Show || !receiver->isWidgetType()) return false;
     auto* window = static_cast<QWidget*>(receiver);
@@ -241,11 +247,22 @@ void Person::Appeared(QWidget& modal) {
         QTest::mouseRelease(modal.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
     Await(modal);
     auto* box = qobject_cast<QMessageBox*>(&modal);
+    if (box && IsBorne(*box)) return;
     if (awaited_.empty() || awaited_.front().window.empty() != (box != nullptr)) return Unexpected(modal);
     const Event event = std::move(awaited_.front());
     awaited_.pop_front();
     if (box) AnswerBox(*box, event);
     else UseWindow(modal, event);
+}
+
+bool Person::IsBorne(QMessageBox& box) {
+    for (const Event& event : borne_) {
+        if (ToUtf8(box.windowTitle()) != event.title || OneKindOfBreak(ToUtf8(box.text())) != event.text)
+            continue;
+        AnswerBox(box, event);
+        return true;
+    }
+    return false;
 }
 
 void Person::AnswerBox(QMessageBox& box, const Event& event) {

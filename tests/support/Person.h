@@ -9,6 +9,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Services.h"
 
@@ -70,6 +71,9 @@ class Person : public QObject {
     void ExpectClosing(std::string_view title, std::string_view text, int style = BoxStyle::Ok);
     // A modal window of ours that will come; `act` uses it and has to leave it.
     void ExpectWindow(std::string_view name, std::function<void(QWidget&)> act);
+    // A message box with the stop icon that may come at any time and as often as it likes: `seen` runs while
+    // it is up, then Ok is clicked.
+    void Bear(std::string_view title, std::string_view text, std::function<void()> seen);
     // How many of those told have not come yet.
     int Awaited() const { return static_cast<int>(awaited_.size()); }
 
@@ -104,11 +108,13 @@ class Person : public QObject {
     void Appeared(QWidget& modal);
     void AnswerBox(QMessageBox& box, const Event& event);
     void UseWindow(QWidget& window, const Event& event);
+    bool IsBorne(QMessageBox& box);
     void Unexpected(QWidget& modal);
     // The system's window of a widget that can be touched now.
     QWindow* Handle(QWidget& widget, QPoint at) const;
 
     std::deque<Event> awaited_;
+    std::vector<Event> borne_;
     QPointer<QWidget> pressed_;
     QPoint pressedAt_;
     int unexpected_ = 0;

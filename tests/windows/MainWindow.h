@@ -17,7 +17,9 @@ namespace sorvane::test {
 
 class MainWindow : public WindowWorld {
   public:
-    MainWindow() {
+    // The program lies in `home`; empty: in the folder of the test.
+    explicit MainWindow(const std::string& home = {})
+        : frm(run, windows, home.empty() ? folder.Path().string() : home, [this] { ++ended; }) {
         global.NL.clear();
         global.AppPath.clear();
     }
@@ -45,7 +47,7 @@ class MainWindow : public WindowWorld {
     }
 
     int ended = 0;
-    frmMain frm{run, windows, folder.Path().string(), [this] { ++ended; }};
+    frmMain frm;
 
   private:
     static char KeyOf(std::string_view caption) {
