@@ -1,0 +1,254 @@
+// What may stand at the place of the program's file, and what becomes of it under a running program. The
+// probing of a table has no end of its own: the cause is mended while a box is up.
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+#include <string>
+
+#include "support/NoSuperuser.h"
+#include "support/OtherProgram.h"
+#include "windows/Road.h"
+
+namespace sorvane::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class BadFiles : public Road {
+  protected:
+    BadFiles() : Road("mnuCANBCBC49") { fs::create_directory(path_.parent_path()); }
+
+    static void Write(const fs::path& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+    static std::string Read(const fs::path& path) {
+        std::ostringstream bytes;
+        bytes << std::ifstream(path, std::ios::binary).rdbuf();
+        return bytes.str();
+    }
+
+    void ExpectRefusal(int number, const std::function<void()>& meanwhile = nullptr) {
+        person.Expect("ERROR!",
+                      "ERROR #" + std::to_string(number) +
+                          "\r\nUnexpected error occurred. Please advise error number to support.",
+                      Answer::Ok, BoxStyle::Stop, meanwhile);
+    }
+    // The boxes of so many passes of the probing loop, one of the probe and one of the creator; the cause is
+    // mended in the last.
+    void ExpectLoop(int number, int passes, const std::function<void()>& mend) {
+        for (int box = 1; box <= 2 * passes; ++box) ExpectRefusal(number, box == 2 * passes ? mend : nullptr);
+    }
+    // Buys two tickets; `refusals` are told behind the question whether to save, `meanwhile` runs in it.
+    void Buy(const std::function<void()>& inQuestion = nullptr,
+             const std::function<void()>& refusals = nullptr) {
+        Inside([&] {
+            PutCount(2);
+            FillSheet(1, 2, 0);
+            person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo, inQuestion);
+            if (refusals) refusals();
+            Click("cmdSave");
+        });
+    }
+    void ExpectSaved() { person.Expect("CONFIRMED", "Tickets Saved"); }
+    std::string Count(const std::string& table) { return Rows("SELECT count(*) FROM " + table).at(0); }
+    // The program works: a sheet is bought and stands in the file.
+    void ExpectUsable() {
+        Buy(nullptr, [&] { ExpectSaved(); });
+        EXPECT_EQ(Count("PlayedBC49"), "2");
+        EXPECT_EQ(Count("Spent"), "1");
+        EXPECT_EQ(Rows("PRAGMA integrity_check"), Texts{"ok"});
+    }
+    // A file with the ledgers, the game's tables and a sheet, as an earlier run leaves it.
+    void MakeGoodFile() {
+        Start();
+        ExpectUsable();
+        global = Global{};
+    }
+
+    const fs::path path_ = folder.Path() / "data" / "sorvane.mdb";
+};
+
+TEST_F(BadFiles, AnEmptyFileIsAnEmptyDatabase) {
+    Write(path_, "");
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, ATextIsRefusedAndLeftAsItIs) {
+    const std::string notes(5000, 'n');
+    Write(path_, notes);
+    ExpectLoop(3343, 2, [&] {
+        EXPECT_EQ(Read(path_), notes);
+        fs::rename(path_, folder / "notes.txt");
+        Write(path_, "");
+    });
+    Start();
+    ExpectUsable();
+    EXPECT_EQ(Read(folder / "notes.txt"), notes);
+}
+
+TEST_F(BadFiles, ATruncatedDatabaseIsRefusedAndLeftAsItIs) {
+    MakeGoodFile();
+    const std::string whole = Read(path_), half = whole.substr(0, whole.size() / 2);
+    Write(path_, half);
+    ExpectLoop(3343, 2, [&] {
+        EXPECT_EQ(Read(path_), half);
+        Write(path_, whole);
+    });
+    Start();
+    EXPECT_EQ(Count("PlayedBC49"), "2");
+}
+
+TEST_F(BadFiles, AFolderInItsPlaceIsToldByTheMakerAndTheLoop) {
+    fs::create_directory(path_);
+    ExpectRefusal(75);
+    ExpectLoop(3051, 2, [&] {
+        fs::remove(path_);
+        Write(path_, "");
+    });
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, ALinkThatLeadsToNoFileYetGetsOneWhereItLeads) {
+    fs::create_symlink(folder / "elsewhere", path_);
+    Start();
+    ExpectUsable();
+    EXPECT_TRUE(fs::is_symlink(path_));
+    EXPECT_TRUE(fs::is_regular_file(folder / "elsewhere"));
+}
+
+TEST_F(BadFiles, ALinkThatLeadsNowhereIsToldByTheMakerAndTheLoop) {
+    fs::create_symlink(folder / "none" / "sorvane.mdb", path_);
+    ExpectRefusal(3051);
+    ExpectLoop(3024, 2, [&] {
+        fs::create_directory(folder / "none");
+        Write(folder / "none" / "sorvane.mdb", "");
+    });
+    Start();
+    ExpectUsable();
+    EXPECT_TRUE(fs::is_symlink(path_));
+}
+
+TEST_F(BadFiles, AFileThatMayOnlyBeReadIsShownAndNotWritten) {
+    fs::remove(path_.parent_path());
+    const NoSuperuser somebodyElse;
+    MakeGoodFile();
+    fs::permissions(path_, fs::perms(0444));
+    Start();
+    Buy(nullptr, [&] {
+        ExpectRefusal(3051);
+        ExpectRefusal(3051);
+        ExpectSaved();
+    });
+    EXPECT_EQ(Count("PlayedBC49"), "2");
+    EXPECT_EQ(Count("Spent"), "1");
+}
+
+TEST_F(BadFiles, AFileThatMayOnlyBeReadTakesNoTableUntilItMayBeWritten) {
+    fs::remove(path_.parent_path());
+    const NoSuperuser somebodyElse;
+    fs::create_directory(path_.parent_path());
+    Write(path_, "");
+    fs::permissions(path_, fs::perms(0444));
+    // A missing table is no news; that it can't be made is.
+    for (int pass = 1; pass <= 2; ++pass)
+        ExpectRefusal(3051, [&, pass] {
+            if (pass == 2) fs::permissions(path_, fs::perms(0644));
+        });
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, AFileThatMayNotBeTouchedIsToldUntilItMay) {
+    fs::remove(path_.parent_path());
+    const NoSuperuser somebodyElse;
+    MakeGoodFile();
+    fs::permissions(path_, fs::perms::none);
+    ExpectLoop(3051, 2, [&] { fs::permissions(path_, fs::perms(0644)); });
+    Start();
+    EXPECT_EQ(Count("PlayedBC49"), "2");
+}
+
+TEST_F(BadFiles, AFileThatAnotherProgramHoldsIsToldUntilItIsFree) {
+    OtherProgram other(path_.string());
+    MakeGoodFile();
+    other.Do("BEGIN EXCLUSIVE");
+    ExpectLoop(3260, 1, [&] { other.Do("ROLLBACK"); });
+    Start();
+    EXPECT_EQ(Count("PlayedBC49"), "2");
+}
+
+TEST_F(BadFiles, ASheetSavedWhileAnotherProgramWritesIsRefusedAndTheEntryGoesOn) {
+    OtherProgram other(path_.string());
+    Start();
+    Buy([&] { other.Do("BEGIN IMMEDIATE"); },
+        [&] {
+            ExpectRefusal(3260, [&] { other.Do("ROLLBACK"); });
+            ExpectSaved();
+        });
+    EXPECT_EQ(Count("PlayedBC49"), "0");
+    EXPECT_EQ(Count("Spent"), "1");
+}
+
+TEST_F(BadFiles, AFileDeletedUnderTheProgramIsMissedAtEachWriteAndMadeAnewForTheNextWindow) {
+    Start();
+    Buy([&] { fs::remove(path_); },
+        [&] {
+            ExpectRefusal(3024);
+            ExpectRefusal(3024);
+            ExpectSaved();
+        });
+    Inside([] {});
+    EXPECT_EQ(Count("PlayedBC49"), "0");
+    global = Global{};
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, AFolderDeletedUnderTheProgramIsMadeAnewForTheNextWindow) {
+    Start();
+    fs::remove_all(path_.parent_path());
+    Inside([] {});
+    EXPECT_EQ(Count("PlayedBC49"), "0");
+}
+
+TEST_F(BadFiles, AFileInThePlaceOfTheFolderIsARunTimeErrorThatTheProgramSurvives) {
+    fs::remove(path_.parent_path());
+    Write(path_.parent_path(), "not a folder");
+    ExpectRunTimeError(75);
+    Start();
+    EXPECT_EQ(Read(path_.parent_path()), "not a folder");
+    fs::remove(path_.parent_path());
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, AProgramInAFolderThatMayNotBeWrittenIsARunTimeErrorThatTheProgramSurvives) {
+    fs::remove(path_.parent_path());
+    fs::permissions(folder.Path(), fs::perms(0555));
+    const NoSuperuser somebodyElse;
+    ExpectRunTimeError(75);
+    Start();
+    EXPECT_FALSE(fs::exists(path_.parent_path()));
+}
+
+TEST_F(BadFiles, AFolderThatMayNotBeWrittenTakesNoFileUntilItMay) {
+    fs::remove(path_.parent_path());
+    const NoSuperuser somebodyElse;
+    fs::create_directory(path_.parent_path());
+    fs::permissions(path_.parent_path(), fs::perms(0555));
+    ExpectRefusal(3051);
+    ExpectLoop(3024, 2, [&] {
+        fs::permissions(path_.parent_path(), fs::perms(0755));
+        Write(path_, "");
+    });
+    Start();
+    ExpectUsable();
+}
+
+}  // namespace
+}  // namespace sorvane::test
