@@ -980,6 +980,45 @@ TEST_F(Winnings, AnEntryFromOneRegionsWindowIsAmendedFromTheOthers) {
     EXPECT_EQ(Rows("SELECT ID1, Lottoflag, Winnings FROM Winnings"), Texts{"1|Lotto649|7"});
 }
 
+TEST_F(Winnings, OneMoneyReportHoldsBothRegionsOfAGame) {
+    Open("mnuCANONTLotto649");
+    Do("INSERT INTO PlayedLotto649 (ID1, Date) VALUES (1, " + Day() + ")");
+    Do("INSERT INTO Spent (ID1, Lottoflag, Date, Spent) VALUES (1, 'Lotto649', " + Day() + ", 2)");
+    ExpectSaved();
+    Enter("5");
+    Window().Leave();
+    Open("mnuCANATLLotto649");
+    Window().SSTab1.SetTab(Tab::Reports);
+    Click("cmdPLReport");
+    const std::string report = Window().Reports.txtReport.Text();
+    EXPECT_NE(report.find("Total Spent :   $          2.00\r\n"), std::string::npos);
+    EXPECT_NE(report.find("Total Won   :   $          5.00\r\n"), std::string::npos);
+}
+
+TEST_F(Winnings, AnEmptyTableKeepsTheAnswerOfAnEarlierWindow) {
+    Open("mnuCANBCBC49");
+    TicketOfBC49();
+    ExpectSaved();
+    Enter("5");
+    Window().Leave();
+    Open("mnuCANQCQuebec49");
+    ExpectSaved();
+    Enter("6");
+    EXPECT_EQ(Rows("SELECT Lottoflag, Winnings FROM Winnings"), (Texts{"BC49|5", "Quebec49|6"}));
+}
+
+TEST_F(Winnings, DailyKenoMakesItsLostTablesAgain) {
+    Open("mnuCANONTKENO");
+    Do("DROP TABLE PlayedONTKeno");
+    Enter("5");
+    EXPECT_EQ(CountOf("PlayedONTKeno"), "0");
+    Do("INSERT INTO PlayedONTKeno (ID1, Date, Lottoflag) VALUES (1, " + Day() + ", 'ONTKeno')");
+    Do("DROP TABLE Winnings");
+    ExpectSaved();
+    Enter("5");
+    EXPECT_EQ(Rows("SELECT Lottoflag, Winnings FROM Winnings"), Texts{"ONTKeno|5"});
+}
+
 TEST_F(Winnings, OnlyLottariosAmountIsSelectedWhenItGetsTheFocus) {
     const std::pair<const char*, std::string> games[] = {{"mnuCANONTLOTTARIO", "12"}, {"mnuCANBCBC49", ""}};
     for (const auto& [menu, selected] : games) {
