@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTimer>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -69,6 +70,13 @@ TEST_F(Started, TheOnlyWorkingEntryOfTheFileMenuIsExit) {
         frm.activateWindow();
     }
     EXPECT_EQ(ended, 0);
+}
+
+TEST_F(Started, AllOtherEntriesAreTurnedOn) {
+    for (const MenuEntry& entry : MenuTree())
+        if (entry.action != MenuAction::Dead) {
+            EXPECT_TRUE(Entry(entry.name).isEnabled()) << entry.name;
+        }
 }
 
 TEST_F(Started, TwelveEntriesShowTheNoticeAndLeaveTheGameAsItWas) {
@@ -213,47 +221,57 @@ TEST_F(MainWindow, ADamagedFileAsksUntilItIsRepaired) {
     EXPECT_EQ(Plain().Tables(), (Texts{"Spent", "Winnings"}));
 }
 
-// The exits of a program of its own: it has really ended when the loop is over.
-class Ending : public Started {
-  public:
-    static constexpr int Over = 42;
-    // Runs the program's loop with an action waiting in it.
-    [[noreturn]] static void Run(void (*act)(frmMain&)) {
-        TempFolder place;
-        testing::FixedClock clock{Date::FromYmd(2026, 3, 14)};
-        testing::FixedRandom random;
-        testing::RecordingPrinter printer;
-        testing::RecordingTools tools;
-        forms::MessageBoxes boxes;
-        Dao::Engine engine;
-        Services services{boxes, printer, clock, random, tools, engine};
-        Global global;
-        sorvane::Run run{global, services};
-        Windows windows{run};
-        frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
-        main.Load();
-        main.Show();
-        QTimer::singleShot(0, &main, [&] { act(main); });
-        std::_Exit(QCoreApplication::exec() == 0 ? Over : 1);
-    }
-};
+TEST_F(Started, TheAllLotteriesReportForgetsTheGame) {
+    global.LottoFlag = "BC49";
+    person.ExpectWindow("frmReport", [&](QWidget& report) { person.Close(report); });
+    Choose("mnuReportsPL");
+    EXPECT_EQ(global.LottoFlag, "");
+}
+
+// The exits in a process of its own, which has really ended when the loop is over.
+constexpr int Over = 42;
+
+// Runs the program's loop with an action waiting in it; Over when the loop has come to its end.
+int Ending(void (*act)(frmMain&, Windows&)) {
+    TempFolder place;
+    testing::FixedClock clock{Date::FromYmd(2026, 3, 14)};
+    testing::FixedRandom random;
+    testing::RecordingPrinter printer;
+    testing::RecordingTools tools;
+    forms::MessageBoxes boxes;
+    Dao::Engine engine;
+    Services services{boxes, printer, clock, random, tools, engine};
+    Global global;
+    Run run{global, services};
+    Windows windows{run};
+    frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
+    main.Load();
+    main.Show();
+    QTimer::singleShot(0, &main, [&] { act(main, windows); });
+    return QCoreApplication::exec() == 0 ? Over : 1;
+}
 
 TEST(EndingDeathTest, TheButtonEndsTheProgram) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(Ending::Run([](frmMain& main) { main.findChild<QPushButton*>("cmdExit")->click(); }),
-                ::testing::ExitedWithCode(Ending::Over), "");
+    EXPECT_EXIT(
+        std::_Exit(Ending([](frmMain& main, Windows&) { main.findChild<QPushButton*>("cmdExit")->click(); })),
+        ::testing::ExitedWithCode(Over), "");
 }
 
 TEST(EndingDeathTest, TheMenuEndsTheProgram) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(Ending::Run([](frmMain& main) { main.findChild<QAction*>("mnuFileExit")->trigger(); }),
-                ::testing::ExitedWithCode(Ending::Over), "");
+    EXPECT_EXIT(std::_Exit(Ending(
+                    [](frmMain& main, Windows&) { main.findChild<QAction*>("mnuFileExit")->trigger(); })),
+                ::testing::ExitedWithCode(Over), "");
 }
 
 TEST(EndingDeathTest, TheCloseBoxEndsTheProgramWithAHiddenWindowLoaded) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(Ending::Run([](frmMain& main) { main.close(); }), ::testing::ExitedWithCode(Ending::Over),
-                "");
+    EXPECT_EXIT(std::_Exit(Ending([](frmMain& main, Windows& windows) {
+                    windows.Load(Family::frmPick3);
+                    main.close();
+                })),
+                ::testing::ExitedWithCode(Over), "");
 }
 
 }  // namespace
