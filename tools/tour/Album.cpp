@@ -62,11 +62,11 @@ std::vector<Part> PartsOf(QWidget& front) {
 }
 
 void AddMenus(std::vector<Part>& parts, const QWidget& front) {
-    const QPoint origin = front.pos() - parts.back().at.topLeft();
+    const QPoint origin = front.geometry().topLeft() - parts.back().at.topLeft();
     std::vector<Part> menus;
     for (QWidget* popup : QApplication::topLevelWidgets())
         if (popup->isVisible() && popup->windowFlags().testFlag(Qt::Popup))
-            menus.push_back({popup, QRect(popup->pos() - origin, popup->size())});
+            menus.push_back({popup, popup->geometry().translated(-origin)});
     std::sort(menus.begin(), menus.end(), [](const Part& one, const Part& other) {
         return one.at.x() + one.at.y() < other.at.x() + other.at.y();
     });
