@@ -86,7 +86,10 @@ QLayout* QuickPickTab::HeadRow() {
     head->setSpacing(forms::Look::Gap(page) * 2);
     head->addLayout(Above(lblDrawDate, window_.dtpEnterTickets(1)));
     head->addLayout(Above(lblNoOfTickets, count));
-    if (cboNoOfQPs) head->addLayout(Above(*lblNumOfBalls, *cboNoOfQPs));
+    if (cboNoOfQPs) {
+        cboNoOfQPs->setMinimumWidth(forms::Look::DigitsWidth(page, CountDigits));
+        head->addLayout(Above(*lblNumOfBalls, *cboNoOfQPs));
+    }
     head->addStretch(1);
     return head;
 }

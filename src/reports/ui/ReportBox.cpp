@@ -3,6 +3,8 @@
 #include <QScrollBar>
 #include <exception>
 
+#include "forms/BusyPointer.h"
+
 namespace sorvane {
 
 namespace {
@@ -30,6 +32,7 @@ QSize ReportBox::SizeFor(int lines) const {
 QSize ReportBox::sizeHint() const { return SizeFor(ComfortableLines); }
 
 void ReportBox::Write(const std::function<void(std::string& text)>& write) {
+    forms::BusyPointer busy;
     const std::string before = Text();
     std::string text = before;
     std::exception_ptr failure;
@@ -38,6 +41,7 @@ void ReportBox::Write(const std::function<void(std::string& text)>& write) {
     } catch (...) {
         failure = std::current_exception();
     }
+    busy.Tick();
     // The same text again would scroll back to the top.
     if (text != before) SetText(text);
     if (failure) std::rethrow_exception(failure);

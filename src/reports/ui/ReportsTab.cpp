@@ -1,9 +1,11 @@
 #include "reports/ui/ReportsTab.h"
 
+#include <chrono>
 #include <string>
 #include <vector>
 
 #include "entry/ui/GameWindow.h"
+#include "forms/BusyPointer.h"
 #include "platform/Text.h"
 #include "reports/DigitReports.h"
 #include "reports/FrequencyReport.h"
@@ -16,6 +18,11 @@
 #include "shell/ui/Windows.h"
 
 namespace sorvane {
+
+namespace {
+// About what can be printed, for the busy pointer.
+constexpr std::size_t CharactersAMillisecond = 500;
+}  // namespace
 
 ReportsTab::ReportsTab(GameWindow& window)
     : cmdReport(ReportButton[window.Which], "Number &Frequency"), window_(window) {
@@ -117,7 +124,10 @@ void ReportsTab::cmdPLReport_Click() {
 }
 
 void ReportsTab::cmdPrintReport_Click() {
-    if (PrintsReport[window_.Which]) PrintReport(window_.run.services.printer, txtReport.Text());
+    if (!PrintsReport[window_.Which]) return;
+    const std::string text = txtReport.Text();
+    const forms::BusyPointer busy(std::chrono::milliseconds(text.size() / CharactersAMillisecond));
+    PrintReport(window_.run.services.printer, text);
 }
 
 }  // namespace sorvane
