@@ -102,10 +102,6 @@ std::string WindowWorld::Focus() const {
     return control ? control->Name() : std::string();
 }
 
-void WindowWorld::Tick(std::initializer_list<int> numbers) {
-    for (const int number : numbers) Click("chkNumb(" + std::to_string(number - 1) + ")");
-}
-
 std::vector<int> WindowWorld::Ticked() const {
     std::vector<int> numbers;
     for (int i = 0; Exists("chkNumb(" + std::to_string(i) + ")"); ++i)
@@ -151,39 +147,9 @@ void WindowWorld::Choose(std::string_view name, std::string_view entry) {
     for (auto row = entries.begin(); row != at; ++row) person.Key(Qt::Key_Down);
 }
 
-void WindowWorld::ExpectNumber(std::string_view dialog, std::string_view field, int number) {
-    person.ExpectWindow(dialog, [this, field = std::string(field), number](QWidget&) {
-        Type(field, std::to_string(number));
-        Click("cmdOk");
-    });
-}
-
-void WindowWorld::PutCount(int tickets, int sheets, int onFirst) {
-    if (tickets > 1) ExpectNumber("frmHowManySheets", "txtNoOfSheets", sheets);
-    if (onFirst > 0) ExpectNumber("frmTicketsOnSheet", "txtNoOfTicketsOnSheet", onFirst);
-    Put("txtNoOfTickets(0)", std::to_string(tickets));
-}
-
 void WindowWorld::ExpectSaveQuestion(Answer answer) {
     person.Expect("CONFIRM", "Save this sheet of tickets?", answer, BoxStyle::YesNo);
     if (answer != Answer::Yes) person.Expect("CONFIRMED", "Tickets NOT Saved");
-}
-
-void WindowWorld::SaveLastSheet() {
-    ExpectSaveQuestion(Answer::Yes);
-    person.Expect("CONFIRMED", "Tickets Saved");
-    Click("cmdSave");
-}
-
-void WindowWorld::SaveSheet() {
-    ExpectSaveQuestion(Answer::Yes);
-    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
-    Click("cmdSave");
-}
-
-void WindowWorld::RefuseToSave() {
-    ExpectSaveQuestion(Answer::No);
-    Click("cmdSave");
 }
 
 void WindowWorld::ExpectRunTimeError(int number) {

@@ -6,7 +6,6 @@
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,7 +30,7 @@ using Texts = std::vector<std::string>;
 //
 //     Show("mnuCANONTKENO");
 //     Put("txtNoOfTickets(0)", "1");
-//     Tick({5, 17});
+//     Click("chkNumb(4)");
 //     person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo);
 //     Click("cmdSave");
 //     EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedONTKeno"), Texts{"5"});
@@ -88,8 +87,6 @@ class WindowWorld : public ::testing::Test {
 
     // What the person does with them.
     void Click(std::string_view name) { person.Click(Find(name)); }
-    // Clicks the balls of these numbers.
-    void Tick(std::initializer_list<int> numbers);
     // The balls that are ticked.
     std::vector<int> Ticked() const;
     // Clicks the field, replaces its text by typing, and stays in it.
@@ -104,18 +101,8 @@ class WindowWorld : public ::testing::Test {
     // Chooses an entry of a list without a field by the arrow keys, and stays in the list.
     void Choose(std::string_view name, std::string_view entry);
 
-    // Leaves the count of tickets; more than one ticket comes on `sheets` sheets, the first one with
-    // `onFirst` tickets (0: nobody asks).
-    void PutCount(int tickets, int sheets = 1, int onFirst = 0);
-    // What `act` shall do in a dialog that asks for a number: type it and press "&Ok".
-    void ExpectNumber(std::string_view dialog, std::string_view field, int number);
     // The boxes of "&Save Tickets" as far as the answer decides them: behind a No the next one too.
     void ExpectSaveQuestion(Answer answer);
-    // "&Save Tickets", answered Yes: the last sheet, and one that is followed by another.
-    void SaveLastSheet();
-    void SaveSheet();
-    // The same, answered No.
-    void RefuseToSave();
     // The box of a run-time error that nothing traps.
     void ExpectRunTimeError(int number);
 

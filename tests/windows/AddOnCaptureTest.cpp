@@ -1,21 +1,20 @@
-#include "support/WindowWorld.h"
+#include "windows/Slip.h"
 
 namespace sorvane::test {
 namespace {
 
-constexpr std::string_view NotANumberText = "Please enter a valid number greater than or equal to 1.";
 const std::string PlayedNumbers =
     "\"Number 1\", \"Number 2\", \"Number 3\", \"Number 4\", \"Number 5\", \"Number 6\", \"Number 7\" ";
 
-class AddOnWindow : public WindowWorld {
+class AddOnWindow : public SlipWorld {
   protected:
-    void TickSix() { Tick({1, 2, 3, 4, 5, 6}); }
+    void TickSix() { Pick({1, 2, 3, 4, 5, 6}); }
     // One ticket, complete but for its add-on.
     void EnterTicket(std::string_view menu, std::string_view count = {}) {
         Show(menu);
-        PutCount(1);
+        OneSheet(1);
         if (!count.empty()) Put("txtNoOfExtra", count);
-        if (Window().Which == Family::frm749) Tick({1, 2, 3, 4, 5, 6, 7});
+        if (Window().Which == Family::frm749) Pick({1, 2, 3, 4, 5, 6, 7});
         else TickSix();
     }
     // Super 7 ends its sheet with two bonus tickets.
@@ -23,13 +22,8 @@ class AddOnWindow : public WindowWorld {
         EnterTicket(menu);
         for (int i = 0; i < 2; ++i) {
             Click("cmdNext_Ticket");
-            Tick({11, 12, 13, 14, 15, 16, 17});
+            Pick({11, 12, 13, 14, 15, 16, 17});
         }
-    }
-    void ExpectRefusedKey() { person.Expect("Error!", NotANumberText, Answer::Ok, BoxStyle::Exclamation); }
-    void ExpectTooShort(Answer answer = Answer::Ok) {
-        person.Expect("Encore Too Short!", "Encore number too short. Please check the number and try again.",
-                      answer, BoxStyle::OkCancel);
     }
     void ExpectOutOfRange() {
         person.Expect("Error - Number out of Range!", "Please enter a number between 1 and 99.", Answer::Ok,
@@ -57,9 +51,6 @@ class AddOnWindow : public WindowWorld {
     }
     Texts Numbers(std::string_view table) {
         return Rows("SELECT " + PlayedNumbers + "FROM " + std::string(table) + " ORDER BY ID1");
-    }
-    std::string CountOf(std::string_view table) {
-        return Plain().One("SELECT COUNT(*) FROM " + std::string(table));
     }
 };
 
@@ -105,7 +96,7 @@ TEST_F(AddOnWindow, ALetterInTheCountEmptiesIt) {
     for (const auto* menu : {"mnuCANONTLotto649", "mnuCANONTSuper7", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
         Show(menu);
         Type("txtNoOfExtra", "12");
-        ExpectRefusedKey();
+        ExpectBadNumber();
         person.Type("x");
         EXPECT_EQ(TextOf("txtNoOfExtra"), "") << menu;
         EXPECT_EQ(Focus(), "txtNoOfExtra") << menu;
@@ -130,7 +121,7 @@ TEST_F(AddOnWindow, EnterInTheCountLeadsToTheOpenGridOfThe649) {
     Click("txtNoOfExtra");
     person.Enter();
     EXPECT_EQ(Focus(), "txtNoOfExtra");
-    PutCount(1);
+    OneSheet(1);
     Click("txtNoOfExtra");
     person.Enter();
     EXPECT_EQ(Focus(), "chkNumb(0)");
@@ -138,7 +129,7 @@ TEST_F(AddOnWindow, EnterInTheCountLeadsToTheOpenGridOfThe649) {
 
 TEST_F(AddOnWindow, EnterInTheCountDoesNothingInThe749) {
     Show("mnuCANONTSuper7");
-    PutCount(1);
+    OneSheet(1);
     Click("txtNoOfExtra");
     person.Enter();
     EXPECT_EQ(Focus(), "txtNoOfExtra");
@@ -162,7 +153,7 @@ TEST_F(AddOnWindow, TheCountSelectsItselfAndAnEmptyOneOfThe749BecomesZeroFirst) 
 
 TEST_F(AddOnWindow, MoreExtrasThanTicketsOnTheSheetAreRefusedAndTheFieldEndsAtZero) {
     Show("mnuCANBCLotto649");
-    PutCount(2);
+    OneSheet(2);
     Type("txtNoOfExtra", "3");
     ExpectTooManyExtra();
     person.Tab();
@@ -176,7 +167,7 @@ TEST_F(AddOnWindow, MoreExtrasThanTicketsOnTheSheetAreRefusedAndTheFieldEndsAtZe
 
 TEST_F(AddOnWindow, AnExtraCountBeyondSixteenBitsIsStillTooMany) {
     Show("mnuCANBCLotto649");
-    PutCount(2);
+    OneSheet(2);
     Type("txtNoOfExtra", "99999");
     ExpectTooManyExtra();
     person.Tab();
@@ -185,7 +176,7 @@ TEST_F(AddOnWindow, AnExtraCountBeyondSixteenBitsIsStillTooMany) {
 
 TEST_F(AddOnWindow, EncoresAreNotBoundToTheSheet) {
     Show("mnuCANONTLotto649");
-    PutCount(2);
+    OneSheet(2);
     Put("txtNoOfExtra", "3");
     EXPECT_EQ(global.NoOfExtra, 3);
     EXPECT_EQ(global.AddOnTickets.UBound(), 3);
@@ -270,13 +261,13 @@ TEST_F(AddOnWindow, Quebec49sCheckIsLiveFromTheCountOn) {
     Show("mnuCANQCQuebec49");
     EXPECT_TRUE(IsShown("chkEncore"));
     EXPECT_FALSE(IsEnabled("chkEncore"));
-    PutCount(1);
+    OneSheet(1);
     EXPECT_TRUE(IsEnabled("chkEncore"));
 }
 
 TEST_F(AddOnWindow, ExtraTicketsFollowTheLastTicket) {
     Show("mnuCANBCLotto649");
-    PutCount(2);
+    OneSheet(2);
     Put("txtNoOfExtra", "2");
     TickSix();
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
@@ -308,14 +299,14 @@ TEST_F(AddOnWindow, ExtraTicketsFollowTheLastTicket) {
     EXPECT_EQ(Focus(), "txtPlay4(0)");
     PutPlay4("6", "7", "8", "9");
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Lottoflag, Ball_1, Ball_2, Ball_3, Ball_4 FROM PlayedExtra ORDER BY ID1"),
               (Texts{"Lotto649|5|99|1|42", "Lotto649|6|7|8|9"}));
 }
 
 TEST_F(AddOnWindow, TheTitleOfANextExtraStaysOneBehind) {
     Show("mnuCANBCLotto649");
-    PutCount(2);
+    OneSheet(2);
     Put("txtNoOfExtra", "2");
     TickSix();
     Click("cmdNext_Ticket");
@@ -348,7 +339,7 @@ TEST_F(AddOnWindow, EncoreNumbersFollowTheLastTicket) {
     person.Type("999999");
     person.Tab();
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Numbers("PlayedEncore"), (Texts{"0|1|2|3|4|5|NULL", "9|9|9|9|9|9|NULL"}));
 }
 
@@ -383,7 +374,7 @@ TEST_F(AddOnWindow, WithoutAddOnTicketsTheSheetIsReadyToBeSaved) {
 
 TEST_F(AddOnWindow, LottarioHasNoExtraPhase) {
     Show(Family::frm645, "Lottario", "Extra");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     TickSix();
     Click("cmdNext_Ticket");
@@ -396,10 +387,10 @@ TEST_F(AddOnWindow, AShortEncoreIsRefusedAndCancelIsAnsweredLikeOk) {
     EnterTicket("mnuCANONTLotto649", "1");
     Click("cmdNext_Ticket");
     person.Type("12345");
-    ExpectTooShort();
+    ExpectShortEncore();
     person.Tab();
     EXPECT_EQ(Focus(), "txtEncore");
-    ExpectTooShort(Answer::Cancel);
+    ExpectShortEncore(Answer::Cancel);
     person.Tab();
     EXPECT_EQ(Focus(), "txtEncore");
     EXPECT_FALSE(IsEnabled("cmdSave"));
@@ -414,7 +405,7 @@ TEST_F(AddOnWindow, NoClickGetsPastAShortEncore) {
     Click("cmdNext_Ticket");
     person.Type("1");
     for (const auto* button : {"cmdCancel", "cmdExit(0)", "cmdRegular"}) {
-        ExpectTooShort();
+        ExpectShortEncore();
         Click(button);
         EXPECT_EQ(Focus(), "txtEncore");
     }
@@ -426,7 +417,7 @@ TEST_F(AddOnWindow, OfTwelveDigitsTheFirstSixAreStored) {
     Click("cmdNext_Ticket");
     person.Type("123456789012");
     person.Tab();
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Numbers("PlayedEncore"), Texts{"1|2|3|4|5|6|NULL"});
 }
 
@@ -434,10 +425,10 @@ TEST_F(AddOnWindow, ALetterOrEnterInTheEncoreLeavesWhatWasThere) {
     EnterTicket("mnuCANONTLotto649", "1");
     Click("cmdNext_Ticket");
     person.Type("12");
-    ExpectRefusedKey();
+    ExpectBadNumber();
     person.Type("x");
     EXPECT_EQ(TextOf("txtEncore"), "12");
-    ExpectRefusedKey();
+    ExpectBadNumber();
     person.Enter();
     EXPECT_EQ(TextOf("txtEncore"), "12");
     EXPECT_EQ(Focus(), "txtEncore");
@@ -477,9 +468,9 @@ TEST_F(AddOnWindow, ALetterOrEnterInAnExtraNumberLeavesWhatWasThere) {
     EnterTicket("mnuCANBCLotto649", "1");
     Click("cmdNext_Ticket");
     person.Type("4");
-    ExpectRefusedKey();
+    ExpectBadNumber();
     person.Type("x");
-    ExpectRefusedKey();
+    ExpectBadNumber();
     person.Enter();
     EXPECT_EQ(TextOf("txtPlay4(0)"), "4");
 }
@@ -519,19 +510,19 @@ TEST_F(AddOnWindow, AnExtraNumberLeftEmptyFailsWhenItIsStoredAndEachClickWritesT
     SaveFails(13);
     EXPECT_EQ(CountOf("PlayedLotto649"), "2");
     Put("txtPlay4(1)", "2");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedLotto649"), "3");
     EXPECT_EQ(Rows("SELECT Ball_2 FROM PlayedExtra"), Texts{"2"});
 }
 
 TEST_F(AddOnWindow, AfterASheetOfExtraTheirFieldsAreGone) {
     Show("mnuCANBCLotto649");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     Put("txtNoOfExtra", "1");
     TickSix();
     Click("cmdNext_Ticket");
     PutPlay4("1", "2", "3", "4");
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_FALSE(IsShown("lblExtra"));
     for (const auto* box : {"txtPlay4(0)", "txtPlay4(1)", "txtPlay4(2)", "txtPlay4(3)"}) {
         EXPECT_FALSE(IsShown(box));
@@ -545,12 +536,12 @@ TEST_F(AddOnWindow, AfterASheetOfExtraTheirFieldsAreGone) {
 
 TEST_F(AddOnWindow, The649KeepsThePhaseSoASheetWithoutExtraFailsAtItsEmptyBoxes) {
     Show("mnuCANBCLotto649");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     Put("txtNoOfExtra", "1");
     TickSix();
     Click("cmdNext_Ticket");
     PutPlay4("1", "2", "3", "4");
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_EQ(global.EnteringAddOns, 1);
     Put("txtNoOfExtra", "0");
     TickSix();
@@ -560,35 +551,33 @@ TEST_F(AddOnWindow, The649KeepsThePhaseSoASheetWithoutExtraFailsAtItsEmptyBoxes)
 }
 
 TEST_F(AddOnWindow, The749EndsThePhaseAtANewSheet) {
-    EnterTicket("mnuCANBCSuper7");
-    Window().Leave();
     Show("mnuCANBCSuper7");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     Put("txtNoOfExtra", "1");
     for (int i = 0; i < 3; ++i) {
-        Tick({1, 2, 3, 4, 5, 6, 7});
+        Pick({1, 2, 3, 4, 5, 6, 7});
         Click("cmdNext_Ticket");
     }
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Extra");
     PutPlay4("1", "2", "3", "4");
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_EQ(global.EnteringAddOns, 0);
     EXPECT_EQ(CountOf("PlayedExtra"), "1");
 }
 
 TEST_F(AddOnWindow, AWindowLeavesOtherExtrasAlone) {
     Show(Family::frm645, "Lottario", "Tag");
-    PutCount(1);
+    OneSheet(1);
     TickSix();
     Click("cmdNext_Ticket");
     TickSix();
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedLottario"), "2");
 }
 
 TEST_F(AddOnWindow, LottarioWritesItsEncoreAfterTheBox) {
     Show("mnuCANONTLOTTARIO");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     TickSix();
     Click("cmdNext_Ticket");
@@ -615,7 +604,7 @@ TEST_F(AddOnWindow, OneNumberASheetIsWrittenUnderItsOwnTable) {
         EnterTicket(game.menu);
         Click("chkEncore");
         Put("txtEncore", "123456");
-        SaveLastSheet();
+        SaveSheet(true);
         EXPECT_EQ(Numbers(game.table), Texts{"1|2|3|4|5|6|NULL"}) << game.table;
     }
     EXPECT_EQ(CountOf("PlayedLotto649"), "3");
@@ -623,17 +612,17 @@ TEST_F(AddOnWindow, OneNumberASheetIsWrittenUnderItsOwnTable) {
 
 TEST_F(AddOnWindow, OneNumberASheetIsTakenBackForTheNextSheet) {
     Show("mnuCANQCLotto649");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     TickSix();
     Click("chkEncore");
     Put("txtEncore", "123456");
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_FALSE(IsTicked("chkEncore"));
     EXPECT_EQ(TextOf("txtEncore"), "");
     EXPECT_FALSE(IsShown("txtEncore"));
     EXPECT_EQ(global.NoOfExtra, 0);
     TickSix();
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedQCExtra"), "1");
 }
 
@@ -641,7 +630,7 @@ TEST_F(AddOnWindow, ACheckTickedAndClearedWritesNoRow) {
     EnterTicket("mnuCANQCLotto649");
     Click("chkEncore");
     Click("chkEncore");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedQCExtra"), "0");
     EXPECT_EQ(CountOf("PlayedLotto649"), "1");
     EXPECT_EQ(global.AddOnTickets(0).Numbers(5), 99);
@@ -682,7 +671,7 @@ TEST_F(AddOnWindow, AnEncoreCountNeverLeftFailsTheSame) {
 TEST_F(AddOnWindow, OnceSizedAnywhereInTheRunSheetsWithoutAnAddOnAreSavedSilently) {
     global.AddOnTickets.Redim(0);
     EnterTicket("mnuCANATLLotto649");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedTag"), "0");
     EXPECT_EQ(CountOf("PlayedLotto649"), "1");
 }
@@ -699,7 +688,7 @@ TEST_F(AddOnWindow, WesternExtraHasSevenDigits) {
     EnterSuper7("mnuCANWESTSuper7");
     Click("chkEncore");
     Put("txtEncore", "1234567");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Numbers("PlayedWESTExtra"), Texts{"1|2|3|4|5|6|7"});
 }
 
@@ -715,20 +704,20 @@ TEST_F(AddOnWindow, WithoutANumberWesternExtraHasTheSentinelInSevenSlots) {
     EnterSuper7("mnuCANWESTSuper7");
     Click("chkEncore");
     Click("chkEncore");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(global.AddOnTickets(0).Numbers(6), 99);
     EXPECT_EQ(CountOf("PlayedWESTExtra"), "0");
 }
 
 TEST_F(AddOnWindow, LeavingACompleteNumberLeadsToSaveInThe749ButNotInThe649) {
     Show("mnuCANQCLotto649");
-    PutCount(1);
+    OneSheet(1);
     Click("chkEncore");
     Put("txtEncore", "123456");
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Window().Leave();
     Show("mnuCANQCSuper7");
-    PutCount(1);
+    OneSheet(1);
     Click("chkEncore");
     Put("txtEncore", "123456");
     EXPECT_TRUE(IsEnabled("cmdSave"));
@@ -757,7 +746,7 @@ TEST_F(AddOnWindow, ReenteringTheLastTicketOffersThePhaseAgain) {
     EnterTicket("mnuCANONTLotto649", "1");
     Click("cmdCorrection");
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
-    Tick({11, 12, 13, 14, 15, 16});
+    Pick({11, 12, 13, 14, 15, 16});
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Enter Encore");
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
 }

@@ -1,9 +1,9 @@
-#include "support/WindowWorld.h"
+#include "windows/Slip.h"
 
 namespace sorvane::test {
 namespace {
 
-class DigitWindow : public WindowWorld {
+class DigitWindow : public SlipWorld {
   protected:
     // The digits of a ticket; the last list is left, which ends the ticket.
     void PutDigits(std::initializer_list<int> digits) {
@@ -18,9 +18,6 @@ class DigitWindow : public WindowWorld {
     Texts Tickets(std::string_view table) {
         return Rows("SELECT Ball_1, Ball_2, Ball_3, \"Way Played\", Regular FROM " + std::string(table) +
                     " ORDER BY ID1");
-    }
-    std::string CountOf(std::string_view table) {
-        return Plain().One("SELECT COUNT(*) FROM " + std::string(table));
     }
 };
 
@@ -118,7 +115,7 @@ TEST_F(DigitWindow, OtherFourDigitGamesLeaveTheWayEmpty) {
 
 TEST_F(DigitWindow, WagersOfTheFloridaGamesAreHalfOfWhatTheOptionSays) {
     Show("mnuUSFLACash3");
-    PutCount(5);
+    OneSheet(5);
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
     Click("optOneDollar");
     EXPECT_EQ(TextOf("txtDollars"), "2.50");
@@ -129,7 +126,7 @@ TEST_F(DigitWindow, WagersOfTheFloridaGamesAreHalfOfWhatTheOptionSays) {
 
 TEST_F(DigitWindow, WagersOfTheOtherGamesMultiplyTheTickets) {
     Show("mnuCANONTPICK3");
-    PutCount(5);
+    OneSheet(5);
     EXPECT_EQ(TextOf("txtDollars"), "5.00");
     const struct {
         const char* wager;
@@ -158,30 +155,30 @@ TEST_F(DigitWindow, AWagerOfPastedLettersForACountIsARunTimeError) {
 TEST_F(DigitWindow, TheCountOfAFloridaGameTakesTheSmallWagersAlone) {
     Show("mnuUSFLACash3");
     Click("optOneDollar");
-    PutCount(5);
+    OneSheet(5);
     EXPECT_EQ(TextOf("txtDollars"), "2.50");
     Click("optTwoDollars");
-    PutCount(7);
+    OneSheet(7);
     EXPECT_EQ(TextOf("txtDollars"), "7.00");
     Window().Leave();
     Show(Family::frmPick4, "FLAPlay4", "FLAPlay4");  // undressed: the large wagers are to be seen
-    PutCount(3);
+    OneSheet(3);
     Click("optFiveDollars");
     EXPECT_EQ(TextOf("txtDollars"), "15.00");
-    PutCount(4);
+    OneSheet(4);
     EXPECT_EQ(TextOf("txtDollars"), "15.00");
 }
 
 TEST_F(DigitWindow, TheCountOfTheOtherGamesIgnoresTheWager) {
     Show("mnuCANONTPICK3");
     Click("optTenDollars");
-    PutCount(4);
+    OneSheet(4);
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
 }
 
 TEST_F(DigitWindow, AHalfDollarShowsNoZeroAndBecomesZeroWhenTheFieldIsLeft) {
     Show("mnuUSFLACash3");
-    PutCount(1);
+    OneSheet(1);
     Click("optOneDollar");
     EXPECT_EQ(TextOf("txtDollars"), ".50");
     Click("txtDollars");
@@ -193,7 +190,7 @@ TEST_F(DigitWindow, AHalfDollarShowsNoZeroAndBecomesZeroWhenTheFieldIsLeft) {
 
 TEST_F(DigitWindow, StraightBoxMovesTheWagerToTwoUnits) {
     Show("mnuUSFLACash3");
-    PutCount(5);
+    OneSheet(5);
     Click("optOneDollar");
     Click("optPlayOpt(2)");
     EXPECT_FALSE(IsTicked("optOneDollar"));
@@ -204,7 +201,7 @@ TEST_F(DigitWindow, StraightBoxMovesTheWagerToTwoUnits) {
 
 TEST_F(DigitWindow, TheSmallWagerTakesStraightBoxBackButNotItsName) {
     Show("mnuUSFLACash3");
-    PutCount(5);
+    OneSheet(5);
     Click("optPlayOpt(2)");
     Click("optOneDollar");
     EXPECT_FALSE(IsTicked("optPlayOpt(2)"));
@@ -215,7 +212,7 @@ TEST_F(DigitWindow, TheSmallWagerTakesStraightBoxBackButNotItsName) {
 
 TEST_F(DigitWindow, OtherGamesKeepTheirThirdWayWithTheSmallWager) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     Click("optPlayOpt(2)");
     Click("optOneDollar");
     EXPECT_TRUE(IsTicked("optPlayOpt(2)"));
@@ -223,7 +220,7 @@ TEST_F(DigitWindow, OtherGamesKeepTheirThirdWayWithTheSmallWager) {
 
 TEST_F(DigitWindow, LeavingTheLastListEndsTheTicket) {
     Show("mnuCANQC3");
-    PutCount(2);
+    OneSheet(2);
     Choose("cboNumber(0)", "4");
     Choose("cboNumber(1)", "0");
     EXPECT_EQ(global.TicketNo, 0);
@@ -239,7 +236,7 @@ TEST_F(DigitWindow, LeavingTheLastListEndsTheTicket) {
 
 TEST_F(DigitWindow, ThreeDigitsEndNoTicketOfFour) {
     Show("mnuUSFLAPlay4");
-    PutCount(1);
+    OneSheet(1);
     Visit("cboNumber(2)");
     EXPECT_EQ(global.TicketNo, 0);
     Visit("cboNumber(3)");
@@ -249,7 +246,7 @@ TEST_F(DigitWindow, ThreeDigitsEndNoTicketOfFour) {
 
 TEST_F(DigitWindow, LeavingTheLastListTwiceCountsTheTicketTwice) {
     Show("mnuCANQC3");
-    PutCount(3);
+    OneSheet(3);
     Visit("cboNumber(2)");
     Visit("cboNumber(2)");
     EXPECT_EQ(global.TicketNo, 2);
@@ -257,7 +254,7 @@ TEST_F(DigitWindow, LeavingTheLastListTwiceCountsTheTicketTwice) {
 
 TEST_F(DigitWindow, TicketsAreWrittenWithTheirDigitsAndTheWay) {
     Show("mnuCANQC3");
-    PutCount(2);
+    OneSheet(2);
     Click("optPlayOpt(1)");
     PutDigits({4, 0, 9});
     Click("cmdNext_Ticket");
@@ -270,7 +267,7 @@ TEST_F(DigitWindow, TicketsAreWrittenWithTheirDigitsAndTheWay) {
     PutDigits({0, 0, 7});
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Tickets("PlayedQuote3"), (Texts{"4|0|9|Box|0", "0|0|7|Box|0"}));
     EXPECT_EQ(Rows("SELECT Lottoflag FROM PlayedQuote3"), (Texts{"Quote3", "Quote3"}));
     EXPECT_FALSE(windows.IsLoaded(Family::frmPick3));
@@ -278,7 +275,7 @@ TEST_F(DigitWindow, TicketsAreWrittenWithTheirDigitsAndTheWay) {
 
 TEST_F(DigitWindow, TheWayIsFixedAfterTheFirstTicket) {
     Show("mnuCANQC3");
-    PutCount(2);
+    OneSheet(2);
     PutDigits({1, 2, 3});
     EXPECT_TRUE(IsEnabled("optPlayOpt(0)"));
     Click("cmdNext_Ticket");
@@ -291,39 +288,39 @@ TEST_F(DigitWindow, TheWayIsFixedAfterTheFirstTicket) {
 
 TEST_F(DigitWindow, WithoutAWayTheFieldIsWrittenEmpty) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Tickets("PlayedQuote3"), Texts{"1|2|3||0"});
 }
 
 TEST_F(DigitWindow, RegularMarksItsOwnTicketOnly) {
     Show("mnuCANQC3");
-    PutCount(2);
+    OneSheet(2);
     Click("chkRegular");
     PutDigits({1, 2, 3});
     Click("cmdNext_Ticket");
     Click("chkRegular");
     PutDigits({4, 5, 6});
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedQuote3 ORDER BY ID1"), (Texts{"1", "0"}));
 }
 
 TEST_F(DigitWindow, ARegularMarkStaysInItsSlotForLaterSheets) {
     Show("mnuCANQC3");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     Click("chkRegular");
     PutDigits({1, 2, 3});
-    SaveSheet();
+    SaveSheet(false);
     Click("chkRegular");
     PutDigits({4, 5, 6});
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedQuote3 ORDER BY ID1"), (Texts{"1", "1"}));
 }
 
 TEST_F(DigitWindow, ReentryEmptiesTheLists) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
     Click("cmdCorrection");
     EXPECT_EQ(global.TicketNo, 0);
@@ -334,13 +331,13 @@ TEST_F(DigitWindow, ReentryEmptiesTheLists) {
     EXPECT_EQ(Focus(), "cboNumber(0)");
     PutDigits({7, 8, 9});
     EXPECT_EQ(global.Correcting, 0);
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Tickets("PlayedQuote3"), Texts{"7|8|9||0"});
 }
 
 TEST_F(DigitWindow, ReentryStopsAtNoTickets) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
     global.TicketNo = 0;
     Click("cmdCorrection");
@@ -349,7 +346,7 @@ TEST_F(DigitWindow, ReentryStopsAtNoTickets) {
 
 TEST_F(DigitWindow, EncoreNumbersFollowTheLastTicket) {
     Show("mnuCANONTPICK3");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "2");
     Click("optPlayOpt(0)");
     PutDigits({1, 2, 3});
@@ -377,7 +374,7 @@ TEST_F(DigitWindow, EncoreNumbersFollowTheLastTicket) {
     person.Type("654321");
     person.Tab();
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Tickets("PlayedONTPick3"), Texts{"1|2|3|Straight|0"});
     EXPECT_EQ(Rows("SELECT Lottoflag, \"Number 1\", \"Number 6\" FROM PlayedEncore ORDER BY ID1"),
               (Texts{"ONTPick3|1|6", "ONTPick3|6|1"}));
@@ -385,11 +382,11 @@ TEST_F(DigitWindow, EncoreNumbersFollowTheLastTicket) {
 
 TEST_F(DigitWindow, WithoutEncoreTheTicketIsReadyToBeSaved) {
     Show("mnuCANONTPICK3");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "0");
     PutDigits({1, 2, 3});
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedEncore"), "0");
 }
 
@@ -428,7 +425,7 @@ TEST_F(DigitWindow, TheEncoreCountSelectsItselfOnlyWhenItIsZero) {
 
 TEST_F(DigitWindow, ASheetIsStoredBeforeTheQuestionAndTheAmountBehindTheLastBox) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
     person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo, [this] {
         EXPECT_EQ(global.Pick3Tickets(0).Numbers(2), 3);
@@ -444,7 +441,7 @@ TEST_F(DigitWindow, ASheetIsStoredBeforeTheQuestionAndTheAmountBehindTheLastBox)
 
 TEST_F(DigitWindow, NoEmptiesTheWayWhileItsOptionStillLooksChosen) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     Click("optPlayOpt(1)");
     PutDigits({1, 2, 3});
     RefuseToSave();
@@ -459,7 +456,7 @@ TEST_F(DigitWindow, NoEmptiesTheWayWhileItsOptionStillLooksChosen) {
 
 TEST_F(DigitWindow, NoLeavesTheFourDigitWindowAsItIs) {
     Show("mnuUSFLAPlay4");
-    PutCount(1);
+    OneSheet(1);
     Click("optPlayOpt(1)");
     PutDigits({1, 2, 3, 4});
     RefuseToSave();
@@ -468,14 +465,14 @@ TEST_F(DigitWindow, NoLeavesTheFourDigitWindowAsItIs) {
     EXPECT_EQ(TextOf("cboNumber(3)"), "4");
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_FALSE(IsEnabled("cmdCorrection"));  // storing took it away
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Lottoflag, Ball_1, Ball_4, \"Way Played\" FROM PlayedFLAPlay4"),
               Texts{"FLAPlay4|1|4|Box"});
 }
 
 TEST_F(DigitWindow, CancelKeepsTheWayAsItLooks) {
     Show("mnuCANQC3");
-    PutCount(1);
+    OneSheet(1);
     Click("optPlayOpt(1)");
     ExpectCancel();
     Click("cmdCancel");
@@ -485,7 +482,7 @@ TEST_F(DigitWindow, CancelKeepsTheWayAsItLooks) {
 
 TEST_F(DigitWindow, CancelOutOfTheEncorePhaseOpensTheLists) {
     Show("mnuCANONTPICK3");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     PutDigits({1, 2, 3});
     Click("cmdNext_Ticket");
@@ -502,14 +499,14 @@ TEST_F(DigitWindow, CancelOutOfTheEncorePhaseOpensTheLists) {
 
 TEST_F(DigitWindow, AFurtherSheetStartsWithEmptyListsAndTheSameWay) {
     Show("mnuCANONTPICK3");
-    PutCount(3, 2, 1);
+    SeveralSheets(3, 2, 1);
     Put("txtNoOfExtra", "1");
     Click("optPlayOpt(0)");
     PutDigits({1, 2, 3});
     Click("cmdNext_Ticket");
     person.Type("123456");
     person.Tab();
-    SaveSheet();
+    SaveSheet(false);
     for (const auto* list : {"cboNumber(0)", "cboNumber(1)", "cboNumber(2)"}) {
         EXPECT_TRUE(IsEnabled(list));
         EXPECT_EQ(TextOf(list), "0");
@@ -527,27 +524,22 @@ TEST_F(DigitWindow, AFurtherSheetStartsWithEmptyListsAndTheSameWay) {
 
 TEST_F(DigitWindow, TheWayStaysFixedOnAFurtherSheet) {
     Show("mnuCANQC3");
-    PutCount(3, 2, 2);
+    SeveralSheets(3, 2, 2);
     PutDigits({1, 2, 3});
     Click("cmdNext_Ticket");
     PutDigits({4, 5, 6});
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_FALSE(IsEnabled("fraWayPlayed"));
 }
 
 TEST_F(DigitWindow, AtlanticPik4IsSavedUnderOneNameAndCleanedUpUnderAnother) {
     Show(Family::frmPick4, "ATLPik4", "ATLPik4");
     EXPECT_EQ(Window().State.TableName, "PlayedAtlanticPik4");
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     PutDigits({1, 2, 3, 4});
-    SaveSheet();  // makes its table, which nothing has made before
+    SaveSheet(false);  // makes its table, which nothing has made before
     EXPECT_EQ(CountOf("PlayedATLPik4"), "1");
-    person.Expect("Exiting before completion...",
-                  "Since you've already saved some tickets, your database will be incorrect.\r\n"
-                  "Would you like to clean up your database?\r\n"
-                  "(NOTE: This will delete ALL records with the same Draw Date as indicated\r\n"
-                  "in the Draw Date box above.)",
-                  Answer::Yes, BoxStyle::YesNoCancel);
+    person.Expect("Exiting before completion...", CleanUpText, Answer::Yes, BoxStyle::YesNoCancel);
     person.Expect("ERROR!",
                   "ERROR #3011\r\nUnable to open PlayedAtlanticPik4 table. Please advise error number to "
                   "support.",
@@ -564,7 +556,7 @@ TEST_F(DigitWindow, AWindowLeftHiddenByPlay4HasNoTablesForTheNextGameUntilItIsSa
     Show("mnuCANBCDAILY3");  // loaded by Play 4: no load event now
     EXPECT_EQ(global.PlayOption, "Box");
     EXPECT_EQ(Rows("SELECT name FROM sqlite_schema WHERE name = 'PlayedBCDaily3'"), Texts{});
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
     ExpectSaveQuestion(Answer::Yes);
     person.Expect(
@@ -576,9 +568,9 @@ TEST_F(DigitWindow, AWindowLeftHiddenByPlay4HasNoTablesForTheNextGameUntilItIsSa
     EXPECT_EQ(Rows("SELECT Lottoflag FROM Spent"), Texts{"BCDaily3"});
     EXPECT_EQ(CountOf("PlayedBCDaily3"), "0");
     Show("mnuCANBCDAILY3");
-    PutCount(1);
+    OneSheet(1);
     PutDigits({1, 2, 3});
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedBCDaily3"), "1");
 }
 

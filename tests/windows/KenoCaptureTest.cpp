@@ -1,4 +1,4 @@
-#include "support/WindowWorld.h"
+#include "windows/Slip.h"
 
 namespace sorvane::test {
 namespace {
@@ -7,7 +7,7 @@ const std::string TicketRow =
     "SELECT Ball_1, Ball_2, Ball_3, Ball_4, Ball_5, Ball_6, Ball_7, Ball_8, Ball_9, Ball_10, Wager, "
     "\"# of Balls\", Regular FROM PlayedONTKeno ORDER BY ID1";
 
-class KenoWindow : public WindowWorld {
+class KenoWindow : public SlipWorld {
   protected:
     void ShowKeno() { Show("mnuCANONTKENO"); }
     void ShowKeno80() { Show(Family::frmKeno80, "PrairieKeno", "PrairieKeno"); }
@@ -20,10 +20,6 @@ class KenoWindow : public WindowWorld {
     void PutBalls(std::string_view balls) {
         Type("cboNoOfBallsPerTicket", balls);
         person.BackTab();
-    }
-    void ExpectShortEncore(Answer answer = Answer::Ok) {
-        person.Expect("Encore Too Short!", "Encore number too short. Please check the number and try again.",
-                      answer, BoxStyle::OkCancel);
     }
     void ExpectMissingWager() {
         person.Expect("Please Select Wager...",
@@ -112,7 +108,7 @@ TEST_F(KenoWindow, WhatThisFamilyLacksIsNotThere) {
 
 TEST_F(KenoWindow, TheCountLeavesTheGridClosedAndPutsTheAmountWithALeadingBlank) {
     ShowKeno();
-    PutCount(3);
+    OneSheet(3);
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
     EXPECT_EQ(TextOf("txtDollars"), " 3.00");
     EXPECT_EQ(global.Dollars, " 3.00");
@@ -120,7 +116,7 @@ TEST_F(KenoWindow, TheCountLeavesTheGridClosedAndPutsTheAmountWithALeadingBlank)
 
 TEST_F(KenoWindow, BallsLeftEmptyBecomeTwoAndOpenTheGridWithoutAWager) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Put("cboNoOfBallsPerTicket", "");
     EXPECT_EQ(TextOf("cboNoOfBallsPerTicket"), "2");
     EXPECT_EQ(global.NoOfBallsPerTicket, 2);
@@ -131,7 +127,7 @@ TEST_F(KenoWindow, BallsLeftEmptyBecomeTwoAndOpenTheGridWithoutAWager) {
 
 TEST_F(KenoWindow, TheBallsAreSelectedWhenTheirListGetsTheFocus) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutBalls("10");
     Click("cboNoOfBallsPerTicket");
     person.Type("3");
@@ -141,7 +137,7 @@ TEST_F(KenoWindow, TheBallsAreSelectedWhenTheirListGetsTheFocus) {
 
 TEST_F(KenoWindow, LettersAndTooManyBallsAreRunTimeErrorsThatTheProgramSurvives) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Type("cboNoOfBallsPerTicket", "four");
     ExpectRunTimeError(13);
     person.BackTab();
@@ -155,7 +151,7 @@ TEST_F(KenoWindow, LettersAndTooManyBallsAreRunTimeErrorsThatTheProgramSurvives)
 
 TEST_F(KenoWindow, AWagerOfLettersIsARunTimeErrorThatTheProgramSurvives) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Type("cboWager", "two");
     ExpectRunTimeError(13);
     person.Tab();
@@ -165,12 +161,12 @@ TEST_F(KenoWindow, AWagerOfLettersIsARunTimeErrorThatTheProgramSurvives) {
 
 TEST_F(KenoWindow, ASixthBallOfFiveCannotBeTaken) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("5", "1.00");
-    Tick({1, 2, 3, 4, 5});
+    Pick({1, 2, 3, 4, 5});
     EXPECT_FALSE(IsEnabled("chkNumb(5)"));
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
-    Tick({6});
+    Pick({6});
     EXPECT_EQ(Ticked(), (std::vector{1, 2, 3, 4, 5}));
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_TRUE(IsEnabled("cmdSave"));
@@ -180,30 +176,30 @@ TEST_F(KenoWindow, ASixthBallOfFiveCannotBeTaken) {
 
 TEST_F(KenoWindow, ANumberClickedAgainIsGivenBack) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("2", "1.00");
-    Tick({7, 7});
+    Pick({7, 7});
     EXPECT_EQ(global.NumbersPicked, 0);
-    Tick({9, 8});
+    Pick({9, 8});
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_EQ(Ticked(), (std::vector{8, 9}));
 }
 
 TEST_F(KenoWindow, NoTicketIsCompleteWithoutANumber) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("0", "1.00");
-    Tick({7, 7});
+    Pick({7, 7});
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_FALSE(IsEnabled("cmdSave"));
 }
 
 TEST_F(KenoWindow, ATicketOfFourLeavesTheOtherBallsZeroAndStandsInAscendingOrder) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("4", "5.00");
-    Tick({70, 3, 41, 12});
-    SaveLastSheet();
+    Pick({70, 3, 41, 12});
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), Texts{"3|12|41|70|0|0|0|0|0|0|5|4|0"});
     EXPECT_EQ(Rows("SELECT ID1, Lottoflag FROM PlayedONTKeno"), Texts{"1|ONTKeno"});
     EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"5"});
@@ -212,10 +208,10 @@ TEST_F(KenoWindow, ATicketOfFourLeavesTheOtherBallsZeroAndStandsInAscendingOrder
 
 TEST_F(KenoWindow, EachTicketKeepsItsOwnBallsAndWagerWhileTheAmountStays) {
     ShowKeno();
-    PutCount(2);
+    OneSheet(2);
     PutChoices("4", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Tick({1, 2, 3, 4});
+    Pick({1, 2, 3, 4});
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Click("cmdNext_Ticket");
@@ -226,18 +222,18 @@ TEST_F(KenoWindow, EachTicketKeepsItsOwnBallsAndWagerWhileTheAmountStays) {
     PutChoices("6", "1.00");
     EXPECT_EQ(global.Wager, 1);
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Tick({11, 12, 13, 14, 15, 16});
-    SaveLastSheet();
+    Pick({11, 12, 13, 14, 15, 16});
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), (Texts{"1|2|3|4|0|0|0|0|0|0|2|4|0", "11|12|13|14|15|16|0|0|0|0|1|6|0"}));
     EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"4"});
 }
 
 TEST_F(KenoWindow, TheWagerSetsTheAmountUntilTheFirstTicketIsStored) {
     ShowKeno();
-    PutCount(2);
+    OneSheet(2);
     PutChoices("2", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "4.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Put("cboWager", "10.00");  // complete, but not stored yet
     EXPECT_EQ(TextOf("txtDollars"), "20.00");
     EXPECT_EQ(global.Dollars, "20.00");
@@ -245,20 +241,20 @@ TEST_F(KenoWindow, TheWagerSetsTheAmountUntilTheFirstTicketIsStored) {
 
 TEST_F(KenoWindow, AfterCancelTheWagerSetsTheAmountAgain) {
     ShowKeno();
-    PutCount(2);
+    OneSheet(2);
     PutChoices("2", "2.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     Click("cmdCancel");
-    PutCount(1);
+    OneSheet(1);
     PutChoices("2", "5.00");
     EXPECT_EQ(TextOf("txtDollars"), "5.00");
 }
 
 TEST_F(KenoWindow, ADisabledAmountLeavesTheWagerAlone) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Window().Enter.txtDollars.SetEnabled(false);
     Put("cboWager", "5.00");
     EXPECT_EQ(global.Wager, 5);
@@ -270,11 +266,11 @@ TEST_F(KenoWindow, ADisabledAmountLeavesTheWagerAlone) {
 
 TEST_F(KenoWindow, OnTheSecondSheetTheWagerTouchesNothing) {
     ShowKeno();
-    PutCount(3, 2, 1);
+    SeveralSheets(3, 2, 1);
     PutChoices("2", "2.00");
     EXPECT_EQ(TextOf("txtDollars"), "6.00");
-    Tick({1, 2});
-    SaveSheet();
+    Pick({1, 2});
+    SaveSheet(false);
     PutChoices("2", "10.00");
     EXPECT_EQ(TextOf("txtDollars"), "6.00");
     EXPECT_EQ(global.Wager, 2);
@@ -282,7 +278,7 @@ TEST_F(KenoWindow, OnTheSecondSheetTheWagerTouchesNothing) {
 
 TEST_F(KenoWindow, AnEmptyWagerIsAskedForAndNoClickGetsPast) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Click("cboWager");
     ExpectMissingWager();
     Click("cboNoOfBallsPerTicket");
@@ -297,73 +293,73 @@ TEST_F(KenoWindow, AnEmptyWagerIsAskedForAndNoClickGetsPast) {
 
 TEST_F(KenoWindow, ATicketWithoutAWagerIsSavedWithZero) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutBalls("2");
-    Tick({1, 2});
-    SaveLastSheet();
+    Pick({1, 2});
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Wager FROM PlayedONTKeno"), Texts{"0"});
 }
 
 TEST_F(KenoWindow, BallsTypedBeyondTenAreKeptAsTypedButTenAreWritten) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("12", "1.00");
-    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    SaveLastSheet();
+    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), Texts{"1|2|3|4|5|6|7|8|9|10|1|12|0"});
 }
 
 TEST_F(KenoWindow, RegularIsWrittenForItsOwnTicketOnly) {
     ShowKeno();
-    PutCount(2);
+    OneSheet(2);
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("chkRegular");
     Click("cmdNext_Ticket");
     Click("chkNumb(2)");
     Click("chkRegular");
-    Tick({4});
-    SaveLastSheet();
+    Pick({4});
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedONTKeno ORDER BY ID1"), (Texts{"1", "0"}));
 }
 
 TEST_F(KenoWindow, AReenteredTicketOfFewerBallsLeavesNoOldOnes) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("4", "1.00");
-    Tick({1, 2, 3, 4});
+    Pick({1, 2, 3, 4});
     Click("cmdCorrection");
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_EQ(Ticked(), std::vector<int>{});
     EXPECT_EQ(Focus(), "chkNumb(0)");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 1");
     Put("cboNoOfBallsPerTicket", "2");
-    Tick({60, 50});
-    SaveLastSheet();
+    Pick({60, 50});
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), Texts{"50|60|0|0|0|0|0|0|0|0|1|2|0"});
 }
 
 TEST_F(KenoWindow, SlotsOfAnEarlierSheetDoNotShineThrough) {
     ShowKeno();
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     PutChoices("4", "1.00");
-    Tick({1, 2, 3, 4});
-    SaveSheet();
+    Pick({1, 2, 3, 4});
+    SaveSheet(false);
     Put("cboNoOfBallsPerTicket", "2");
-    Tick({5, 6});
-    SaveLastSheet();
+    Pick({5, 6});
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), (Texts{"1|2|3|4|0|0|0|0|0|0|1|4|0", "5|6|0|0|0|0|0|0|0|0|1|2|0"}));
 }
 
 TEST_F(KenoWindow, ATicketThatWasReenteredIsNotOfferedForReentryAgain) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdCorrection");
     EXPECT_EQ(global.Correcting, 1);
     EXPECT_FALSE(IsEnabled("cmdSave"));
-    Tick({3, 4});
+    Pick({3, 4});
     EXPECT_EQ(global.Correcting, 0);
     EXPECT_FALSE(IsEnabled("cmdCorrection"));
     EXPECT_TRUE(IsEnabled("cmdSave"));
@@ -371,9 +367,9 @@ TEST_F(KenoWindow, ATicketThatWasReenteredIsNotOfferedForReentryAgain) {
 
 TEST_F(KenoWindow, ReentryLowersTheCountOfTicketsWithoutATestForZero) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     global.TicketNo = 0;
     Click("cmdCorrection");
     EXPECT_EQ(global.TicketNo, -1);
@@ -381,9 +377,9 @@ TEST_F(KenoWindow, ReentryLowersTheCountOfTicketsWithoutATestForZero) {
 
 TEST_F(KenoWindow, AChangeOfBallsAfterTheTicketCompletesNoOther) {
     ShowKeno();
-    PutCount(2);
+    OneSheet(2);
     PutChoices("4", "1.00");
-    Tick({1, 2, 3, 4});
+    Pick({1, 2, 3, 4});
     Put("cboNoOfBallsPerTicket", "2");
     Click("cmdNext_Ticket");
     EXPECT_EQ(global.TicketNo, 1);
@@ -392,10 +388,10 @@ TEST_F(KenoWindow, AChangeOfBallsAfterTheTicketCompletesNoOther) {
 
 TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "2");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Enter Encore");
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
@@ -421,7 +417,7 @@ TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
     person.Type("654321");
     person.Tab();
     EXPECT_EQ(Focus(), "cmdSave");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT \"Number 1\", \"Number 6\", Lottoflag FROM PlayedEncore ORDER BY ID1"),
               (Texts{"1|6|ONTKeno", "6|1|ONTKeno"}));
     // Stored again at each of these clicks with no box ticked: the numbers stay.
@@ -430,25 +426,25 @@ TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
 
 TEST_F(KenoWindow, StoringAgainWithoutNumbersWritesTheOtherFields) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     Click("chkRegular");
     EXPECT_EQ(Focus(), "cmdSave");
     Put("cboNoOfBallsPerTicket", "3");
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows(TicketRow), Texts{"1|2|0|0|0|0|0|0|0|0|1|3|1"});
 }
 
 TEST_F(KenoWindow, AShortEncoreHoldsEveryClick) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("12345");
     ExpectShortEncore();
@@ -462,10 +458,10 @@ TEST_F(KenoWindow, AShortEncoreHoldsEveryClick) {
 
 TEST_F(KenoWindow, AtlanticChoiceOpensNoEncoreField) {
     Show(Family::frmKeno70, "ATLChoice", "Encore");
-    PutCount(1);
+    OneSheet(1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Encore");
     EXPECT_FALSE(IsShown("txtEncore"));
@@ -474,7 +470,7 @@ TEST_F(KenoWindow, AtlanticChoiceOpensNoEncoreField) {
 
 TEST_F(KenoWindow, EnterInTheEncoreCountLeadsToTheGridWhenItIsOpen) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Click("txtNoOfExtra");
     person.Enter();
     EXPECT_EQ(Focus(), "txtNoOfExtra");
@@ -493,14 +489,14 @@ TEST_F(KenoWindow, EnterInTheCountAsksForAButtonOnAnotherTabAndStays) {
 
 TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
     ShowKeno();
-    PutCount(3, 2, 1);
+    SeveralSheets(3, 2, 1);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     person.Tab();
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
     EXPECT_EQ(TextOf("txtNoOfExtra"), "0");
@@ -517,9 +513,9 @@ TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
 
 TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     PutChoices("3", "2.00");
-    Tick({1, 2, 3});
+    Pick({1, 2, 3});
     RefuseToSave();
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_EQ(global.Wager, 0);
@@ -535,23 +531,17 @@ TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
 
 TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
     ShowKeno();
-    PutCount(2, 2);
+    SeveralSheets(2, 2);
     Put("txtNoOfExtra", "1");
     PutChoices("2", "1.00");
-    Tick({1, 2});
+    Pick({1, 2});
     Click("cmdNext_Ticket");
     person.Type("123456");
     person.Tab();
-    SaveSheet();
+    SaveSheet(false);
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"1"});
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
-    person.Expect("Cancelling before completion...",
-                  "Since you've already saved some tickets, your database will be incorrect.\r\n"
-                  "Would you like to clean up your database?\r\n"
-                  "(NOTE: This will delete ALL records with the same Draw Date as indicated\r\n"
-                  "in the Draw Date box above.)",
-                  Answer::Yes, BoxStyle::YesNoCancel);
-    person.Expect("Database Cleaned", "Database cleaned!");
+    ExpectCleanUp(Answer::Yes, "Cancelling before completion...");
     Click("cmdCancel");
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedONTKeno"), Texts{"0"});
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"0"});
@@ -561,7 +551,7 @@ TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
 
 TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {
     ShowKeno();
-    PutCount(1);
+    OneSheet(1);
     Type("txtDollars", ".50");
     person.Expect("ERROR",
                   "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
@@ -573,14 +563,14 @@ TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {
 TEST_F(KenoWindow, TheEightyGridOpensAtTheCountWithoutBallsOrWager) {
     ShowKeno80();
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
-    PutCount(1);
+    OneSheet(1);
     EXPECT_TRUE(IsEnabled("chkNumb(79)"));
     EXPECT_EQ(TextOf("txtDollars"), "1.00");
 }
 
 TEST_F(KenoWindow, TheListsOfTheEightyAreOutOfTheFlow) {
     ShowKeno80();
-    PutCount(1);
+    OneSheet(1);
     Visit("cboWager");
     Visit("cboNoOfBallsPerTicket");
     EXPECT_EQ(TextOf("cboNoOfBallsPerTicket"), "");
@@ -589,34 +579,34 @@ TEST_F(KenoWindow, TheListsOfTheEightyAreOutOfTheFlow) {
 
 TEST_F(KenoWindow, AnEightyTicketHasTwentyNumbersOfWhichTenAreWritten) {
     ShowKeno80();
-    PutCount(2);
-    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19});
+    OneSheet(2);
+    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19});
     EXPECT_EQ(global.TicketNo, 0);
-    Tick({80});
+    Pick({80});
     EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Click("cmdNext_Ticket");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #2 - Sheet 1 of 1");
     EXPECT_EQ(Focus(), "chkNumb(0)");
-    Tick({61, 62, 63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
+    Pick({61, 62, 63, 64, 65, 66, 67, 68, 69, 70, 71, 72, 73, 74, 75, 76, 77, 78, 79, 80});
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
-    SaveLastSheet();  // makes its table, which nothing has made before
+    SaveSheet(true);  // makes its table, which nothing has made before
     EXPECT_EQ(Rows("SELECT Ball_1, Ball_10, Wager, \"# of Balls\" FROM PlayedPrairieKeno ORDER BY ID1"),
               (Texts{"1|10|0|0", "61|70|0|0"}));
 }
 
 TEST_F(KenoWindow, NoLeavesTheEightyAsItIs) {
     ShowKeno80();
-    PutCount(1);
-    Tick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
+    OneSheet(1);
+    Pick({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
     RefuseToSave();
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_EQ(Ticked().size(), 20U);
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_EQ(global.TicketsSaved, 0);
-    SaveLastSheet();
+    SaveSheet(true);
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedPrairieKeno"), Texts{"1"});
 }
 

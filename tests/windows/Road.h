@@ -133,18 +133,23 @@ class Road : public MainWindow {
         EnterAddOns(sheet, addOns);
     }
 
-    void EnterTickets(const Purchase& purchase) {
-        const int onSheet = purchase.tickets / purchase.sheets;
+    // Leaves the count of tickets, more than one, spread evenly over the sheets.
+    void PutCount(int bought, int sheets = 1) {
         person.ExpectWindow("frmHowManySheets", [&](QWidget&) {
-            Type("txtNoOfSheets", std::to_string(purchase.sheets));
+            Type("txtNoOfSheets", std::to_string(sheets));
             Click("cmdOk");
         });
-        if (purchase.sheets > 1)
+        if (sheets > 1)
             person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
-                Type("txtNoOfTicketsOnSheet", std::to_string(onSheet));
+                Type("txtNoOfTicketsOnSheet", std::to_string(bought / sheets));
                 Click("cmdOk");
             });
-        Put("txtNoOfTickets(0)", std::to_string(purchase.tickets));
+        Put("txtNoOfTickets(0)", std::to_string(bought));
+    }
+
+    void EnterTickets(const Purchase& purchase) {
+        const int onSheet = purchase.tickets / purchase.sheets;
+        PutCount(purchase.tickets, purchase.sheets);
         if (IsPick(family)) WindowWorld::Click("optPlayOpt(0)");
         for (int sheet = 1; sheet <= purchase.sheets; ++sheet) {
             FillSheet(sheet, onSheet, purchase.addOns);

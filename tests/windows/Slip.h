@@ -34,15 +34,20 @@ class SlipWorld : public WindowWorld {
         if (tickets > 1) ExpectSheets("1");
         Count(std::to_string(tickets));
     }
-    // The answer to the question of "&Save Tickets".
-    void ExpectSaveQuestion(Answer answer) {
-        person.Expect("CONFIRM", "Save this sheet of tickets?", answer, BoxStyle::YesNo);
-        if (answer != Answer::Yes) person.Expect("CONFIRMED", "Tickets NOT Saved");
+    // An entry on several sheets, the first one with `onFirst` tickets (0: nobody asks, a ticket a sheet).
+    void SeveralSheets(int tickets, int sheets, int onFirst = 0) {
+        ExpectSheets(std::to_string(sheets));
+        if (onFirst > 0) ExpectTicketsOnSheet(std::to_string(onFirst));
+        Count(std::to_string(tickets));
     }
-    // Says Yes to saving a sheet that is not the last, or the last.
+    // Says Yes to saving a sheet that is not the last, or the last; or No.
     void SaveSheet(bool last) {
         ExpectSaveQuestion(Answer::Yes);
         person.Expect("CONFIRMED", last ? "Tickets Saved" : "Tickets Saved - Enter Next Sheet");
+        Click("cmdSave");
+    }
+    void RefuseToSave() {
+        ExpectSaveQuestion(Answer::No);
         Click("cmdSave");
     }
     static constexpr std::string_view CleanUpText =
@@ -57,6 +62,10 @@ class SlipWorld : public WindowWorld {
     void ExpectBadNumber() {
         person.Expect("Error!", "Please enter a valid number greater than or equal to 1.", Answer::Ok,
                       BoxStyle::Exclamation);
+    }
+    void ExpectShortEncore(Answer answer = Answer::Ok) {
+        person.Expect("Encore Too Short!", "Encore number too short. Please check the number and try again.",
+                      answer, BoxStyle::OkCancel);
     }
     std::string CountOf(const std::string& table) {
         return Rows("SELECT COUNT(*) FROM [" + table + "]").at(0);
