@@ -53,6 +53,7 @@ inline constexpr PerFamily<Go>   EnterInCount1      {{ Go::Extra, Go::Stay, Go::
 inline constexpr PerFamily<Go>   EnterInExtra       {{ Go::Box0, Go::Stay, Go::Stay, Go::Box0, Go::Stay, Go::List0, Go::Stay }};
 inline constexpr PerFamily<Cap>  ExtraLimit         {{ Cap::Sheet, Cap::Sheet, Cap::Ten, Cap::Sheet, Cap::None, Cap::Sheet, Cap::None }};
 inline constexpr PerFamily<std::string_view> PointAmount{{ "0.00", "0.00", "0.00", " 0.00", "0.00", "0.00", "0.00" }};
+inline constexpr PerFamily<bool> EmptyCountBecomesZero{{ no,  yes,   no,    no,    no,    no,    no    }};  // before the amount is reckoned; the others stay empty
 inline constexpr PerFamily<bool> CountOpensGrid     {{ yes,   yes,   yes,   no,    yes,   no,    no    }};
 inline constexpr PerFamily<bool> NotSavedReloads    {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
 inline constexpr PerFamily<bool> StoresBeforeAsk    {{ no,    no,    no,    no,    no,    yes,   yes   }};

@@ -240,11 +240,49 @@ TEST_F(EnterTickets, OnceAcceptedTheCountIsLeftOutOfTheTabOrder) {
     EXPECT_EQ(Focus(), "txtNoOfExtra");
 }
 
-TEST_F(EnterTickets, SuperSevensCountLeftEmptyOnTheReportsTabBecomesNought) {
-    Show("mnuCANONTSuper7");
-    Type("txtNoOfTickets(0)", "");
+TEST_F(EnterTickets, ACountLeftEmptyOnTheReportsTabBecomesNoughtInSuperSevenAlone) {
+    for (const char* menu :
+         {"mnuCANONTSuper7", "mnuCANONTLotto649", "mnuCANONTLOTTARIO", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
+        Show(menu);
+        Type("txtNoOfTickets(0)", "");
+        person.ClickTab("&Reports");
+        EXPECT_EQ(Window().txtNoOfTickets(0).Text(), Window().Which == Family::frm749 ? "0" : "") << menu;
+        Window().Leave();
+    }
+}
+
+TEST_F(EnterTickets, OnTheReportsTabTheAmountFollowsTheFieldThoughNoTicketIsAccepted) {
+    Show("mnuCANONTLotto649");
+    Type("txtNoOfTickets(0)", "5");
     person.ClickTab("&Reports");
-    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_EQ(global.NoOfTickets, 0);
+    EXPECT_EQ(global.Dollars, "5.00");
+}
+
+TEST_F(EnterTickets, MarksCountsAndChoicesAreLiveFromTheStart) {
+    const std::pair<const char*, Texts> games[] = {
+        {"mnuCANATLLotto649", {"chkEncore"}},
+        {"mnuCANONTLOTTARIO", {"txtNoOfExtra", "chkEarlybird"}},
+        {"mnuCANONTKENO", {"txtNoOfExtra", "cboNoOfBallsPerTicket", "cboWager"}},
+        {"mnuUSFLACash3", {"cboNumber(0)", "cboNumber(2)", "optPlayOpt(0)", "optOneDollar"}},
+        {"mnuUSFLAPlay4", {"cboNumber(3)", "optPlayOpt(1)", "optTwoDollars"}}};
+    for (const auto& [menu, live] : games) {
+        Show(menu);
+        for (const std::string& control : live) EXPECT_TRUE(IsEnabled(control)) << menu << ' ' << control;
+        EXPECT_TRUE(IsEnabled("chkRegular")) << menu;
+        for (const char* button : {"cmdNext_Ticket", "cmdCorrection", "cmdSave"})
+            EXPECT_FALSE(IsEnabled(button)) << menu << ' ' << button;
+        Window().Leave();
+    }
+}
+
+TEST_F(EnterTickets, OfTheTwoLabelsOfTheMoneyOneIsSeen) {
+    for (const Game& game : Games()) {
+        Show(game.menu);
+        const bool other = Exists("lblDollars") && IsShown("lblDollars");
+        EXPECT_NE(IsShown("lblDollarsSpent"), other) << game.menu;
+        Window().Leave();
+    }
 }
 
 TEST_F(EnterTickets, TheCloseBoxIsTheExitOfTheTabInFront) {

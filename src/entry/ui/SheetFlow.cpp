@@ -81,9 +81,11 @@ void SheetFlow::AskTicketsOnSheet() {
     window_.windows.ShowModal(question);
 }
 
+// By the field, not by the tickets accepted: on the way to the reports they may differ.
 void SheetFlow::DefaultTheAmount(forms::TextBox& count) {
-    if (count.Text().empty()) count.SetText("0");
-    window_.Enter.PutAmount(window_.Enter.Capture().AmountAtCount(window_.run.global.NoOfTickets));
+    if (count.Text().empty() && EmptyCountBecomesZero[window_.Which]) count.SetText("0");
+    const int tickets = count.Text().empty() ? 0 : int{IntegerPart(count.Text())};
+    window_.Enter.PutAmount(window_.Enter.Capture().AmountAtCount(tickets));
 }
 
 void SheetFlow::cmdNext_Ticket_Click() {
