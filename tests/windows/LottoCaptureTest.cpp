@@ -115,8 +115,46 @@ TEST_F(LottoCaptureTest, AMarkSticksInItsSlotForLaterSheetsOfTheSixNumberGames) 
 TEST_F(LottoCaptureTest, SuperSevenOffersNoFortyEightAndNoFortyNineOnceDressed) {
     Show("mnuCANBCSuper7");
     OneSheet(1);
+    EXPECT_TRUE(IsShown(Ball(47)));
+    EXPECT_FALSE(IsShown(Ball(48)));
+    EXPECT_FALSE(IsShown(Ball(49)));
     PickFrom(41, 7);
     EXPECT_EQ(Next(), "&Bonus Tickets");
+}
+
+TEST_F(LottoCaptureTest, WithoutASheetATicketOfTheBonusGamesLeadsNowhereEither) {
+    const std::pair<const char*, int> games[] = {{"mnuCANBCSuper7", 7}, {"mnuCANONTLOTTARIO", 6}};
+    for (const auto& [menu, numbers] : games) {
+        Show(menu);
+        ExpectCancelled("frmHowManySheets");
+        Count("2");
+        PickFrom(1, numbers);
+        EXPECT_EQ(global.TicketNo, 1) << menu;
+        EXPECT_FALSE(IsEnabled("cmdNext_Ticket")) << menu;
+        EXPECT_FALSE(IsEnabled("cmdSave")) << menu;
+        EXPECT_TRUE(IsEnabled("cmdCorrection")) << menu;
+        Window().Leave();
+    }
+}
+
+TEST_F(LottoCaptureTest, NoAndCancelInTheBonusPhaseBeginAgainWithBoughtTickets) {
+    for (const bool cancel : {false, true}) {
+        Show("mnuCANBCSuper7");
+        OneSheet(1);
+        TicketAndNext(1, 7);
+        TicketAndNext(2, 7);
+        PickFrom(3, 7);
+        ASSERT_EQ(Next(), "Next &Bonus");
+        if (cancel)
+            person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+        else ExpectSaveQuestion(Answer::No);
+        Click(cancel ? "cmdCancel" : "cmdSave");
+        EXPECT_EQ(Next(), "&Next Ticket");
+        EXPECT_EQ(Window().State.BonusPhase, 0);
+        EXPECT_TRUE(IsEnabled("chkRegular"));
+        EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+        Window().Leave();
+    }
 }
 
 TEST_F(LottoCaptureTest, ASuperSevenSheetOfTwoTicketsEndsAtTheSixth) {

@@ -130,16 +130,18 @@ void BonusCapture::chkNumb_Click(int Index) {
     const bool bonus = window_.State.BonusPhase == On;
     if (bonus) window_.Enter.chkRegular.SetEnabled(false);
     if (!CountNumber(Index)) return;
+    forms::CommandButton& next = window_.Enter.cmdNext_Ticket;
+    const bool bought = next.Caption() == NextTicket;
     grid_.SetOpen(false);
     window_.Enter.cmdCorrection.SetEnabled(true);
-    window_.Enter.cmdNext_Ticket.SetEnabled(true);
-    if (window_.Enter.cmdNext_Ticket.Caption() == NextTicket) {
-        g_.TicketNo += 1;
-        BoughtTicketComplete();
-    } else if (bonus) {
-        window_.Enter.cmdNext_Ticket.SetCaption(NextBonus);
+    if (bought) g_.TicketNo += 1;
+    if (!bought && bonus) {
+        next.SetCaption(NextBonus);
         CountBonusTicket();
     }
+    // A sheet of which nobody said how many tickets it holds leads nowhere.
+    next.SetEnabled(g_.TicketNo < SheetTotal());
+    if (bought) BoughtTicketComplete();
     if (g_.TicketNo == SheetTotal()) SheetComplete();
 }
 
