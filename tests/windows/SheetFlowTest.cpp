@@ -165,7 +165,8 @@ TEST_F(SheetFlowTest, DefaultAmountsFollowTheGame) {
 
 TEST_F(SheetFlowTest, QuebecFortyNinesAddOnBoxIsLiveOnceTheCountIsAccepted) {
     Show("mnuCANQCQuebec49");
-    Window().Enter.AddOns.chkEncore->SetEnabled(false);
+    EXPECT_TRUE(IsShown("chkEncore"));
+    EXPECT_FALSE(IsEnabled("chkEncore"));
     OneSheet(1);
     EXPECT_TRUE(IsEnabled("chkEncore"));
 }
@@ -334,6 +335,31 @@ TEST_F(HalfSaved, NoLeavesTheRowsAndTheWindow) {
     Click("cmdExit(0)");
     EXPECT_FALSE(Window().IsShown());
     EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    EXPECT_EQ(CountOf("Spent"), "0");
+}
+
+TEST_F(HalfSaved, TheCloseBoxAsksToCleanUpAsTheExitDoesFromAnyTab) {
+    Begin("mnuCANBCBC49");
+    Window().SSTab1.SetTab(Tab::Check);
+    ExpectCleanUp(Answer::Cancel);
+    person.Close(Window());
+    EXPECT_FALSE(Window().IsShown());
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+}
+
+TEST_F(HalfSaved, KenoCleansNoAddOnTableButEncores) {
+    Show(Family::frmKeno70, "ATLChoice", "Extra");
+    const std::string day = std::to_string(Date::FromText(Today).Day());
+    Do("INSERT INTO PlayedATLChoice (ID1, Date) VALUES (1, " + day + ")");
+    Click("txtDollars");
+    global.NoOfTickets = global.NoOfSheets = 2;
+    global.TicketsSaved = True;
+    Window().State.CurrentSheet = 2;
+    Window().State.SavedDate = Date::FromText(Today);
+    // PlayedExtra does not exist: touching it would show its box.
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedATLChoice"), "0");
 }
 
 TEST_F(HalfSaved, YesRemovesAllRowsOfTheDateFromBothTablesWhicheverGameTheyCarry) {
