@@ -49,7 +49,8 @@ Answer AnswerOf(int button) {
     }
 }
 
-// The lines of a text are broken where it says so, as long as the screen has room; Qt would break them sooner.
+// The lines of a text are broken where it says so, as long as the screen has room; Qt would break them
+// sooner.
 void KeepLinesWhole(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (!label) return;

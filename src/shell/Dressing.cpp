@@ -36,9 +36,9 @@ constexpr auto FourNumbers = std::to_array(
     {Show("lblNoOfExtra"), Show("txtNoOfExtra"), Hide("chkEncore"), Hide("txtEncore"),
      Caption("lblEncorePlayed", "Extra #'s Played:"), Hide("txtWinEncore"), Show("txtWin4", 4)});
 // Ontario counts its add-on tickets, of one number each. The caption lacks the colon of the pick games.
-constexpr auto CountedEncore = std::to_array(
-    {Caption("lblNoOfExtra", "# of Encore Played this Sheet"), Caption("lblExtra", "Encore Numbers"),
-     Hide("txtEncore"), Hide("txtWin4", 4)});
+constexpr auto CountedEncore =
+    std::to_array({Caption("lblNoOfExtra", "# of Encore Played this Sheet"),
+                   Caption("lblExtra", "Encore Numbers"), Hide("txtEncore"), Hide("txtWin4", 4)});
 // The others take one number for each ticket.
 constexpr auto OneNumber =
     std::to_array({Hide("lblNoOfExtra"), Hide("txtNoOfExtra"), Show("txtEncore"), Hide("txtWin4", 4)});
