@@ -62,6 +62,10 @@ INSTANTIATE_TEST_SUITE_P(Families, EveryWheel,
                          ::testing::Values(SixFortyNine, Super7, Lottario, DailyKeno, PrairieKeno),
                          NameOfCase);
 
+class EveryLottoWheel : public EveryWheel {};
+INSTANTIATE_TEST_SUITE_P(Families, EveryLottoWheel, ::testing::Values(SixFortyNine, Super7, Lottario),
+                         NameOfCase);
+
 TEST_P(EveryWheel, OpensOnHotWithItsBoxesClosed) {
     OpenQuickPick(GetParam());
     const std::string_view captions[] = {"Hot", "Cold", "Favourites", "Quick Pick"};
@@ -263,7 +267,7 @@ TEST_P(EveryWheel, TheSizeOfTheWheelGoesByTheTextAndKenoHasNone) {
         seven ? std::vector<std::pair<std::string_view, int>>{{"8", 8}, {"9", 72}, {"10", 720}, {"11", 1000}}
               : std::vector<std::pair<std::string_view, int>>{{"7", 7}, {"8", 56}, {"9", 504}, {"10", 1000}};
     for (const auto& [text, size] : sizes) {
-        if (Exists(Favs(0)) && IsEnabled(Favs(0)) && TextOf(Favs(0)).empty()) Type(Favs(0), "1");
+        if (IsEnabled(Favs(0)) && TextOf(Favs(0)).empty()) Type(Favs(0), "1");
         Put("txtHowMany", text);
         EXPECT_EQ(global.WheelSize, Lowest() == 0 ? 0 : size) << text;
     }
@@ -283,9 +287,8 @@ TEST_P(EveryWheel, MoreTicketsThanTheWheelHasAreWarnedOfInLottoWindows) {
     EXPECT_EQ(Kept(), Lowest() == 8 ? 8 : 7) << "the number was accepted before";
 }
 
-TEST_P(EveryWheel, TheWarningComesBehindARefusalToo) {
+TEST_P(EveryLottoWheel, TheWarningComesBehindARefusalToo) {
     OpenQuickPick(GetParam());
-    if (Lowest() == 0) return;
     Put("txtNoOfTickets(1)", "1001");
     Type("txtHowMany", "3");
     person.Expect("Number too Low",
@@ -296,9 +299,8 @@ TEST_P(EveryWheel, TheWarningComesBehindARefusalToo) {
     EXPECT_EQ(global.WheelSize, 1000);
 }
 
-TEST_P(EveryWheel, NothingLeadsPastANumberOfNumbersThatIsTooLow) {
+TEST_P(EveryLottoWheel, NothingLeadsPastANumberOfNumbersThatIsTooLow) {
     OpenQuickPick(GetParam());
-    if (Lowest() == 0) return;
     Click("txtHowMany");
     for (const auto* name : {"cmdGenerate", "cmdExit(1)", "optWheelType(3)"}) {
         person.Expect("Number too Low",
