@@ -19,7 +19,7 @@ namespace {
 using testing::ReportWorld;
 
 // What the process has mapped now, in bytes.
-rlim_t Mapped() {
+[[maybe_unused]] rlim_t Mapped() {
     rlim_t pages = 0;
     std::ifstream("/proc/self/statm") >> pages;
     return pages * static_cast<rlim_t>(sysconf(_SC_PAGESIZE));
