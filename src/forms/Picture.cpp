@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QTimer>
 
 #include "forms/Utf8.h"
 
@@ -24,21 +25,35 @@ void Picture::SetFile(std::string_view path) {
     Loaded();
 }
 
+void Picture::SetFileLater(std::string_view path, QSize size) {
+    sizeToCome_ = size;
+    later_ = path;
+    updateGeometry();
+}
+
+void Picture::LoadNow() {
+    if (!later_.empty()) SetFile(std::string(later_));
+}
+
 void Picture::Loaded() {
+    later_.clear();
     drawing_->setAspectRatioMode(Qt::KeepAspectRatio);
     updateGeometry();
     update();
 }
 
-QSize Picture::sizeHint() const { return drawing_->defaultSize(); }
+QSize Picture::DrawingSize() const { return later_.empty() ? drawing_->defaultSize() : sizeToCome_; }
+
+QSize Picture::sizeHint() const { return DrawingSize(); }
 
 int Picture::heightForWidth(int width) const {
-    const QSize size = drawing_->defaultSize();
+    const QSize size = DrawingSize();
     return size.width() > 0 ? width * size.height() / size.width() : 0;
 }
 
 // What a drawing has beyond its frame is not shown.
 void Picture::paintEvent(QPaintEvent*) {
+    if (!later_.empty()) QTimer::singleShot(0, this, &Picture::LoadNow);
     if (!drawing_->isValid()) return;
     QRectF frame(QPointF(0, 0), drawing_->defaultSize().scaled(size(), Qt::KeepAspectRatio));
     frame.moveCenter(QRectF(rect()).center());

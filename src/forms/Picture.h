@@ -1,8 +1,10 @@
 // A drawing, sharp at every size.
 #pragma once
 
+#include <QSize>
 #include <QWidget>
 #include <memory>
+#include <string>
 
 #include "forms/Control.h"
 
@@ -18,6 +20,9 @@ class Picture : public QWidget, public Control {
     void SetSvg(std::string_view svg);
     // A drawing from a file or from a resource (":/...").
     void SetFile(std::string_view path);
+    // As SetFile, for a drawing whose size, in pixels, is known beforehand: the window is shown without
+    // waiting for it, and the drawing follows as soon as the first frame is on the screen.
+    void SetFileLater(std::string_view path, QSize size);
     QSize sizeHint() const override;
     // Layouts keep the drawing's proportions where they can.
     bool hasHeightForWidth() const override { return true; }
@@ -28,8 +33,12 @@ class Picture : public QWidget, public Control {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    void LoadNow();
     void Loaded();
+    QSize DrawingSize() const;
     std::unique_ptr<QSvgRenderer> drawing_;
+    std::string later_;  // the file of a drawing that waits for the first frame
+    QSize sizeToCome_;
 };
 
 }  // namespace sorvane::forms

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
+#include <fstream>
 
 #include "Fixture.h"
 #include "forms/CheckBox.h"
@@ -16,6 +17,7 @@
 #include "forms/Picture.h"
 #include "forms/Rule.h"
 #include "forms/TextBox.h"
+#include "support/TempFolder.h"
 
 namespace sorvane::test {
 namespace {
@@ -493,6 +495,23 @@ TEST(Picture, ShowsADrawingAndNothingWhereThereIsNone) {
     empty.resize(10, 10);
     empty.grab();
     EXPECT_TRUE(empty.Visible());
+}
+
+TEST(Picture, WaitsForTheFirstFrameWithItsPlaceKept) {
+    const TempFolder folder;
+    const std::string path = folder.File("red.svg");
+    std::ofstream(path) << R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20">
+        <rect width="40" height="20" fill="#ff0000"/></svg>)";
+    Picture picture("Picture1");
+    picture.SetFileLater(path, QSize(40, 20));
+    EXPECT_EQ(QSize(40, 20), picture.sizeHint());
+    EXPECT_EQ(40, picture.heightForWidth(80));
+    picture.resize(80, 40);
+    EXPECT_NE(QColor(Qt::red), picture.grab().toImage().pixelColor(40, 20));
+    EXPECT_EQ(40, picture.heightForWidth(80));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QColor(Qt::red), picture.grab().toImage().pixelColor(40, 20));
+    EXPECT_EQ(QSize(40, 20), picture.sizeHint());
 }
 
 TEST(Rule, IsALineAcross) { EXPECT_EQ(QFrame::HLine, Rule("Line1").frameShape()); }

@@ -32,7 +32,7 @@ frmMain::frmMain(Run& run, Windows& windows, std::string applicationFolder, std:
     SetCaption(ProgramName);
     SetCloseButton(cmdExit);
     cmdExit.OnClick([this] { cmdExit_Click(); });
-    Picture1.SetFile(":/pictures/splash.svg");
+    Picture1.SetFileLater(":/pictures/splash.svg", QSize(720, 300));
     BuildMenu();
     LayOut();
 }
