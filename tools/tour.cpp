@@ -1,5 +1,5 @@
 // The guided tour: the program's own windows, used by real events through one evening of a player.
-//     tour [FOLDER] [--out FOLDER] [--dark] [--scale PERCENT]
+//     tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale PERCENT]
 #include <gtest/gtest.h>
 
 #include <QPalette>
@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "forms/Application.h"
+#include "support/Palettes.h"
 #include "support/Stage.h"
 #include "tour/Evening.h"
 
@@ -22,8 +23,8 @@ namespace fs = std::filesystem;
 
 struct Options {
     fs::path out = "tour-out";
-    bool dark = false;
-    int scale = 100;  // per cent
+    QPalette (*palette)() = nullptr;  // of the desktop, or another one
+    int scale = 100;                  // per cent
 };
 
 std::optional<Options> Read(int argc, char** argv) {
@@ -32,7 +33,9 @@ std::optional<Options> Read(int argc, char** argv) {
         const std::string_view word = argv[i];
         const bool last = i + 1 == argc;
         if (word == "--dark") {
-            options.dark = true;
+            options.palette = sorvane::test::DarkPalette;
+        } else if (word == "--contrast") {
+            options.palette = sorvane::test::HighContrastPalette;
         } else if (word == "--out" && !last) {
             options.out = argv[++i];
         } else if (word == "--scale" && !last) {
@@ -61,16 +64,6 @@ void ImagineScreen(const Options& options) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(screen.string()));
 }
 
-void Darken() {
-    QPalette palette(QColor(58, 58, 58), QColor(45, 45, 45));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Disabled, QPalette::Base, QColor(45, 45, 45));
-    palette.setColor(QPalette::Link, QColor(120, 180, 255));
-    palette.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    QApplication::setPalette(palette);
-}
-
 void Play(const fs::path& out) {
     sorvane::tour::Evening evening(out);
     evening.Play();
@@ -84,7 +77,8 @@ void Play(const fs::path& out) {
 int main(int argc, char** argv) {
     const std::optional<Options> options = Read(argc, argv);
     if (!options) {
-        std::fprintf(stderr, "usage: tour [FOLDER] [--out FOLDER] [--dark] [--scale 50...400]\n");
+        std::fprintf(stderr,
+                     "usage: tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale 50...400]\n");
         return 2;
     }
     testing::InitGoogleTest();
@@ -93,7 +87,7 @@ int main(int argc, char** argv) {
     int arguments = 1;
     sorvane::forms::Application application(arguments, argv);
     sorvane::test::SetStage();
-    if (options->dark) Darken();
+    if (options->palette) sorvane::test::SetDesktopPalette(options->palette());
     try {
         Play(options->out);
     } catch (const std::exception& failure) {

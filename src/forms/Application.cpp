@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <utility>
 
+#include "forms/Style.h"
+
 namespace sorvane::forms {
 
 namespace {
@@ -15,11 +17,16 @@ bool IsPress(const QObject& receiver, const QEvent& event) {
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+// The style is there before the application, which makes no other then.
+Application::Application(int& argc, char** argv) : QApplication((setStyle(new Style), argc), argv) {
     setQuitOnLastWindowClosed(false);
     installEventFilter(this);
-    connect(this, &QApplication::focusChanged, this,
-            [this](QWidget*, QWidget* now) { runtime_.FocusChanged(now); });
+    connect(this, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
+        // The ring is on the frame, which lists and boxes of several lines would not paint anew.
+        for (QWidget* widget : {before, now})
+            if (widget) widget->update();
+        runtime_.FocusChanged(now);
+    });
 }
 
 // Qt gives the focus inside notify, before the widget gets the press.

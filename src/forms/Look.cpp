@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace sorvane::forms::Look {
 
@@ -31,8 +32,40 @@ QColor Mix(const QColor& one, const QColor& other, double share) {
                             mix(one.blueF(), other.blueF()));
 }
 
-// Lines and bars need to be seen, not read.
-constexpr double LineContrast = 3.0;
+// Texts are read, lines and bars only seen, and the frames of groups divide. A little more than the 4.5 and 3
+// that are good for it, which the rounding of colours may take.
+constexpr double TextContrast = 4.6, LineContrast = 3.2, FrameContrast = 1.8;
+constexpr double PalerContrast = 0.75;  // of the enabled text
+
+// Moves an ink until it stands off all papers. Papers so different that no ink suits both are left alone.
+QColor ReadableOnAll(QColor ink, const std::vector<QColor>& papers, double ratio) {
+    for (const QColor& paper : papers) ink = Readable(ink, paper, ratio);
+    return ink;
+}
+
+// What lines are drawn on and around.
+std::vector<QColor> Grounds(const QPalette& palette, QPalette::ColorGroup group) {
+    std::vector<QColor> grounds;
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
+        grounds.push_back(palette.color(group, role));
+    return grounds;
+}
+
+// What stands on what.
+struct Texts {
+    QPalette::ColorRole ink;
+    std::vector<QPalette::ColorRole> papers;
+};
+
+// A disabled text that is told from an enabled one.
+void SetPaler(QPalette& palette, QPalette::ColorRole ink, QPalette::ColorRole paper) {
+    const QColor ground = palette.color(QPalette::Disabled, paper);
+    const QColor live = palette.color(QPalette::Active, ink), dead = palette.color(QPalette::Disabled, ink);
+    if (Look::Contrast(dead, ground) <
+        PalerContrast * Look::Contrast(live, palette.color(QPalette::Active, paper)))
+        return;
+    palette.setColor(QPalette::Disabled, ink, Look::Readable(Mix(live, ground, 0.5), ground, TextContrast));
+}
 
 }  // namespace
 
@@ -65,9 +98,12 @@ double Contrast(const QColor& one, const QColor& other) {
 
 QColor Readable(QColor ink, const QColor& paper, double ratio) {
     const QColor end = Contrast(Qt::black, paper) > Contrast(Qt::white, paper) ? Qt::black : Qt::white;
-    for (double share = 0.1; Contrast(ink, paper) < ratio && share <= 1.0; share += 0.1)
-        ink = Mix(ink, end, share);
-    return ink;
+    constexpr int Steps = 25;
+    ink = Mix(paper, ink, ink.alphaF());  // as it looks there
+    QColor moved = ink;
+    for (int step = 1; step <= Steps && Contrast(moved, paper) < ratio; ++step)
+        moved = Mix(ink, end, static_cast<double>(step) / Steps);
+    return moved;
 }
 
 Ball BallColours(const QPalette& palette, bool ticked, bool enabled) {
@@ -85,9 +121,59 @@ Ball BallColours(const QPalette& palette, bool ticked, bool enabled) {
     return {paper, Readable(palette.color(group, QPalette::Text), paper), ring};
 }
 
+Ball MarkColours(const QPalette& palette, bool ticked, bool enabled) {
+    const QColor ring = Edge(palette, enabled);
+    if (ticked && enabled) {
+        const QColor paper = palette.color(QPalette::Highlight);
+        return {paper, palette.color(QPalette::HighlightedText),
+                Readable(paper, palette.color(QPalette::Window), LineContrast)};
+    }
+    const QColor paper = palette.color(enabled ? QPalette::Base : QPalette::Window);
+    return {paper, palette.color(enabled ? QPalette::Text : QPalette::WindowText), ring};
+}
+
+QPalette Legible(QPalette palette) {
+    using P = QPalette;
+    const std::vector<Texts> all = {
+        {P::WindowText, {P::Window, P::Base}}, {P::Text, {P::Base, P::AlternateBase}},
+        {P::ButtonText, {P::Button}},          {P::PlaceholderText, {P::Base}},
+        {P::ToolTipText, {P::ToolTipBase}},    {P::Link, {P::Base, P::Window}},
+        {P::LinkVisited, {P::Base, P::Window}}};
+    for (const auto group : {P::Active, P::Inactive, P::Disabled}) {
+        for (const auto& [ink, papers] : all) {
+            std::vector<QColor> colours;
+            for (const auto paper : papers) colours.push_back(palette.color(group, paper));
+            palette.setColor(group, ink, ReadableOnAll(palette.color(group, ink), colours, TextContrast));
+        }
+        // Here the ground gives way, which is the accent of the whole window.
+        palette.setColor(group, P::Highlight,
+                         Readable(palette.color(group, P::Highlight),
+                                  palette.color(group, P::HighlightedText), TextContrast));
+    }
+    for (const auto& [ink, papers] : all) SetPaler(palette, ink, papers.front());
+    return palette;
+}
+
+QColor Edge(const QPalette& palette, bool enabled) {
+    const auto group = enabled ? QPalette::Active : QPalette::Disabled;
+    return ReadableOnAll(palette.color(group, QPalette::Mid), Grounds(palette, group), LineContrast);
+}
+
+QColor Page(const QPalette& palette) {
+    return Mix(palette.color(QPalette::Window), palette.color(QPalette::Base), 0.5);
+}
+
+QColor Frame(const QPalette& palette) {
+    return Readable(palette.color(QPalette::Mid), palette.color(QPalette::Window), FrameContrast);
+}
+
+QColor Shade(const QPalette& palette, double share) {
+    return Mix(palette.color(QPalette::Button), palette.color(QPalette::ButtonText), share);
+}
+
 QColor FocusRing(const QPalette& palette) {
-    return Readable(palette.color(QPalette::Active, QPalette::Highlight), palette.color(QPalette::Window),
-                    LineContrast);
+    return ReadableOnAll(palette.color(QPalette::Active, QPalette::Highlight),
+                         Grounds(palette, QPalette::Active), LineContrast);
 }
 
 QColor Hint(const QPalette& palette) {

@@ -36,6 +36,19 @@ struct Ball {
     QColor paper, ink, ring;
 };
 Ball BallColours(const QPalette& palette, bool ticked, bool enabled);
+// The colours of a box or circle to be ticked.
+Ball MarkColours(const QPalette& palette, bool ticked, bool enabled);
+
+// The palette with every text at least 4.5 : 1 on each ground that it may stand on, disabled ones too.
+QPalette Legible(QPalette palette);
+// The outline of fields and buttons: seen on the window as on their own ground.
+QColor Edge(const QPalette& palette, bool enabled);
+// The ground of a page with a tab, between window and field.
+QColor Page(const QPalette& palette);
+// The line around a group.
+QColor Frame(const QPalette& palette);
+// The colour of buttons, this much nearer to their text.
+QColor Shade(const QPalette& palette, double share);
 // The ring around the control that has the focus.
 QColor FocusRing(const QPalette& palette);
 // The text of hints in empty lists.

@@ -16,35 +16,12 @@
 #include "forms/Chart.h"
 #include "forms/ControlArray.h"
 #include "forms/NumberBall.h"
+#include "support/Palettes.h"
 
 namespace sorvane::test {
 namespace {
 
 using namespace forms;
-
-QPalette Dark() {
-    QPalette palette(QColor("#3b3f46"), QColor("#2b2e33"));
-    palette.setColor(QPalette::Base, QColor("#1e2024"));
-    palette.setColor(QPalette::Text, QColor("#e6e6e6"));
-    palette.setColor(QPalette::Disabled, QPalette::Text, QColor("#6f737a"));
-    palette.setColor(QPalette::Highlight, QColor("#5b8def"));
-    palette.setColor(QPalette::PlaceholderText, QColor("#5a5e66"));
-    return palette;
-}
-
-QPalette HighContrast() {
-    QPalette palette(Qt::black, Qt::black);
-    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
-        palette.setColor(role, Qt::white);
-    palette.setColor(QPalette::Base, Qt::black);
-    palette.setColor(QPalette::Highlight, Qt::yellow);
-    palette.setColor(QPalette::HighlightedText, Qt::black);
-    return palette;
-}
-
-std::vector<QPalette> Palettes() {
-    return {QApplication::palette(), QPalette(Qt::lightGray), Dark(), HighContrast()};
-}
 
 TEST(Look, ContrastIsOneToTwentyOne) {
     EXPECT_NEAR(21, Look::Contrast(Qt::black, Qt::white), 0.01);
@@ -63,7 +40,7 @@ TEST(Look, ReadableInkStandsOffEveryPaper) {
 }
 
 TEST(Look, BallsAndHintsAreReadableInEveryPalette) {
-    for (const QPalette& palette : Palettes())
+    for (const auto& [name, palette] : AllPalettes())
         for (const bool ticked : {false, true})
             for (const bool enabled : {false, true}) {
                 const Look::Ball ball = Look::BallColours(palette, ticked, enabled);
@@ -126,7 +103,7 @@ TEST(NumberBall, ArrowsGoToTheNearestEnabledBallInTheirDirection) {
 QImage Grey(NumberBall& ball) { return ball.grab().toImage().convertToFormat(QImage::Format_Grayscale8); }
 
 TEST(NumberBall, StatesDifferWithoutColour) {
-    for (const QPalette& palette : Palettes()) {
+    for (const auto& [name, palette] : AllPalettes()) {
         LoggingWindow window;
         CommandButton other("cmdOther", "Other");
         NumberBall ball("chkNumb(0)", "17");
@@ -283,15 +260,16 @@ TEST_F(Bars, HoveringABarShowsItsValue) {
 
 TEST_F(Bars, FollowsThePalette) {
     Open(window);
-    window.setPalette(Dark());
+    window.setPalette(DarkPalette());
     Person::Settle();
-    EXPECT_EQ(Dark().color(QPalette::Base), View()->chart()->backgroundBrush().color());
-    EXPECT_GE(Look::Contrast(View()->chart()->titleBrush().color(), Dark().color(QPalette::Base)), 4.5);
-    EXPECT_GE(Look::Contrast(Set().color(), Dark().color(QPalette::Base)), 3);
+    EXPECT_EQ(DarkPalette().color(QPalette::Base), View()->chart()->backgroundBrush().color());
+    EXPECT_GE(Look::Contrast(View()->chart()->titleBrush().color(), DarkPalette().color(QPalette::Base)),
+              4.5);
+    EXPECT_GE(Look::Contrast(Set().color(), DarkPalette().color(QPalette::Base)), 3);
 }
 
 TEST_F(Bars, TwoColumnsDifferInLightnessToo) {
-    for (const QPalette& palette : Palettes()) {
+    for (const auto& [name, palette] : AllPalettes()) {
         const QColor spent = Look::Series(palette, 0), won = Look::Series(palette, 1);
         EXPECT_GE(Look::Contrast(spent, won), 1.3);
     }

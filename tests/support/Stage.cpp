@@ -4,21 +4,31 @@
 #include <QFont>
 #include <QLocale>
 #include <QProxyStyle>
-#include <QStyleFactory>
 #include <cstdio>
+
+#include "forms/Style.h"
+#include "support/Palettes.h"
 
 namespace sorvane::test {
 
 namespace {
 
-// Nothing moves by itself.
+// Nothing moves by itself; the palette is that of the desktop.
 class StillStyle : public QProxyStyle {
   public:
-    StillStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+    explicit StillStyle(const QPalette& palette) : QProxyStyle(new forms::Style), palette_(palette) {}
+    using QProxyStyle::polish;
+    void polish(QPalette& palette) override {
+        palette = palette_;
+        QProxyStyle::polish(palette);
+    }
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         return hint == SH_Widget_Animation_Duration ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
     }
+
+  private:
+    QPalette palette_;
 };
 
 // What the platform without a screen can't do needs no line for each window.
@@ -38,9 +48,11 @@ void PrepareStage() {
 }
 
 void SetStage() {
-    QApplication::setStyle(new StillStyle);
+    SetDesktopPalette(LightPalette());
     QApplication::setFont(QFont("DejaVu Sans", 10));
     QApplication::setCursorFlashTime(0);
 }
+
+void SetDesktopPalette(const QPalette& palette) { QApplication::setStyle(new StillStyle(palette)); }
 
 }  // namespace sorvane::test
