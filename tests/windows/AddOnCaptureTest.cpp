@@ -550,6 +550,27 @@ TEST_F(AddOnWindow, The649KeepsThePhaseSoASheetWithoutExtraFailsAtItsEmptyBoxes)
     EXPECT_EQ(CountOf("PlayedExtra"), "1");
 }
 
+TEST_F(AddOnWindow, TheEmptyBoxesOfAKeptPhaseFailWhateverTicketTheyWouldHaveBeen) {
+    Show("mnuCANBCLotto649");
+    SeveralSheets(4, 2, 2);
+    Put("txtNoOfExtra", "2");
+    for (int ticket = 0; ticket < 2; ++ticket) {
+        TickSix();
+        Click("cmdNext_Ticket");
+    }
+    PutPlay4("1", "2", "3", "4");
+    Click("cmdNext_Ticket");
+    PutPlay4("5", "6", "7", "8");
+    SaveSheet(false);
+    Put("txtNoOfExtra", "0");
+    TickSix();
+    Click("cmdNext_Ticket");
+    TickSix();
+    SaveFails(13);
+    EXPECT_EQ(CountOf("PlayedLotto649"), "4");
+    EXPECT_EQ(CountOf("PlayedExtra"), "2");
+}
+
 TEST_F(AddOnWindow, The749EndsThePhaseAtANewSheet) {
     Show("mnuCANBCSuper7");
     SeveralSheets(2, 2);

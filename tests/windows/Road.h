@@ -15,6 +15,7 @@ namespace sorvane::test {
 
 inline constexpr std::string_view Sorry = "Sorry. This ticket is not a winner.";
 inline constexpr const char* SecondNumber = "987654";
+inline constexpr int MostLottarioEncores = 10;
 
 // The add-on of a region as a player types it, and what a full hit reads.
 struct AddOnRoad {
@@ -99,6 +100,14 @@ class Road : public MainWindow {
 
     bool CountsAddOns() const { return addOn && addOn->CountedOnSheet; }
 
+    // The most add-on tickets that a sheet of so many tickets takes. Only Lottario limits Encore; elsewhere
+    // two more than that are taken.
+    int MostAddOns(int onSheet) const {
+        if (!CountsAddOns()) return addOn ? 1 : 0;
+        if (addOn->ExtraFlag == "Extra") return onSheet;
+        return family == Family::frm645 ? MostLottarioEncores : MostLottarioEncores + 2;
+    }
+
     void TypeAddOn(int ticket) {
         if (addOn->ExtraFlag == "Extra") {
             for (int i = 0; i < 4; ++i)
@@ -139,7 +148,7 @@ class Road : public MainWindow {
             Type("txtNoOfSheets", std::to_string(sheets));
             Click("cmdOk");
         });
-        if (sheets > 1)
+        if (sheets > 1 && sheets != bought)
             person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
                 Type("txtNoOfTicketsOnSheet", std::to_string(bought / sheets));
                 Click("cmdOk");
@@ -153,13 +162,17 @@ class Road : public MainWindow {
         if (IsPick(family)) WindowWorld::Click("optPlayOpt(0)");
         for (int sheet = 1; sheet <= purchase.sheets; ++sheet) {
             FillSheet(sheet, onSheet, purchase.addOns);
-            ASSERT_TRUE(IsEnabled("cmdSave")) << game.menu;
-            person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo);
-            person.Expect("CONFIRMED",
-                          sheet == purchase.sheets ? "Tickets Saved" : "Tickets Saved - Enter Next Sheet",
-                          Answer::Ok, BoxStyle::Ok, [&, sheet] { ToldSaved(purchase, sheet); });
-            Click("cmdSave");
+            SaveSheet(sheet == purchase.sheets, [&, sheet] { ToldSaved(purchase, sheet); });
         }
+    }
+
+    // Saves the sheet in hand; `told` runs while the box says so.
+    void SaveSheet(bool last, std::function<void()> told = {}) {
+        ASSERT_TRUE(IsEnabled("cmdSave")) << game.menu;
+        person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo);
+        person.Expect("CONFIRMED", last ? "Tickets Saved" : "Tickets Saved - Enter Next Sheet", Answer::Ok,
+                      BoxStyle::Ok, std::move(told));
+        Click("cmdSave");
     }
 
     std::string BallFields() const {

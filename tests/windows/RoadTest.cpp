@@ -47,14 +47,91 @@ TEST_P(RoadTest, LeadsFromTheMenuToTheFileToTheVerdictAndSurvivesARestart) {
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(key.Win)), Texts{"1"});
 }
 
-std::vector<std::string_view> AllMenus() {
-    std::vector<std::string_view> menus;
-    for (const Game& game : Games()) menus.push_back(game.menu);
-    return menus;
+// Games whose sheets carry add-on tickets.
+class AddOnRoadTest : public RoadTest {
+  protected:
+    // A count that is one too many, where the window minds.
+    void RefuseOneMore(int onSheet) {
+        if (!CountsAddOns()) return;
+        const std::string refused = std::to_string(MostAddOns(onSheet) + 1);
+        PutCount(onSheet);
+        if (addOn->ExtraFlag == "Extra")
+            person.Expect("ERROR!",
+                          "Too many Extra tickets entered. Please enter a value less than\r\n"
+                          "or equal to the number of Tickets on this sheet.");
+        else if (family == Family::frm645)
+            person.Expect("Too Many Encore Tickets Entered",
+                          "Maximum number of 10 Encore Tickets per Sheet. Please try again.");
+        else return;
+        Put("txtNoOfExtra", refused);
+        EXPECT_EQ(TextOf("txtNoOfExtra"), "0");
+    }
+};
+
+TEST_P(AddOnRoadTest, TakesTheMostAddOnTicketsOfASheetAndJudgesEachOfThem) {
+    constexpr int onSheet = 10;
+    Start();
+    Inside([&] { RefuseOneMore(onSheet); });
+    const Purchase purchase{onSheet, 1, MostAddOns(onSheet)};
+    Inside([&] { EnterTickets(purchase); });
+    const std::string count = std::to_string(purchase.addOns);
+    EXPECT_EQ(Rows("SELECT COUNT(*), COUNT(DISTINCT ID1), MIN(Lottoflag) FROM " + std::string(addOn->Played)),
+              Texts{count + "|" + count + "|" + std::string(game.LottoFlag)});
+
+    Texts verdicts = Verdicts(), listed;
+    ExpectAddOns(listed, verdicts, purchase);
+    Inside([&] {
+        person.ClickTab("&Check Tickets");
+        TypeDraw();
+        Click("cmdCheck");
+        EXPECT_EQ(ListOf("lstEncorePlayed"), listed);
+        EXPECT_EQ(ListOf("lstMessage"), verdicts);
+    });
 }
 
-INSTANTIATE_TEST_SUITE_P(AllGames, RoadTest, ::testing::ValuesIn(AllMenus()),
-                         [](const auto& menu) { return std::string(menu.param); });
+// Games that count Encore tickets and keep the index of the last one for the next sheet.
+class EncoreRoadTest : public RoadTest {};
+
+TEST_P(EncoreRoadTest, ASheetWithoutEncoreAfterOneWithTwoIsSavedSilently) {
+    Start();
+    Inside([&] {
+        PutCount(2, 2);
+        FillSheet(1, 1, 2);
+        SaveSheet(false);
+        FillSheet(2, 1, 0);
+        SaveSheet(true);
+    });
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"2"});
+    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(key.Played) + " ORDER BY ID1"),
+              TicketTexts());
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM Spent"), Texts{"1"});
+}
+
+using Menus = std::vector<std::string_view>;
+
+Menus MenusOf(const std::function<bool(const Game&)>& wanted) {
+    Menus menus;
+    for (const Game& game : Games())
+        if (wanted(game)) menus.push_back(game.menu);
+    return menus;
+}
+Menus AllMenus() {
+    return MenusOf([](const Game&) { return true; });
+}
+Menus AddOnMenus() {
+    return MenusOf([](const Game& game) { return FindAddOn(game.ExtraFlag) != nullptr; });
+}
+Menus EncoreMenus() {
+    return MenusOf([](const Game& game) { return game.ExtraFlag == "Encore"; });
+}
+
+std::string NameOfMenu(const ::testing::TestParamInfo<std::string_view>& menu) {
+    return std::string(menu.param);
+}
+
+INSTANTIATE_TEST_SUITE_P(AllGames, RoadTest, ::testing::ValuesIn(AllMenus()), NameOfMenu);
+INSTANTIATE_TEST_SUITE_P(GamesWithAddOns, AddOnRoadTest, ::testing::ValuesIn(AddOnMenus()), NameOfMenu);
+INSTANTIATE_TEST_SUITE_P(GamesWithEncore, EncoreRoadTest, ::testing::ValuesIn(EncoreMenus()), NameOfMenu);
 
 }  // namespace
 }  // namespace sorvane::test

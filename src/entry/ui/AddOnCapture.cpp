@@ -66,6 +66,8 @@ int AddOnCapture::Count() const {
     return txtNoOfExtra && !txtNoOfExtra->Text().empty() ? int{CInt(txtNoOfExtra->Text())} : 0;
 }
 
+bool AddOnCapture::IsBought() const { return CountIsAboveZero() || chkEncore->Value() == 1; }
+
 bool AddOnCapture::CountIsAboveZero() const { return txtNoOfExtra && txtNoOfExtra->Text() > "0"; }
 
 void AddOnCapture::HideAtLoad() {
@@ -261,7 +263,7 @@ void AddOnCapture::EmptyPlay4() {
 
 void AddOnCapture::StoreAddOnTicket(int element) {
     AddOnTicket& ticket = g_.AddOnTickets(element);
-    const bool bought = CountIsAboveZero() || chkEncore->Value() == 1;
+    const bool bought = IsBought();
     const std::string number = txtEncore->Text();
     const int digits = g_.ExtraFlag == "WESTExtra" ? 7 : 6;
     ticket.DrawDate = window_.dtpEnterTickets(0).Value();
@@ -271,8 +273,9 @@ void AddOnCapture::StoreAddOnTicket(int element) {
 
 void AddOnCapture::StoreExtraTicket() {
     g_.ExtraTickets.RedimPreserve(g_.NoOfExtra);
-    ExtraTicket& ticket = g_.ExtraTickets(g_.ExtraNo);
+    ExtraTicket ticket;
     for (int i = 0; i < Play4Boxes; ++i) ticket.Numbers(i) = CInt(txtPlay4(i).Text());
+    g_.ExtraTickets(g_.ExtraNo) = ticket;
 }
 
 bool AddOnCapture::IsSaved() const { return (Saves[window_.Which] & KeyBit(g_.ExtraFlag)) != 0; }
@@ -286,7 +289,8 @@ void AddOnCapture::SaveSheet() {
 void AddOnCapture::SaveNumbers() {
     const AddOn& addOn = *FindAddOn(g_.ExtraFlag);
     WindowState& state = window_.State;
-    StoreAddOnTicket(addOn.CountedOnSheet ? int{g_.ExtraNo} : 0);
+    // ExtraNo may still be that of the sheet before, when this one has no add-on.
+    StoreAddOnTicket(addOn.CountedOnSheet && IsBought() ? int{g_.ExtraNo} : 0);
     state.TableName = addOn.Played;
     SaveAddOnTickets(window_.run, {state.DbName, state.TableName, state.WindowDate});
     chkEncore->SetValue(0);

@@ -96,6 +96,7 @@ class AddOnCapture {
     // The add-on number in hand is complete: on to the next one, or to saving.
     void NumberComplete();
     void OpenPhase(std::string_view next);
+    bool IsBought() const;
     void StoreExtraTicket();
     bool IsSaved() const;
     void SaveNumbers();
