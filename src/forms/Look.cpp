@@ -77,6 +77,10 @@ int DigitsWidth(const QWidget& widget, int digits) {
     return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + FontHeights(widget, 1.2);
 }
 
+int TitleWidth(const QWidget& window) {
+    return window.fontMetrics().horizontalAdvance(window.windowTitle()) + FontHeights(window, 9);
+}
+
 void Enlarge(QWidget& widget, double times) {
     QFont font = QApplication::font();
     font.setPointSizeF(font.pointSizeF() * times);

@@ -19,6 +19,8 @@ int Margin(const QWidget& widget);  // around the content of a window or page
 int BallSize(const QWidget& widget);
 // The width of so many digits, for fields of numbers.
 int DigitsWidth(const QWidget& widget, int digits);
+// The width at which a title bar shows the window's title whole beside its icon and buttons.
+int TitleWidth(const QWidget& window);
 
 // Sets the widget's font to so many times the size of the application's.
 void Enlarge(QWidget& widget, double times);

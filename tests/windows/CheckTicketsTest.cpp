@@ -733,6 +733,15 @@ TEST_F(PickCheck, TheListsHoldTheDigitsAndShowNothing) {
     }
 }
 
+TEST_F(PickCheck, TheListsTakeTheRoomOfAnAddOnListThatIsHidden) {
+    Open("mnuCANBCDAILY3");
+    const QRect played = Find("lstNumbersPlayed").geometry();
+    EXPECT_FALSE(IsShown("lstEncorePlayed"));
+    const int gap = Find("lstMessage").x() - played.right();
+    EXPECT_GT(gap, 0);
+    EXPECT_LT(gap, played.height() / 4);
+}
+
 TEST_F(PickCheck, OntariosEncoreIsClosedByUpdateStatsOnlyAndNotAskedFor) {
     Open("mnuCANONTPICK3");
     Window().Check.lstMessage.AddItem("old");

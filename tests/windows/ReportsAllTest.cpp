@@ -1,6 +1,7 @@
 // The report over all lotteries, and the question which report of a digit game is wanted.
 #include "MainWindow.h"
 #include "ReportsWorld.h"
+#include "forms/Look.h"
 #include "reports/ui/frmReport.h"
 #include "reports/ui/frmReportType.h"
 
@@ -170,6 +171,7 @@ class ReportTypeTest : public ReportsWorld {
 TEST_F(ReportTypeTest, AsksForOneOfFourTypesAndNoneIsChosenYet) {
     Ask([this] {
         EXPECT_EQ(person.Front().windowTitle().toStdString(), "Type of Report");
+        EXPECT_GE(person.Front().width(), forms::Look::TitleWidth(person.Front()));
         const std::string_view captions[] = {"Numbers By Position", "Triple Match", "Front Pairs",
                                              "Back Pairs"};
         for (int i = 0; i < 4; ++i) {

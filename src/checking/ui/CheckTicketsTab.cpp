@@ -193,8 +193,11 @@ QLayout* CheckTicketsTab::ListsRow() {
     const auto add = [&](forms::Label& label, forms::ListBox& list, int share) {
         label.SetBuddy(list);
         lists->addWidget(&label, 0, column);
-        lists->addWidget(&list, 1, column);
-        lists->setColumnStretch(column++, share);
+        lists->addWidget(&list, 1, column++);
+        // A stretch of the list, not of its column: the others take the room of one that is hidden.
+        QSizePolicy policy = list.sizePolicy();
+        policy.setHorizontalStretch(share);
+        list.setSizePolicy(policy);
     };
     add(lblNumbersPlayed, lstNumbersPlayed, IsKeno(window_.Which) ? 4 : 3);  // ten numbers stand in a row
     if (lstEncorePlayed) add(*lblEncorePlayed, *lstEncorePlayed, 2);

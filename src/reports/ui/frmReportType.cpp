@@ -32,7 +32,9 @@ void frmReportType::LayOut() {
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(margin, margin, margin, margin);
     whole->setSpacing(forms::Look::Space(*this));
-    optReportType.ForEach([&](forms::OptionButton& option, int) { whole->addWidget(&option); });
+    whole->addStrut(forms::Look::TitleWidth(*this));
+    optReportType.ForEach(
+        [&](forms::OptionButton& option, int) { whole->addWidget(&option, 0, Qt::AlignLeft); });
     whole->addSpacing(gap);
     whole->addStretch(1);
     auto* buttons = new QHBoxLayout;
