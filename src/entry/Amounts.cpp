@@ -1,5 +1,7 @@
 #include "entry/Amounts.h"
 
+#include <algorithm>
+
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
 
@@ -16,16 +18,20 @@ std::string DefaultAmount(Family family, std::string_view LottoFlag, int tickets
     return (family == Family::frmKeno70 ? " " : "") + Str(tickets) + ".00";
 }
 
-bool IsFlorida(std::string_view LottoFlag) { return LottoFlag == "FLACash3" || LottoFlag == "FLAPlay4"; }
+bool HasHalfWagers(std::string_view LottoFlag) {
+    const auto keys = GameKeys();
+    return std::any_of(keys.begin(), keys.end(),
+                       [&](const GameKey& key) { return key.HalfWagers && key.LottoFlag == LottoFlag; });
+}
 
 std::string WagerAmount(WagerOption option, std::string_view LottoFlag, int tickets) {
     const Currency count = Currency::FromInt(tickets);
     switch (option) {
         case WagerOption::One:
-            if (!IsFlorida(LottoFlag)) return Format(count, "###.00");
+            if (!HasHalfWagers(LottoFlag)) return Format(count, "###.00");
             return Format(Currency::FromTenThousandths(Currency::Scale / 2) * tickets, "###.#0");
         case WagerOption::Two:
-            return Format(IsFlorida(LottoFlag) ? count : count * 2, "###.00");
+            return Format(HasHalfWagers(LottoFlag) ? count : count * 2, "###.00");
         case WagerOption::Five:
             return Format(count * 5, "###.00");
         case WagerOption::Ten:

@@ -13,8 +13,8 @@ std::string DefaultAmount(Family family, std::string_view LottoFlag, int tickets
 
 enum class WagerOption { One, Two, Five, Ten };
 
-// In the Florida games the option means the wager doubled: "$1.00" is a $0.50 play.
-bool IsFlorida(std::string_view LottoFlag);
+// Whether the options mean the wager doubled, as in the Florida games: "$1.00" is a $0.50 play.
+bool HasHalfWagers(std::string_view LottoFlag);
 
 // The amount of a dollar option for so many tickets, as text: ".50", "5.00".
 std::string WagerAmount(WagerOption option, std::string_view LottoFlag, int tickets);

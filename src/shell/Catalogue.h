@@ -3,6 +3,7 @@
 // name.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <span>
 #include <string>
@@ -57,6 +58,9 @@ struct GameKey {
     bool CheckNamesTables = true;          // a check sets TableName for this key
     bool CreatesAtLoad = true;             // the window's CreateAllTables knows the key
     bool HalfPrice = false;                // a ticket costs half a dollar
+    bool HalfWagers = false;               // digit games: an option means the wager doubled
+    // Digit games: what each option of optPlayOpt is called in the rows; empty: the option names nothing.
+    std::array<std::string_view, 4> Ways = {};
 };
 std::span<const GameKey> GameKeys();
 // The row of the key in this family; null when the family's comparison chain knows no such key.

@@ -9,6 +9,7 @@
 #include "entry/ui/GameWindow.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -21,20 +22,6 @@ constexpr std::array<int, 2> WaysShown{3, 2};  // of three digits, of four; a ga
 constexpr std::string_view FirstDigit = "0";
 constexpr int HighestDigit = 9;
 constexpr double DigitScale = 1.6;
-
-// What a way is called in the rows of each game, by its place among the options.
-struct Ways {
-    std::string_view LottoFlag;
-    std::array<std::string_view, 4> names;
-};
-constexpr Ways WaysOfGames[] = {
-    {"ONTPick3", {"Straight", "Box"}},
-    {"BCDaily3", {"Straight", "Scramble", "Straight & Scramble"}},
-    {"WESTPick3", {"Straight", "Box", "Straight & Scramble"}},
-    {"Quote3", {"Straight", "Box", "Straight & Scramble"}},
-    {"FLACash3", {"Straight", "Box", "StraightBox", "Combo"}},
-    {"FLAPlay4", {"Straight", "Box"}},
-};
 
 }  // namespace
 
@@ -142,9 +129,9 @@ void DigitCapture::EnableLists(bool enabled) {
 void DigitCapture::FocusFirst() { cboNumber(0).SetFocus(); }
 
 void DigitCapture::optPlayOpt_Click(int Index) {
-    for (const Ways& ways : WaysOfGames)
-        if (ways.LottoFlag == g_.LottoFlag && !ways.names.at(static_cast<std::size_t>(Index)).empty())
-            g_.PlayOption = ways.names.at(static_cast<std::size_t>(Index));
+    const GameKey* key = FindKey(window_.Which, g_.LottoFlag);
+    const std::string_view way = key ? key->Ways.at(static_cast<std::size_t>(Index)) : std::string_view();
+    if (!way.empty()) g_.PlayOption = way;
     // Straight/Box costs at least two units.
     if (g_.LottoFlag != "FLACash3" || Index != 2 || !optOneDollar.Value()) return;
     optOneDollar.SetValue(false);
@@ -156,12 +143,12 @@ void DigitCapture::TakeWager(WagerOption option) {
     g_.Dollars = WagerAmount(option, g_.LottoFlag, tickets);
     window_.Enter.txtDollars.SetText(g_.Dollars);
     // The way goes, but PlayOption keeps its name.
-    if (option == WagerOption::One && IsFlorida(g_.LottoFlag) && optPlayOpt(2).Value())
+    if (option == WagerOption::One && HasHalfWagers(g_.LottoFlag) && optPlayOpt(2).Value())
         optPlayOpt(2).SetValue(false);
 }
 
 std::string DigitCapture::AmountAtCount(int tickets) const {
-    if (!IsFlorida(g_.LottoFlag)) return DefaultAmount(window_.Which, g_.LottoFlag, tickets);
+    if (!HasHalfWagers(g_.LottoFlag)) return DefaultAmount(window_.Which, g_.LottoFlag, tickets);
     if (optOneDollar.Value()) return WagerAmount(WagerOption::One, g_.LottoFlag, tickets);
     if (optTwoDollars.Value()) return WagerAmount(WagerOption::Two, g_.LottoFlag, tickets);
     return g_.Dollars;
