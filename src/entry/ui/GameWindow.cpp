@@ -66,14 +66,7 @@ void GameWindow::Form_Load() {
     ClearCountersAtLoad();
     Enter.AddOns.EmptyCount();
     Enter.Capture().ForgetChoices();
-    Enter.Capture().Load();
-    Enter.FirstCaption();
-    Enter.Capture().Close();
-    SetDates();
-    Enter.StartAmount();
-    Enter.TurnButtonsOff();
-    Reports.ClearCharts();
-    SSTab1.SetTab(Tab::Enter);
+    ShowFirstSheet();
 }
 
 void GameWindow::cmdCancel_Click() {
@@ -89,14 +82,7 @@ void GameWindow::cmdCancel_Click() {
     run.global.RecheckAccepted = True;
     QuickPick.ChooseHot();
     ClearCountersAtCancel();
-    Enter.Capture().Load();
-    Enter.FirstCaption();
-    Enter.Capture().Close();
-    SetDates();
-    Enter.StartAmount();
-    Enter.TurnButtonsOff();
-    Reports.ClearCharts();
-    SSTab1.SetTab(Tab::Enter);
+    ShowFirstSheet();
     Enter.EmptyFields();
     Enter.ShowTitle("Ticket #", 1);
     txtNoOfTickets(0).SetFocus();
@@ -138,6 +124,17 @@ void GameWindow::ClearCountersAtCancel() {
     g.TotalTickets = g.NoOfTickets = g.SheetTickets = g.NoOfSheets = g.NoOfTicketsOnSheet = 0;
     g.TicketNo = g.ExtraNo = g.NoOfExtra = g.NumbersPicked = 0;
     g.EnteringAddOns = Off;
+}
+
+void GameWindow::ShowFirstSheet() {
+    Enter.Capture().Load();
+    Enter.FirstCaption();
+    Enter.Capture().Close();
+    SetDates();
+    Enter.StartAmount();
+    Enter.TurnButtonsOff();
+    Reports.ClearCharts();
+    SSTab1.SetTab(Tab::Enter);
 }
 
 void GameWindow::SetDates() {

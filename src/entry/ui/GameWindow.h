@@ -70,6 +70,7 @@ class GameWindow final : public forms::Window {
     void ForgetSaves();
     void ClearCountersAtLoad();
     void ClearCountersAtCancel();
+    void ShowFirstSheet();
     void SetDates();
     void cmdCancel_Click();
     void cmdExit_Click();
