@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <algorithm>
+#include <cstdlib>
 
 #include "forms/Runtime.h"
 #include "forms/Utf8.h"
@@ -72,7 +73,11 @@ Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view t
             box.setEscapeButton(button);
             break;
         }
-    return AnswerOf(box.exec());
+    const int button = box.exec();
+    // Still up: the program was told to end, so that no loop of events runs any more. Who asks until
+    // something is mended would ask without end.
+    if (box.isVisible()) std::_Exit(EXIT_SUCCESS);
+    return AnswerOf(button);
 }
 
 }  // namespace sorvane::forms

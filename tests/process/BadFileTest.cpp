@@ -1,7 +1,14 @@
 // What may stand at the place of the program's file, and what becomes of it under a running program. The
 // probing of a table has no end of its own: the cause is mended while a box is up.
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -182,6 +189,28 @@ TEST_F(BadFiles, AFileThatAnotherProgramHoldsIsToldUntilItIsFree) {
     EXPECT_EQ(Count("PlayedBC49"), "2");
 }
 
+TEST_F(BadFiles, AWindowOpensOnceTheProgramThatHoldsTheFileLetsGo) {
+    OtherProgram other(path_.string());
+    Start();
+    other.Do("BEGIN EXCLUSIVE");
+    ExpectLoop(3260, 2, [&] { other.Do("ROLLBACK"); });
+    Inside([&] { EXPECT_EQ(person.Awaited(), 0); });
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, AWindowOpensOnceTheProgramThatWritesIntoTheFileHasDone) {
+    OtherProgram other(path_.string());
+    Start();
+    other.Do("BEGIN IMMEDIATE");
+    // Reading is not in the way: that a table is missing is no news, that it can't be made is.
+    for (int pass = 1; pass <= 2; ++pass)
+        ExpectRefusal(3260, [&, pass] {
+            if (pass == 2) other.Do("ROLLBACK");
+        });
+    Inside([&] { EXPECT_EQ(person.Awaited(), 0); });
+    ExpectUsable();
+}
+
 TEST_F(BadFiles, ASheetSavedWhileAnotherProgramWritesIsRefusedAndTheEntryGoesOn) {
     OtherProgram other(path_.string());
     Start();
@@ -248,6 +277,51 @@ TEST_F(BadFiles, AFolderThatMayNotBeWrittenTakesNoFileUntilItMay) {
     });
     Start();
     ExpectUsable();
+}
+
+// Starts the program over a file that is no database, about which it asks without end; the boxes are read and
+// answered, and `act` runs in the third. An alarm ends what nothing else ends.
+void Asking(void (*act)()) {
+    constexpr unsigned Patience = 20;
+    alarm(Patience);
+    TempFolder place;
+    fs::create_directory(place / "data");
+    std::ofstream(place / "data" / "sorvane.mdb") << std::string(4096, 'x');
+    testing::FixedClock clock{Date::FromYmd(2026, 3, 14)};
+    testing::FixedRandom random;
+    testing::RecordingPrinter printer;
+    testing::RecordingTools tools;
+    forms::MessageBoxes boxes;
+    Dao::Engine engine;
+    Services services{boxes, printer, clock, random, tools, engine};
+    Global global;
+    Run run{global, services};
+    Windows windows{run};
+    frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
+    int shown = 0;
+    QTimer reader;
+    QObject::connect(&reader, &QTimer::timeout, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        if (++shown == 3) act();
+        else box->button(QMessageBox::Ok)->click();
+    });
+    reader.start(0);
+    main.Load();
+}
+
+TEST(EndlessBoxesDeathTest, ASignalEndsTheProgram) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(Asking([] { kill(getpid(), SIGTERM); }), ::testing::KilledBySignal(SIGTERM), "");
+}
+
+TEST(EndlessBoxesDeathTest, TheEndOfTheSessionEndsTheProgram) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(Asking([] {
+                    QEvent quit(QEvent::Quit);
+                    QCoreApplication::sendEvent(qApp, &quit);
+                }),
+                ::testing::ExitedWithCode(EXIT_SUCCESS), "");
 }
 
 }  // namespace
