@@ -151,6 +151,14 @@ TEST_P(MainWriters, TheKeyIsTheCountPlusOneAndMayBeTaken) {
     EXPECT_EQ(Written(), Texts{Row(2, 1, "46096")});
 }
 
+TEST_P(MainWriters, TheKeyCountsOnBeyondSixteenBits) {
+    Plain().Do(
+        "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32768) "
+        "INSERT INTO Win (ID1, Date) SELECT i, 1 FROM n");
+    Write(1);
+    EXPECT_EQ(Plain().Rows("SELECT ID1 FROM Win WHERE Date <> 1"), Texts{"32769"});
+}
+
 TEST_P(MainWriters, TheFileIsFreeWhileTheQuestionIsUp) {
     Write(1);
     dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo,

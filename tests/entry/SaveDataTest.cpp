@@ -156,6 +156,27 @@ TEST_F(WritersTest, AKeyTakenAfterACleanUpShowsItsBoxAndTheRowsBeforeItStay) {
     EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "2,3");
 }
 
+TEST_F(WritersTest, KeysCountOnBeyondSixteenBits) {
+    constexpr int Many = 32'768;
+    const auto fill = [&](const std::string& table) {
+        world.Plain().Do("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
+                         std::to_string(Many) + ") INSERT INTO " + table + " (ID1, Date) SELECT i, 1 FROM n");
+    };
+    Open(Family::frm649, "Lotto649", "Encore");
+    g.NoOfTicketsOnSheet = g.NoOfExtra = 2;
+    g.Lotto6Tickets.Redim(2);
+    g.AddOnTickets.Redim(2);
+    g.Dollars = "2.00";
+    for (const auto& [table, save] :
+         {std::pair{"PlayedLotto649", &SaveLotto6Tickets}, std::pair{"PlayedEncore", &SaveAddOnTickets},
+          std::pair{"Spent", &StoreLedgerAmount}}) {
+        fill(table);
+        save(world.run, At(table));
+        const Names keys = world.Plain().Rows("SELECT ID1 FROM " + std::string(table) + " WHERE ID1 > 32768");
+        EXPECT_EQ(keys, std::string(table) == "Spent" ? Names{"32769"} : (Names{"32769", "32770"})) << table;
+    }
+}
+
 TEST_F(WritersTest, AMissingTableIsNamedInTheBox) {
     Open(Family::frm649, "BC49", "Extra");
     g.NoOfTicketsOnSheet = 1;

@@ -250,6 +250,23 @@ TEST_F(AddOnWindow, TheCheckTurnsItsNumberOnAndOff) {
     EXPECT_EQ(global.NoOfExtra, 0);
 }
 
+TEST_F(AddOnWindow, TheNumberIsClosedAtLoadInEveryWindowThatHasOne) {
+    const std::pair<Family, const char*> games[] = {{Family::frm649, "Lotto649"},
+                                                    {Family::frm749, "Super 7"},
+                                                    {Family::frm645, "Lottario"},
+                                                    {Family::frmKeno70, "ONTKeno"},
+                                                    {Family::frmPick3, "ONTPick3"}};
+    for (const auto& [family, key] : games) {
+        Show(family, key, "Encore");
+        EXPECT_FALSE(IsEnabled("txtEncore")) << key;
+        EXPECT_FALSE(IsShown("txtEncore")) << key;
+        EXPECT_EQ(IsShown("chkEncore"), family == Family::frm649 || family == Family::frm749) << key;
+        EXPECT_EQ(IsShown("txtNoOfExtra"), family != Family::frmPick3) << key;
+        EXPECT_EQ(IsShown("lblNoOfExtra"), family != Family::frmPick3) << key;
+        Window().Leave();
+    }
+}
+
 TEST_F(AddOnWindow, TheCheckTurnsTheNumberOverWhateverItWas) {
     Show("mnuCANQCLotto649");
     Window().Enter.AddOns.txtEncore->SetEnabled(true);
@@ -410,6 +427,27 @@ TEST_F(AddOnWindow, NoClickGetsPastAShortEncore) {
         EXPECT_EQ(Focus(), "txtEncore");
     }
     EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(AddOnWindow, NoClickGetsPastAShortEncoreInTheBonusGamesEither) {
+    for (const auto& [menu, numbers] : {std::pair{"mnuCANONTSuper7", 7}, std::pair{"mnuCANONTLOTTARIO", 6}}) {
+        Show(menu);
+        OneSheet(1);
+        Put("txtNoOfExtra", "1");
+        while (CaptionOf("cmdNext_Ticket") != "&Enter Encore") {
+            if (IsEnabled("cmdNext_Ticket")) Click("cmdNext_Ticket");
+            PickFrom(1, numbers);
+        }
+        Click("cmdNext_Ticket");
+        person.Type("12345");
+        for (const auto* button : {"cmdCancel", "cmdExit(0)"}) {
+            ExpectShortEncore();
+            Click(button);
+            EXPECT_EQ(Focus(), "txtEncore") << menu;
+        }
+        EXPECT_TRUE(Window().IsShown());
+        Window().Leave();
+    }
 }
 
 TEST_F(AddOnWindow, OfTwelveDigitsTheFirstSixAreStored) {
@@ -678,6 +716,9 @@ TEST_F(AddOnWindow, WesternExtraNeverTickedFailsTheSame) {
     SaveFails(9);
     EXPECT_EQ(CountOf("PlayedSuper7"), "3");
     EXPECT_TRUE(IsEnabled("cmdSave"));
+    SaveFails(9);
+    EXPECT_EQ(CountOf("PlayedSuper7"), "6");
+    EXPECT_EQ(CountOf("Spent"), "0");
 }
 
 TEST_F(AddOnWindow, AnEncoreCountNeverLeftFailsTheSame) {
@@ -685,12 +726,18 @@ TEST_F(AddOnWindow, AnEncoreCountNeverLeftFailsTheSame) {
     Type("txtNoOfTickets(0)", "1");
     Click("chkRegular");
     TickSix();
-    SaveFails(9);
-    EXPECT_EQ(CountOf("PlayedLotto649"), "1");
+    for (const char* rows : {"1", "2"}) {
+        SaveFails(9);
+        EXPECT_EQ(CountOf("PlayedLotto649"), rows);
+        EXPECT_TRUE(IsEnabled("cmdSave"));
+    }
+    EXPECT_EQ(CountOf("Spent"), "0");
 }
 
 TEST_F(AddOnWindow, OnceSizedAnywhereInTheRunSheetsWithoutAnAddOnAreSavedSilently) {
-    global.AddOnTickets.Redim(0);
+    Show("mnuCANONTKENO");
+    Visit("txtNoOfExtra");
+    Click("cmdExit(0)");
     EnterTicket("mnuCANATLLotto649");
     SaveSheet(true);
     EXPECT_EQ(CountOf("PlayedTag"), "0");
@@ -701,8 +748,12 @@ TEST_F(AddOnWindow, Ontario49WithItsCheckTickedFailsAtTheHiddenZero) {
     EnterTicket("mnuCANONTONT49");
     Click("chkEncore");
     EXPECT_FALSE(IsShown("txtEncore"));
-    SaveFails(13);
-    EXPECT_EQ(CountOf("PlayedOntario49"), "1");
+    for (const char* rows : {"1", "2"}) {
+        SaveFails(13);
+        EXPECT_EQ(CountOf("PlayedOntario49"), rows);
+        EXPECT_TRUE(IsEnabled("cmdSave"));
+    }
+    EXPECT_EQ(CountOf("Spent"), "0");
 }
 
 TEST_F(AddOnWindow, WesternExtraHasSevenDigits) {
@@ -717,8 +768,13 @@ TEST_F(AddOnWindow, WesternExtraWithSixDigitsFailsAtTheSeventh) {
     EnterSuper7("mnuCANWESTSuper7");
     Click("chkEncore");
     Put("txtEncore", "123456");
-    SaveFails(13);
+    for (const char* rows : {"3", "6"}) {
+        SaveFails(13);
+        EXPECT_EQ(CountOf("PlayedSuper7"), rows);
+        EXPECT_TRUE(IsEnabled("cmdSave"));
+    }
     EXPECT_EQ(CountOf("PlayedWESTExtra"), "0");
+    EXPECT_EQ(CountOf("Spent"), "0");
 }
 
 TEST_F(AddOnWindow, WithoutANumberWesternExtraHasTheSentinelInSevenSlots) {

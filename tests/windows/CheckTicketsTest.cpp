@@ -301,6 +301,50 @@ TEST_F(SixNumberCheck, KeysInTheWinningBoxesAreGuardedAndEnterIsARefusedKey) {
     EXPECT_EQ(Focus(), "txtWin6(1)");
 }
 
+TEST_F(SixNumberCheck, LettersPastedIntoABoxAreOutOfItsRange) {
+    OpenOntario();
+    for (const char* text : {"x", "0", "-1"}) {
+        Paste("txtWin6(0)", text);
+        person.Expect("Error - Number out of Range!", "Please enter a number between 1 and 49.", Answer::Ok,
+                      BoxStyle::Exclamation);
+        person.Tab();
+        EXPECT_EQ(TextOf("txtWin6(0)"), "") << text;
+        EXPECT_EQ(Focus(), "txtWin6(0)") << text;
+    }
+    // A text is a number as far as it begins with one.
+    Paste("txtWin6(0)", "7x");
+    person.Tab();
+    EXPECT_EQ(TextOf("txtWin6(0)"), "7x");
+}
+
+TEST_F(SixNumberCheck, WithoutTheAddOnsTableNoneIsListedAsPlayedAndNothingIsSaid) {
+    for (const auto& [menu, table] :
+         {std::pair{"mnuCANATLLotto649", "PlayedTag"}, std::pair{"mnuCANBCLotto649", "PlayedExtra"}}) {
+        Open(menu);
+        Do("DELETE FROM PlayedLotto649; DELETE FROM WinLotto649; DROP TABLE " + std::string(table));
+        Ticket(1, "1, 2, 3, 4, 5, 6");
+        Draw("txtWin6", {1, 2, 3, 4, 5, 6, 7});
+        if (IsShown("txtWinEncore")) Type("txtWinEncore", "123456");
+        else Draw("txtWin4", {1, 2, 3, 4});
+        Click("cmdCheck");
+        EXPECT_EQ(AddOn(), Texts{"Not Played"}) << table;
+        EXPECT_EQ(Messages(), Texts{"Congratulations! You've hit the JACKPOT!!!"}) << table;
+        Window().Leave();
+    }
+}
+
+TEST_F(SixNumberCheck, RowsOfNinetyNinesReadNotPlayedAndWinNothing) {
+    OpenOntario();
+    Ticket(1, "1, 2, 3, 4, 5, 6");
+    Do("INSERT INTO PlayedEncore (ID1, Lottoflag, Date, [Number 1], [Number 2], [Number 3], [Number 4], "
+       "[Number 5], [Number 6]) VALUES (1, 'Lotto649', " +
+       Day() + ", 99, 99, 99, 99, 99, 99)");
+    Draw("txtWin6", {1, 2, 3, 4, 5, 6, 7});
+    Click("cmdCheck");
+    EXPECT_EQ(AddOn(), Texts{"Not Played"});
+    EXPECT_EQ(Messages(), (Texts{"Congratulations! You've hit the JACKPOT!!!", "Encore Not Played"}));
+}
+
 TEST_F(SixNumberCheck, TheFourBoxesKeepTheirTextAtARefusedKeyAndEndAtNinetyNine) {
     Open("mnuCANBCLotto649");
     Type("txtWin4(0)", "12");
@@ -489,6 +533,31 @@ TEST_F(LottarioCheck, BothRowsOfBoxesAreRequiredAndTheListsAreClearedBeforeTheEn
     EXPECT_TRUE(Messages().empty());
 }
 
+TEST_F(LottarioCheck, TheEarlyBirdIsStoredBeforeAnyTicketIsJudged) {
+    OpenWithTickets();
+    Draw("txtWin6", {1, 2, 3, 4, 5, 40, 41});
+    Draw("txtWin4", {3, 4, 5, 6});
+    Type("txtWinEncore", "123456");
+    Window().Check.txtWin(0).SetText("x");  // no number: the store refuses it, and comparing it fails
+    person.Expect("ERROR!",
+                  "ERROR #3421\r\nUnexpected error occurred. Please advise error number to support.",
+                  Answer::Ok, BoxStyle::Stop);
+    ExpectRunTimeError(ErrorNumber::TypeMismatch);
+    Click("cmdCheck");
+    EXPECT_TRUE(Messages().empty());
+    EXPECT_EQ(CountOf("WinEarlyBird"), "1");
+}
+
+TEST_F(LottarioCheck, AnotherDateEmptiesTheEarlyBirdNumbersToo) {
+    OpenWithTickets();
+    Draw("txtWin6", {1, 2, 3, 4, 5, 40, 41});
+    Draw("txtWin4", {3, 4, 5, 6});
+    Type("txtWinEncore", "123456");
+    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-10"));
+    for (const char* box : {"txtWin6(0)", "txtWin6(6)", "txtWin4(0)", "txtWin4(3)", "txtWinEncore"})
+        EXPECT_EQ(TextOf(box), "") << box;
+}
+
 TEST_F(LottarioCheck, EnterMovesFromBoxToBoxAndEndsAtCheck) {
     OpenWithTickets();
     Click("txtWin6(0)");
@@ -624,12 +693,13 @@ TEST_F(KenoCheck, DailyKenoJudgesByBallsAndWager) {
     Do("INSERT INTO PlayedONTKeno (ID1, Date, Lottoflag, Ball_1, Ball_2, Ball_3, Ball_4, Ball_5, Wager, [# "
        "of Balls]) "
        "VALUES (1, " +
-       Day() + ", 'ONTKeno', 1, 2, 3, 4, 70, 2, 5), (2, " + Day() + ", 'ONTKeno', 1, 2, 3, 4, 70, 3, 5)");
+       Day() + ", 'ONTKeno', 1, 2, 3, 4, 70, 2, 5), (2, " + Day() +
+       ", 'ONTKeno', 1, 2, 3, 4, 70, 3, 5), (3, " + Day() + ", 'ONTKeno', 1, 2, 3, 4, 70, 0, 5)");
     Draw("txtWin20", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
     Type("txtWinEncore", "123456");
     Click("cmdCheck");
-    EXPECT_EQ(Played(), (Texts{"1, 2, 3, 4, 70", "1, 2, 3, 4, 70"}));
-    // A wager of three is in no table: no row at all.
+    EXPECT_EQ(Played(), Texts(3, "1, 2, 3, 4, 70"));
+    // A wager of three is in no table, nor is one that was never chosen: no row at all.
     EXPECT_EQ(Messages(), Texts{"Congratulations! You won $10.00!"});
 }
 
@@ -725,11 +795,23 @@ TEST_F(PickCheck, NoTicketOfTheDateEmptiesTheWayOfPlay) {
     EXPECT_EQ(global.PlayOption, "");
 }
 
-TEST_F(PickCheck, TheListsHoldTheDigitsAndShowNothing) {
-    Open("mnuCANWESTPICK3");
-    for (int i = 0; i < 3; ++i) {
-        EXPECT_EQ(ListOf(Box("cboWin3", i)), (Texts{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}));
-        EXPECT_EQ(TextOf(Box("cboWin3", i)), "");
+TEST_F(PickCheck, TheListsHoldTheDigitsAloneAndShowNothing) {
+    const struct {
+        const char* menu;
+        const char* stem;
+        int digits;
+    } games[] = {{"mnuCANWESTPICK3", "cboWin3", 3}, {"mnuUSFLAPlay4", "cboWin4", 4}};
+    for (const auto& [menu, stem, digits] : games) {
+        Open(menu);
+        for (int i = 0; i < digits; ++i) {
+            EXPECT_EQ(ListOf(Box(stem, i)), (Texts{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}));
+            EXPECT_EQ(TextOf(Box(stem, i)), "");
+            Enter(Box(stem, i));
+            person.Type("x");
+            EXPECT_EQ(TextOf(Box(stem, i)), "") << "what is no entry cannot be typed";
+        }
+        EXPECT_FALSE(Exists(Box(stem, digits)));
+        Window().Leave();
     }
 }
 
@@ -949,8 +1031,8 @@ TEST_F(Winnings, BCDailyThreeAsksWhateverTableWasNamedLast) {
     ExpectSaved();
     Enter("5");
     EXPECT_EQ(Window().State.TableName, "Winnings");
-    // From then on it is the ledger itself, which has a row of the date.
-    Do("DELETE FROM PlayedBCDaily3");
+    // From then on it is the ledger itself, which has a row of the date; the tickets have none now.
+    Do("UPDATE PlayedBCDaily3 SET Date = 1");
     person.Expect("Correct Winnings?",
                   "You have already entered a Winning amount for this\r\n"
                   "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",

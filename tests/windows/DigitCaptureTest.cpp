@@ -28,6 +28,9 @@ TEST_F(DigitWindow, EachListHoldsTheDigitsAndShowsZeroFromTheStart) {
         EXPECT_EQ(TextOf(list), "0");
         EXPECT_TRUE(IsEnabled(list));
     }
+    Enter("cboNumber(0)");
+    person.Type("x");
+    EXPECT_EQ(TextOf("cboNumber(0)"), "0") << "what is no entry cannot be typed";
     EXPECT_FALSE(Exists("cboNumber(3)"));
     EXPECT_EQ(CaptionOf("lblNumber(0)"), "1st");
     EXPECT_EQ(CaptionOf("lblNumber(1)"), "2nd");
@@ -177,15 +180,19 @@ TEST_F(DigitWindow, TheCountOfTheOtherGamesIgnoresTheWager) {
 }
 
 TEST_F(DigitWindow, AHalfDollarShowsNoZeroAndBecomesZeroWhenTheFieldIsLeft) {
-    Show("mnuUSFLACash3");
-    OneSheet(1);
-    Click("optOneDollar");
-    EXPECT_EQ(TextOf("txtDollars"), ".50");
-    Click("txtDollars");
-    person.Expect("ERROR",
-                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
-    person.Tab();
-    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    for (const auto* menu : {"mnuUSFLACash3", "mnuUSFLAPlay4"}) {
+        Show(menu);
+        OneSheet(1);
+        Click("optOneDollar");
+        EXPECT_EQ(TextOf("txtDollars"), ".50") << menu;
+        Click("txtDollars");
+        person.Expect("ERROR",
+                      "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar "
+                      "amount.");
+        person.Tab();
+        EXPECT_EQ(TextOf("txtDollars"), "0.00") << menu;
+        Window().Leave();
+    }
 }
 
 TEST_F(DigitWindow, StraightBoxMovesTheWagerToTwoUnits) {
@@ -380,6 +387,21 @@ TEST_F(DigitWindow, EncoreNumbersFollowTheLastTicket) {
               (Texts{"ONTPick3|1|6", "ONTPick3|6|1"}));
 }
 
+TEST_F(DigitWindow, NoClickGetsPastAShortEncore) {
+    Show("mnuCANONTPICK3");
+    OneSheet(1);
+    Put("txtNoOfExtra", "1");
+    PutDigits({1, 2, 3});
+    Click("cmdNext_Ticket");
+    person.Type("12345");
+    for (const auto* button : {"cmdCancel", "cmdExit(0)", "cmdRegular"}) {
+        ExpectShortEncore();
+        Click(button);
+        EXPECT_EQ(Focus(), "txtEncore");
+    }
+    EXPECT_TRUE(Window().IsShown());
+}
+
 TEST_F(DigitWindow, WithoutEncoreTheTicketIsReadyToBeSaved) {
     Show("mnuCANONTPICK3");
     OneSheet(1);
@@ -441,8 +463,11 @@ TEST_F(DigitWindow, ASheetIsStoredBeforeTheQuestionAndTheAmountBehindTheLastBox)
 
 TEST_F(DigitWindow, NoEmptiesTheWayWhileItsOptionStillLooksChosen) {
     Show("mnuCANQC3");
-    OneSheet(1);
+    OneSheet(2);
     Click("optPlayOpt(1)");
+    PutDigits({1, 2, 3});
+    Click("cmdNext_Ticket");
+    EXPECT_FALSE(IsEnabled("fraWayPlayed"));
     PutDigits({1, 2, 3});
     RefuseToSave();
     EXPECT_EQ(global.PlayOption, "");
@@ -463,6 +488,7 @@ TEST_F(DigitWindow, NoLeavesTheFourDigitWindowAsItIs) {
     EXPECT_EQ(global.PlayOption, "Box");
     EXPECT_EQ(global.TicketNo, 1);
     EXPECT_EQ(TextOf("cboNumber(3)"), "4");
+    EXPECT_EQ(global.TicketsSaved, 0);
     EXPECT_TRUE(IsEnabled("cmdSave"));
     EXPECT_FALSE(IsEnabled("cmdCorrection"));  // storing took it away
     SaveSheet(true);

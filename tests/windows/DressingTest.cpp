@@ -134,6 +134,8 @@ TEST_F(Dressing, Lottario) {
         ExpectCaption("lblExtra", "Encore Numbers");
         ExpectVisible(true, {"lblNoOfExtra", "txtNoOfExtra"});
         ExpectVisible(false, {"lblExtra", "txtEncore", "chkEncore"});
+        ExpectCaption("lblWinEncore", "Enter Encore Number:");
+        ExpectCaption("lblEncorePlayed", "Encore #'s:");
     });
 }
 
@@ -141,6 +143,8 @@ TEST_F(Dressing, DailyKeno) {
     Look("mnuCANONTKENO", [&] {
         ExpectVisible(true, {"lblNoOfExtra", "txtNoOfExtra", "lblEncorePlayed", "lstEncorePlayed"});
         ExpectCaption("lblNoOfExtra", "# of Encore Played this Sheet:");
+        ExpectCaption("lblWinEncore", "Enter Encore Number:");
+        ExpectCaption("lblEncorePlayed", "Encore #'s:");
     });
 }
 
@@ -170,6 +174,8 @@ TEST_F(Dressing, OntarioPickThree) {
         ExpectCaption("lblNoOfExtra", "# of Encore Played this Sheet:");
         ExpectVisible(true, {"lblNoOfExtra", "txtNoOfExtra"});
         ExpectVisible(true, AddOnOfTheCheck);
+        ExpectCaption("lblWinEncore", "Enter Encore Number:");
+        ExpectCaption("lblEncorePlayed", "Encore #'s:");
     });
 }
 
@@ -214,6 +220,8 @@ TEST_F(Dressing, PlayFourLoadsTheHiddenWindowThatBearsItsTitle) {
         EXPECT_EQ(windows.Load(Family::frmPick3).Caption(), "Play 4");
         EXPECT_FALSE(windows.Load(Family::frmPick3).isVisible());
     });
+    EXPECT_TRUE(windows.IsLoaded(Family::frmPick3));
+    Look("mnuCANBCBC49", [] {});
     EXPECT_TRUE(windows.IsLoaded(Family::frmPick3));
     Look("mnuCANBCDAILY3", [] {});
     EXPECT_FALSE(windows.IsLoaded(Family::frmPick3));

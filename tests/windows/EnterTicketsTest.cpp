@@ -22,6 +22,20 @@ TEST_F(EnterTickets, OpensWithNothingEnteredAndTheCountInHand) {
     EXPECT_EQ(Window().dtpEnterTickets(0).Value().ToText(), Today);
 }
 
+TEST_F(EnterTickets, EveryFamilyOpensWithNothingEntered) {
+    const PerFamily<const char*> keys{
+        {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+    for (const Family family : AllFamilies) {
+        Show(family, keys[family], "Encore");
+        EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0") << NameOf(family);
+        EXPECT_EQ(TextOf("txtDollars"), "0.00") << NameOf(family);
+        EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 0 of 0") << NameOf(family);
+        EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket") << NameOf(family);
+        EXPECT_FALSE(IsTicked("chkRegular")) << NameOf(family);
+        Window().Leave();
+    }
+}
+
 TEST_F(EnterTickets, HasFourTabsAndStandsOnTheFirst) {
     Show("mnuCANONTLotto649");
     EXPECT_EQ(Window().SSTab1.Tab(), 0);
@@ -257,6 +271,11 @@ TEST_F(EnterTickets, OnTheReportsTabTheAmountFollowsTheFieldThoughNoTicketIsAcce
     person.ClickTab("&Reports");
     EXPECT_EQ(global.NoOfTickets, 0);
     EXPECT_EQ(global.Dollars, "5.00");
+    EXPECT_EQ(Window().State.CurrentSheet, 1);
+    person.ClickTab("&Enter Tickets");
+    EXPECT_TRUE(IsEnabled("chkNumb(0)"));
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 0");
+    EXPECT_FALSE(Find("txtNoOfTickets(0)").focusPolicy() & Qt::TabFocus);
 }
 
 TEST_F(EnterTickets, MarksCountsAndChoicesAreLiveFromTheStart) {

@@ -239,6 +239,33 @@ TEST_F(KenoWindow, TheWagerSetsTheAmountUntilTheFirstTicketIsStored) {
     EXPECT_EQ(global.Dollars, "20.00");
 }
 
+TEST_F(KenoWindow, TheAmountIsNeverClosedOnTheWay) {
+    ShowKeno();
+    const auto expectOpen = [this](const char* step) { EXPECT_TRUE(IsEnabled("txtDollars")) << step; };
+    expectOpen("load");
+    SeveralSheets(3, 2, 2);
+    Put("txtNoOfExtra", "1");
+    PutChoices("2", "2.00");
+    expectOpen("choices");
+    Pick({1, 2});
+    expectOpen("ticket");
+    Click("cmdNext_Ticket");
+    expectOpen("next ticket");
+    Click("chkNumb(0)");
+    Pick({4});
+    Click("cmdNext_Ticket");
+    expectOpen("encore");
+    person.Type("123456");
+    person.Tab();
+    SaveSheet(false);
+    expectOpen("next sheet");
+    // What is typed there is what the entry costs.
+    Put("txtDollars", "7.25");
+    Pick({5, 6});
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Spent FROM Spent"), Texts{"7.25"});
+}
+
 TEST_F(KenoWindow, AfterCancelTheWagerSetsTheAmountAgain) {
     ShowKeno();
     OneSheet(2);
@@ -521,6 +548,8 @@ TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
     EXPECT_EQ(global.Wager, 0);
     EXPECT_EQ(global.NoOfBallsPerTicket, 0);
     EXPECT_EQ(global.TicketsSaved, 0);
+    EXPECT_EQ(ListOf("cboNoOfBallsPerTicket").size(), 9U);
+    EXPECT_EQ(ListOf("cboWager").size(), 4U);
     EXPECT_EQ(Ticked(), std::vector<int>{});
     EXPECT_FALSE(IsEnabled("chkNumb(0)"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
@@ -595,6 +624,30 @@ TEST_F(KenoWindow, AnEightyTicketHasTwentyNumbersOfWhichTenAreWritten) {
     SaveSheet(true);  // makes its table, which nothing has made before
     EXPECT_EQ(Rows("SELECT Ball_1, Ball_10, Wager, \"# of Balls\" FROM PlayedPrairieKeno ORDER BY ID1"),
               (Texts{"1|10|0|0", "61|70|0|0"}));
+}
+
+TEST_F(KenoWindow, TheEightyAsksForTheTicketsOfTheLastSheetTooAndTakesNoAnswer) {
+    ShowKeno80();
+    SeveralSheets(3, 2, 1);
+    PickFrom(1, 20);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    person.ExpectWindow("frmTicketsOnSheet", [this](QWidget&) {
+        Type("txtNoOfTicketsOnSheet", "2");
+        person.Expect("ERROR!",
+                      "You have entered an amount which doesn't allow enough tickets for your last sheet.\r\n"
+                      "Please select a new amount and Click on 'OK' again.");
+        Click("cmdOk");
+        Click("cmdCancel");
+    });
+    Click("cmdSave");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 2);  // the refused number is the right one
+    for (int ticket = 1; ticket <= 2; ++ticket) {
+        PickFrom(21, 20);
+        if (ticket < 2) Click("cmdNext_Ticket");
+    }
+    SaveSheet(true);
+    EXPECT_EQ(CountOf("PlayedPrairieKeno"), "3");
 }
 
 TEST_F(KenoWindow, NoLeavesTheEightyAsItIs) {

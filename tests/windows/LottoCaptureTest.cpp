@@ -1,4 +1,5 @@
 // Tickets picked on the grid: six numbers, Super 7 with its bonus tickets, Lottario.
+#include "entry/EntryFacts.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -112,6 +113,29 @@ TEST_F(LottoCaptureTest, AMarkSticksInItsSlotForLaterSheetsOfTheSixNumberGames) 
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedBC49"), (Texts{"1", "0", "1", "0"}));
 }
 
+TEST_F(LottoCaptureTest, AMarkIsCutOffWithItsSlotByASmallerSheet) {
+    Show("mnuCANBCBC49");
+    ExpectSheets("3");
+    ExpectTicketsOnSheet("3");
+    Count("7");
+    TicketAndNext(1, 6);
+    TicketAndNext(2, 6);
+    Click("chkRegular");
+    PickFrom(3, 6);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    ExpectTicketsOnSheet("1");
+    Click("cmdSave");
+    Click("chkRegular");
+    PickFrom(4, 6);
+    SaveSheet(false);
+    TicketAndNext(5, 6);
+    TicketAndNext(6, 6);
+    PickFrom(7, 6);
+    SaveSheet(true);
+    EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedBC49 WHERE Regular"), Texts{"3"});
+}
+
 TEST_F(LottoCaptureTest, SuperSevenOffersNoFortyEightAndNoFortyNineOnceDressed) {
     Show("mnuCANBCSuper7");
     OneSheet(1);
@@ -138,13 +162,16 @@ TEST_F(LottoCaptureTest, WithoutASheetATicketOfTheBonusGamesLeadsNowhereEither) 
 }
 
 TEST_F(LottoCaptureTest, NoAndCancelInTheBonusPhaseBeginAgainWithBoughtTickets) {
-    for (const bool cancel : {false, true}) {
-        Show("mnuCANBCSuper7");
+    for (const auto& [menu, cancel] :
+         {std::pair{"mnuCANBCSuper7", false}, std::pair{"mnuCANBCSuper7", true},
+          std::pair{"mnuCANONTLOTTARIO", false}, std::pair{"mnuCANONTLOTTARIO", true}}) {
+        const int numbers = std::string(menu) == "mnuCANBCSuper7" ? 7 : 6;
+        Show(menu);
         OneSheet(1);
-        TicketAndNext(1, 7);
-        TicketAndNext(2, 7);
-        PickFrom(3, 7);
+        for (int ticket = 1; ticket < SheetFactor[Window().Which]; ++ticket) TicketAndNext(ticket, numbers);
+        PickFrom(3, numbers);
         ASSERT_EQ(Next(), "Next &Bonus");
+        ASSERT_FALSE(IsEnabled("chkRegular"));
         if (cancel)
             person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
         else ExpectSaveQuestion(Answer::No);
@@ -202,19 +229,26 @@ TEST_F(LottoCaptureTest, ACorrectionInSuperSevenEndsWithinItsClick) {
     EXPECT_EQ(Next(), "&Next Ticket");
 }
 
+// On the only sheet the last bought ticket is also the last of the entry: of the conditions the first one
+// counts.
 TEST_F(LottoCaptureTest, CorrectingTheLastBoughtTicketTakesTheBonusPhaseBackAndTicksItsMarkAgain) {
-    Show("mnuCANBCSuper7");
-    OneSheet(2);
-    Click("chkRegular");
-    TicketAndNext(1, 7);
-    Click("chkRegular");
-    PickFrom(8, 7);
-    EXPECT_EQ(Next(), "&Bonus Tickets");
-    Click("cmdCorrection");
-    EXPECT_EQ(Next(), "&Next Ticket");
-    EXPECT_EQ(Window().State.BonusPhase, 0);
-    EXPECT_TRUE(IsTicked("chkRegular"));
-    EXPECT_EQ(global.TicketNo, 1);
+    for (const auto& [menu, numbers] : {std::pair{"mnuCANBCSuper7", 7}, std::pair{"mnuCANONTLOTTARIO", 6}}) {
+        Show(menu);
+        OneSheet(2);
+        Click("chkRegular");
+        TicketAndNext(1, numbers);
+        ASSERT_TRUE(IsTicked("chkRegular"));
+        Click("chkRegular");
+        PickFrom(8, numbers);
+        EXPECT_EQ(Next(), "&Bonus Tickets");
+        Click("cmdCorrection");
+        EXPECT_EQ(Next(), "&Next Ticket") << menu;
+        EXPECT_EQ(Window().State.BonusPhase, 0) << menu;
+        EXPECT_TRUE(IsTicked("chkRegular")) << menu;
+        EXPECT_TRUE(IsEnabled("chkRegular")) << menu;
+        EXPECT_EQ(global.TicketNo, 1) << menu;
+        Window().Leave();
+    }
 }
 
 TEST_F(LottoCaptureTest, ACorrectionAmongTheBonusTicketsWritesACaptionThatNothingLooksFor) {

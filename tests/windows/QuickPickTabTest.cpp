@@ -176,12 +176,14 @@ TEST_F(QuickPickTabTest, EachTicketIsKeptForThePrinterAsItIsShown) {
 
 TEST_F(QuickPickTabTest, OneTicketIsOneSheetAndNoSheetIsAskedFor) {
     OpenQuickPick(SixFortyNine);
+    Window().State.CurrentSheet = 7;
     Put("txtNoOfTickets(1)", "1");
     EXPECT_EQ(global.NoOfTickets, 1);
     EXPECT_EQ(global.TotalTickets, 1);
     EXPECT_EQ(global.NoOfSheets, 1);
     EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
     EXPECT_EQ(Window().State.TotalSheets, 1);
+    EXPECT_EQ(Window().State.CurrentSheet, 7);
     Put("txtNoOfTickets(1)", "8");
     EXPECT_EQ(global.NoOfTickets, 8);
     EXPECT_EQ(global.TotalTickets, 8);
@@ -190,9 +192,11 @@ TEST_F(QuickPickTabTest, OneTicketIsOneSheetAndNoSheetIsAskedFor) {
 
 TEST_F(QuickPickTabTest, LeavingAnEmptyCountForTheReportsAsksNothing) {
     OpenQuickPick(SixFortyNine);
+    Window().State.CurrentSheet = 7;
     Type("txtNoOfTickets(1)", "");
     person.ClickTab("&Reports");
     EXPECT_EQ(Window().SSTab1.Caption(), "&Reports");
+    EXPECT_EQ(Window().State.CurrentSheet, 7) << "nothing follows for this count";
 }
 
 TEST_F(QuickPickTabTest, ACountBeyondSixteenBitsIsAnOverflow) {

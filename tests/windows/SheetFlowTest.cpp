@@ -1,4 +1,5 @@
 // Sheet by sheet: the count, the two questions, saving, cancel, and leaving half-way.
+#include "entry/EntryFacts.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -81,6 +82,40 @@ TEST_F(SheetFlowTest, EscapeAndTheCloseBoxCancelTheDialogs) {
     person.ExpectWindow("frmHowManySheets", [&](QWidget& dialog) { person.Close(dialog); });
     Count("2");
     EXPECT_EQ(global.NoOfSheets, 0);
+    for (const bool escape : {true, false}) {
+        ExpectSheets("2");
+        person.ExpectWindow("frmTicketsOnSheet", [&](QWidget& dialog) {
+            Type("txtNoOfTicketsOnSheet", "2");
+            if (escape) person.Key(Qt::Key_Escape);
+            else person.Close(dialog);
+        });
+        Count("3");
+        EXPECT_EQ(global.NoOfTicketsOnSheet, 0);
+    }
+}
+
+TEST_F(SheetFlowTest, WhatIsPastedIntoTheDialogsIsReadAsAnIntegerAndAnEmptyCountOfTicketsIsNought) {
+    Show("mnuCANBCBC49");
+    const auto refuse = [&](const std::string& field) {
+        for (const auto& [text, error] : {std::pair{"two", 13}, std::pair{"40000", 6}}) {
+            Paste(field, text);
+            ExpectRunTimeError(error);
+            Click("cmdOk");
+        }
+    };
+    person.ExpectWindow("frmHowManySheets", [&](QWidget&) {
+        refuse("txtNoOfSheets");
+        person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
+            refuse("txtNoOfTicketsOnSheet");
+            global.NoOfTicketsOnSheet = 9;
+            Type("txtNoOfTicketsOnSheet", "");
+            Click("cmdOk");
+        });
+        Type("txtNoOfSheets", "2");
+        Click("cmdOk");
+    });
+    Count("3");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 0);
 }
 
 TEST_F(SheetFlowTest, WithoutASheetTheTicketCompletesButNothingFollowsUntilTheCountIsLeftAgain) {
@@ -89,14 +124,27 @@ TEST_F(SheetFlowTest, WithoutASheetTheTicketCompletesButNothingFollowsUntilTheCo
     Count("2");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 0");
     PickFrom(1, 6);
+    EXPECT_EQ(global.TicketNo, 1);
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
     EXPECT_FALSE(IsEnabled("cmdSave"));
+    Click("cmdCorrection");
     ExpectSheets("0");
     Count("2");
     EXPECT_EQ(global.NoOfSheets, 0);
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 0");
+    PickFrom(1, 6);
+    EXPECT_EQ(global.TicketNo, 1);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+    Click("cmdCorrection");
     ExpectSheets("1");
     Count("2");
     EXPECT_EQ(global.NoOfTicketsOnSheet, 2);
+    PickFrom(1, 6);
+    EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
+    Click("cmdNext_Ticket");
+    PickFrom(7, 6);
+    EXPECT_TRUE(IsEnabled("cmdSave"));
 }
 
 TEST_F(SheetFlowTest, TicketsOnASheetThatIsNotTheLastAreTestedInTheirOrder) {
@@ -231,6 +279,14 @@ TEST_F(SheetFlowTest, NoThrowsTheWholeEntryAwayButSavedSheetsStay) {
     EXPECT_EQ(global.TicketNo, 0);
     EXPECT_EQ(global.TicketsSaved, 0);
     EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
+    // What loading does not name stays: the fields, the title and the counts of the entry.
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "2");
+    EXPECT_EQ(TextOf("txtDollars"), "1.00");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
+    EXPECT_EQ(global.NoOfTickets, 1);
+    EXPECT_EQ(global.NoOfSheets, 2);
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
+    EXPECT_EQ(global.SheetTickets, 2);
 }
 
 TEST_F(SheetFlowTest, AnIncompleteSheetIsNotWritten) {
@@ -367,12 +423,14 @@ TEST_F(HalfSaved, YesRemovesAllRowsOfTheDateFromBothTablesWhicheverGameTheyCarry
     const std::string day = std::to_string(Date::FromText(Today).Day());
     Do("INSERT INTO PlayedBC49 (ID1, Date) VALUES (70, " + day + "), (71, 1)");
     Do("INSERT INTO PlayedExtra (ID1, Lottoflag, Date) VALUES (1, 'Super 7', " + day + "), (2, 'BC49', 1)");
-    Do("INSERT INTO Spent (ID1, Lottoflag, Date) VALUES (1, 'BC49', " + day + ")");
+    for (const char* ledger : {"Spent", "Winnings"})
+        Do("INSERT INTO " + std::string(ledger) + " (ID1, Lottoflag, Date) VALUES (1, 'BC49', " + day + ")");
     ExpectCleanUp(Answer::Yes);
     Click("cmdExit(0)");
     EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), Texts{"71"});
     EXPECT_EQ(Rows("SELECT ID1 FROM PlayedExtra"), Texts{"2"});
     EXPECT_EQ(CountOf("Spent"), "1");
+    EXPECT_EQ(CountOf("Winnings"), "1");
 }
 
 TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckHasMovedOn) {
@@ -387,35 +445,67 @@ TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckHasMovedOn) {
     EXPECT_EQ(CountOf("PlayedBC49"), "0");
 }
 
-TEST_F(HalfSaved, AfterACleanUpOfEarlierRowsALaterSaveMeetsATakenKey) {
+TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfEnterWinningsHasMovedOn) {
+    Begin("mnuCANBCBC49");
+    Window().SSTab1.SetTab(Tab::Check);
+    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
+    person.Expect("ERROR!",
+                  "ERROR #0\r\nNo entry for this Draw Date. Please check the Draw Date\r\nand try again.");
+    Click("cmdEnterWinnings");
+    EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(2)");
+    EXPECT_EQ(CountOf("PlayedBC49"), "0");
+}
+
+TEST_F(HalfSaved, ASheetOfAnotherDateThatWasNotSavedLeavesTheDateOfTheLastSave) {
+    Show("mnuUSFLAPlay4");
+    SeveralSheets(2, 2);
+    Visit("cboNumber(3)");
+    SaveSheet(false);
+    Window().dtpEnterTickets(0).SetValue(Date::FromText("2006-03-01"));
+    Visit("cboNumber(3)");
+    RefuseToSave();
+    EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedFLAPlay4"), "0");
+}
+
+TEST_F(HalfSaved, AfterACleanUpOfEarlierRowsEveryLaterSaveMeetsATakenKey) {
     Begin("mnuCANBCBC49");
     Do("INSERT INTO PlayedBC49 (ID1, Date) VALUES (2, 1)");
     ExpectCleanUp(Answer::Yes);
     Click("cmdExit(0)");
-    Show("mnuCANBCBC49");
-    Count("1");
-    PickFrom(1, 6);
-    ExpectSaveQuestion(Answer::Yes);
-    person.Expect("ERROR!",
-                  "ERROR #3022\r\nUnexpected error occurred. Please advise error number to support.",
-                  Answer::Ok, BoxStyle::Stop);
-    person.Expect("CONFIRMED", "Tickets Saved");
-    Click("cmdSave");
-    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), Texts{"2"});
+    for (int entry = 1; entry <= 2; ++entry) {
+        Show("mnuCANBCBC49");
+        Count("1");
+        PickFrom(1, 6);
+        ExpectSaveQuestion(Answer::Yes);
+        person.Expect("ERROR!",
+                      "ERROR #3022\r\nUnexpected error occurred. Please advise error number to support.",
+                      Answer::Ok, BoxStyle::Stop);
+        person.Expect("CONFIRMED", "Tickets Saved");
+        Click("cmdSave");
+        EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), Texts{"2"});
+    }
 }
 
 TEST_F(HalfSaved, WesternExtraIsCleanedToo) {
     Show("mnuCANWESTSuper7");
-    const std::string day = std::to_string(Date::FromText(Today).Day());
-    Do("INSERT INTO PlayedWESTExtra (ID1, Lottoflag, Date) VALUES (1, 'Super 7', " + day + ")");
-    Click("txtDollars");
-    global.NoOfTickets = 2;
-    global.NoOfSheets = 2;
-    global.TicketsSaved = True;
-    Window().State.CurrentSheet = 2;
-    Window().State.SavedDate = Date::FromText(Today);
+    SeveralSheets(2, 2);
+    Click("chkEncore");
+    Put("txtEncore", "1234567");
+    for (int ticket = 1; ticket <= 3; ++ticket) {
+        PickFrom(ticket, 7);
+        if (ticket < 3) Click("cmdNext_Ticket");
+    }
+    SaveSheet(false);
+    EXPECT_EQ(CountOf("PlayedSuper7"), "3");
+    EXPECT_EQ(CountOf("PlayedWESTExtra"), "1");
     ExpectCleanUp(Answer::Yes);
     Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedSuper7"), "0");
     EXPECT_EQ(CountOf("PlayedWESTExtra"), "0");
 }
 
@@ -445,6 +535,86 @@ TEST_F(SheetFlowTest, TwoRegionsOfOneGameShareItsTicketsAndOneCleanUpRemovesBoth
     ExpectCleanUp(Answer::Yes);
     Click("cmdExit(0)");
     EXPECT_EQ(CountOf("PlayedLotto649"), "0");
+}
+
+class EveryEntry : public SlipWorld, public ::testing::WithParamInterface<Family> {
+  protected:
+    // Three tickets on two sheets, two of them on the first; no add-on game beside them.
+    void Begin() {
+        const PerFamily<const char*> keys{
+            {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+        Show(GetParam(), keys[GetParam()], "");
+        SeveralSheets(3, 2, 2);
+        if (GetParam() != Family::frmKeno70) return;
+        Put("cboWager", "1.00");
+        Put("cboNoOfBallsPerTicket", "2");
+    }
+    void Ticket() {
+        if (IsPick(GetParam())) Visit(GetParam() == Family::frmPick3 ? "cboNumber(2)" : "cboNumber(3)");
+        else PickFrom(1, GetParam() == Family::frmKeno70 ? 2 : TicketLength[GetParam()]);
+    }
+    // All tickets of the sheet, bonus tickets included, on from those that are there.
+    void FillSheet() {
+        while (!IsEnabled("cmdSave")) {
+            if (IsEnabled("cmdNext_Ticket")) Click("cmdNext_Ticket");
+            Ticket();
+        }
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Families, EveryEntry, ::testing::ValuesIn(AllFamilies),
+                         [](const auto& test) { return std::string(NameOf(test.param)); });
+
+TEST_P(EveryEntry, CountsAsSavedOnceASheetWasReallyWritten) {
+    Begin();
+    Ticket();
+    Window().Enter.cmdSave.SetEnabled(true);
+    ExpectSaveQuestion(Answer::Yes);
+    Click("cmdSave");  // one ticket of two: nothing is written, and nothing is said
+    EXPECT_EQ(global.TicketsSaved, Off);
+    Window().Enter.cmdSave.SetEnabled(false);
+    FillSheet();
+    SaveSheet(false);
+    EXPECT_EQ(global.TicketsSaved, True);
+    Ticket();
+    global.NoOfTicketsOnSheet = 5;  // more than are entered
+    Window().Enter.cmdSave.SetEnabled(true);
+    ExpectSaveQuestion(Answer::Yes);
+    Click("cmdSave");
+    EXPECT_EQ(global.TicketsSaved, True);
+    EXPECT_EQ(CountOf("Spent"), "0");
+    if (NotSavedReloads[GetParam()]) return;  // loading again forgets what was saved
+    RefuseToSave();
+    EXPECT_EQ(global.TicketsSaved, True);
+}
+
+TEST_P(EveryEntry, LeavesWithoutAQuestionAfterANo) {
+    Begin();
+    FillSheet();
+    RefuseToSave();
+    EXPECT_EQ(global.TicketsSaved, Off);
+    person.Close(Window());
+    EXPECT_FALSE(Window().IsShown());
+}
+
+TEST_P(EveryEntry, LoadsWithItsOwnCountersAtNoughtAndLeavesTheOthers) {
+    Begin();
+    Window().Leave();
+    const auto put = [this](int number) {
+        for (Integer* counter :
+             {&global.NoOfTickets, &global.SheetTickets, &global.NoOfTicketsOnSheet, &global.Correcting,
+              &global.TotalTickets, &global.TicketNo, &global.ExtraNo, &global.NoOfExtra,
+              &global.NumbersPicked, &global.EnteringAddOns, &global.EntryCounter, &global.EntryCounter2})
+            *counter = number;
+    };
+    put(7);
+    windows.Load(GetParam());
+    for (const Integer* zero :
+         {&global.TotalTickets, &global.TicketNo, &global.ExtraNo, &global.NoOfExtra, &global.NumbersPicked,
+          &global.EnteringAddOns, &global.EntryCounter, &global.EntryCounter2})
+        EXPECT_EQ(*zero, 0);
+    for (const Integer* kept :
+         {&global.NoOfTickets, &global.SheetTickets, &global.NoOfTicketsOnSheet, &global.Correcting})
+        EXPECT_EQ(*kept, 7);
 }
 
 }  // namespace
