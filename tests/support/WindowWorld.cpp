@@ -158,6 +158,20 @@ void WindowWorld::ExpectRunTimeError(int number) {
                   Answer::Ok, BoxStyle::Stop);
 }
 
+void WindowWorld::ExpectRecheck(Answer answer) {
+    person.Expect(
+        "RECHECK?",
+        "You have already performed a search on this Draw Date.\r\nWould you like to perform a re-check?",
+        answer, BoxStyle::YesNo);
+}
+
+void WindowWorld::ExpectMissingTable(std::string_view table) {
+    person.Expect("ERROR!",
+                  "ERROR #3011\r\nUnable to open " + std::string(table) +
+                      " table. Please advise error number to support.",
+                  Answer::Ok, BoxStyle::Stop);
+}
+
 PlainFile WindowWorld::Plain() const { return PlainFile(DatabasePath(global.AppPath)); }
 
 }  // namespace sorvane::test

@@ -105,6 +105,9 @@ class WindowWorld : public ::testing::Test {
     void ExpectSaveQuestion(Answer answer);
     // The box of a run-time error that nothing traps.
     void ExpectRunTimeError(int number);
+    // The question of a check whose date has its draw already, and the box of a table that is not there.
+    void ExpectRecheck(Answer answer);
+    void ExpectMissingTable(std::string_view table);
 
     // Plain SQL on the file; rows with their columns joined by '|', Null as "NULL".
     PlainFile Plain() const;

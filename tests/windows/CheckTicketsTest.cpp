@@ -23,19 +23,13 @@ class CheckTickets : public SlipWorld {
         int i = 0;
         for (const int number : numbers) Type(Box(stem, i++), std::to_string(number));
     }
-    void Digits(const std::string& stem, std::initializer_list<int> digits) {
+    // The digits drawn, chosen in the lists of the three-digit window.
+    void Digits(std::initializer_list<int> digits) {
         int i = 0;
-        for (const int digit : digits) Window().Check.cboWin(i++).SetText(std::to_string(digit));
-        (void)stem;
+        for (const int digit : digits) Choose(Box("cboWin3", i++), std::to_string(digit));
     }
     static std::string Box(const std::string& stem, int i) { return stem + "(" + std::to_string(i) + ")"; }
     void ExpectMissing(const std::string& text, const char* title = "ERROR") { person.Expect(title, text); }
-    void ExpectRecheck(Answer answer) {
-        person.Expect(
-            "RECHECK?",
-            "You have already performed a search on this Draw Date.\r\nWould you like to perform a re-check?",
-            answer, BoxStyle::YesNo);
-    }
     void ExpectCorrection(Answer answer) {
         person.Expect("RECHECK?",
                       "You have already entered a Winning Number on this Draw Date.\r\n"
@@ -275,9 +269,7 @@ TEST_F(SixNumberCheck, AMissingWinTableIsNamedAndTheTicketsAreJudgedAllTheSame) 
     Ticket(1, "1, 2, 3, 4, 5, 6");
     Do("DROP TABLE WinLotto649");
     Draw("txtWin6", {1, 2, 3, 4, 5, 6, 7});
-    person.Expect("ERROR!",
-                  "ERROR #3011\r\nUnable to open WinLotto649 table. Please advise error number to support.",
-                  Answer::Ok, BoxStyle::Stop);
+    ExpectMissingTable("WinLotto649");
     Click("cmdCheck");
     EXPECT_EQ(Messages(), Texts{"Congratulations! You've hit the JACKPOT!!!"});
 }
@@ -707,10 +699,7 @@ TEST_F(KenoCheck, KenoEightyTakesEmptyBoxesAndMakesItsWinTable) {
     Show(Family::frmKeno80, "PrairieKeno", "");
     Window().SSTab1.SetTab(Tab::Check);
     Click("chkStatUpdate");
-    person.Expect(
-        "ERROR!",
-        "ERROR #3011\r\nUnable to open PlayedPrairieKeno table. Please advise error number to support.",
-        Answer::Ok, BoxStyle::Stop);
+    ExpectMissingTable("PlayedPrairieKeno");
     person.Expect("ERROR!",
                   "ERROR #3421\r\nUnexpected error occurred. Please advise error number to support.",
                   Answer::Ok, BoxStyle::Stop);
@@ -733,7 +722,7 @@ TEST_F(PickCheck, TheWayOfTheFirstRowRulesTheDate) {
     Open("mnuCANWESTPICK3");
     Ticket(1, "1, 2, 3", "Box");
     Ticket(2, "3, 1, 2", "Straight");
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     Click("cmdCheck");
     EXPECT_EQ(Messages(), (Texts{Winner, Winner}));
     EXPECT_EQ(global.PlayOption, "Box");
@@ -742,7 +731,7 @@ TEST_F(PickCheck, TheWayOfTheFirstRowRulesTheDate) {
 TEST_F(PickCheck, EmptyBoxesAreRefusedUnderTheTitleWithAMark) {
     Open("mnuCANWESTPICK3");
     Window().Check.lstMessage.AddItem("old");
-    Digits("cboWin3", {3, 2});
+    Digits({3, 2});
     ExpectMissing("Missing data. Please check and try again.", "ERROR!");
     Click("cmdCheck");
     EXPECT_EQ(Focus(), "cboWin3(2)");
@@ -753,10 +742,10 @@ TEST_F(PickCheck, EmptyBoxesAreRefusedUnderTheTitleWithAMark) {
 TEST_F(PickCheck, ARefusedRecheckJudgesAgainstTheBoxesAndStaysRefused) {
     Open("mnuCANWESTPICK3");
     Ticket(1, "1, 2, 3", "Straight");
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     Click("cmdCheck");
     EXPECT_EQ(Messages(), Texts{std::string(Sorry)});
-    Digits("cboWin3", {1, 2, 3});
+    Digits({1, 2, 3});
     ExpectRecheck(Answer::No);
     Click("cmdCheck");
     EXPECT_EQ(Messages(), Texts{Winner});
@@ -767,7 +756,7 @@ TEST_F(PickCheck, ARefusedRecheckJudgesAgainstTheBoxesAndStaysRefused) {
 TEST_F(PickCheck, ARefusedCorrectionComesWithoutABox) {
     Open("mnuCANWESTPICK3");
     Click("chkStatUpdate");
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     person.Expect("Database Updated", "Database Updated.");
     Click("cmdCheck");
     EXPECT_EQ(TextOf("cboWin3(0)"), "3");
@@ -789,7 +778,7 @@ TEST_F(PickCheck, OntarioAsksForTheEncoreBeforeTheBoxesAndEndsAtOnce) {
 TEST_F(PickCheck, NoTicketOfTheDateEmptiesTheWayOfPlay) {
     Open("mnuCANWESTPICK3");
     global.PlayOption = "Box";
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     ExpectMissing("No match for Draw Date selected. Please check the Draw Date and try again.");
     Click("cmdCheck");
     EXPECT_EQ(global.PlayOption, "");
@@ -831,7 +820,7 @@ TEST_F(PickCheck, OntariosEncoreIsClosedByUpdateStatsOnlyAndNotAskedFor) {
     Click("chkStatUpdate");
     EXPECT_FALSE(IsEnabled("lblWinEncore"));
     EXPECT_FALSE(IsEnabled("txtWinEncore"));
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     person.Expect("Database Updated", "Database Updated.");
     Click("cmdCheck");
     EXPECT_TRUE(Messages().empty());
@@ -841,7 +830,7 @@ TEST_F(PickCheck, OntariosEncoreIsClosedByUpdateStatsOnlyAndNotAskedFor) {
 TEST_F(PickCheck, ARefusedRecheckOfADigitGameStopsTheNextCheckOfALottoGame) {
     Open("mnuCANWESTPICK3");
     Ticket(1, "1, 2, 3", "Straight");
-    Digits("cboWin3", {3, 2, 1});
+    Digits({3, 2, 1});
     Click("cmdCheck");
     ExpectRecheck(Answer::No);
     Click("cmdCheck");
@@ -861,12 +850,8 @@ TEST_F(PickCheck, BehindPlay4DailyThreesTablesAreMissingBoth) {
     Show("mnuUSFLAPlay4");
     Click("cmdExit(0)");
     Open("mnuCANBCDAILY3");
-    Digits("cboWin3", {1, 2, 3});
-    for (const char* table : {"PlayedBCDaily3", "WinBCDaily3"})
-        person.Expect("ERROR!",
-                      "ERROR #3011\r\nUnable to open " + std::string(table) +
-                          " table. Please advise error number to support.",
-                      Answer::Ok, BoxStyle::Stop);
+    Digits({1, 2, 3});
+    for (const char* table : {"PlayedBCDaily3", "WinBCDaily3"}) ExpectMissingTable(table);
     Click("cmdCheck");
     EXPECT_TRUE(Messages().empty());
 }
@@ -1046,7 +1031,7 @@ TEST_F(Winnings, AfterACheckBCDailyThreeAsksItsDraws) {
     Do("INSERT INTO PlayedBCDaily3 (ID1, Lottoflag, Date, Ball_1, Ball_2, Ball_3, [Way Played]) VALUES (1, "
        "'BCDaily3', " +
        Day() + ", 1, 2, 3, 'Box')");
-    Digits("cboWin3", {1, 2, 3});
+    Digits({1, 2, 3});
     Click("cmdCheck");
     EXPECT_EQ(Window().State.TableName, "WinBCDaily3");
     Do("DELETE FROM PlayedBCDaily3");
@@ -1124,9 +1109,7 @@ TEST_F(Winnings, OnlyLottariosAmountIsSelectedWhenItGetsTheFocus) {
 TEST_F(Winnings, TheKeyDailyThreeNamesATableThatNothingMakes) {
     Show(Family::frmPick3, "Daily3", "Daily3");
     Window().SSTab1.SetTab(Tab::Check);
-    person.Expect("ERROR!",
-                  "ERROR #3011\r\nUnable to open PlayedDaily3 table. Please advise error number to support.",
-                  Answer::Ok, BoxStyle::Stop);
+    ExpectMissingTable("PlayedDaily3");
     Enter("5");
     EXPECT_EQ(CountOf("Winnings"), "0");
 }

@@ -566,10 +566,7 @@ TEST_F(DigitWindow, AtlanticPik4IsSavedUnderOneNameAndCleanedUpUnderAnother) {
     SaveSheet(false);  // makes its table, which nothing has made before
     EXPECT_EQ(CountOf("PlayedATLPik4"), "1");
     person.Expect("Exiting before completion...", CleanUpText, Answer::Yes, BoxStyle::YesNoCancel);
-    person.Expect("ERROR!",
-                  "ERROR #3011\r\nUnable to open PlayedAtlanticPik4 table. Please advise error number to "
-                  "support.",
-                  Answer::Ok, BoxStyle::Stop);
+    ExpectMissingTable("PlayedAtlanticPik4");
     person.Expect("Database Cleaned", "Database cleaned!");
     Click("cmdExit(0)");
     EXPECT_EQ(CountOf("PlayedATLPik4"), "1");
@@ -585,10 +582,7 @@ TEST_F(DigitWindow, AWindowLeftHiddenByPlay4HasNoTablesForTheNextGameUntilItIsSa
     OneSheet(1);
     PutDigits({1, 2, 3});
     ExpectSaveQuestion(Answer::Yes);
-    person.Expect(
-        "ERROR!",
-        "ERROR #3011\r\nUnable to open PlayedBCDaily3 table. Please advise error number to support.",
-        Answer::Ok, BoxStyle::Stop);
+    ExpectMissingTable("PlayedBCDaily3");
     person.Expect("CONFIRMED", "Tickets Saved");
     Click("cmdSave");
     EXPECT_EQ(Rows("SELECT Lottoflag FROM Spent"), Texts{"BCDaily3"});

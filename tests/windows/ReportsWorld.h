@@ -105,11 +105,6 @@ class ReportsWorld : public WindowWorld {
     }
     std::string Report() const { return Reports().txtReport.Text(); }
 
-    void ExpectRunTimeError(int number) {
-        person.Expect(ProgramName,
-                      "Run-time error '" + Number(number) + "':\n\n" + std::string(Sentence(number)),
-                      Answer::Ok, BoxStyle::Stop);
-    }
     void ExpectNoDraws(std::string_view data) {
         person.Expect("ERROR!", "No Winning Numbers entered yet. Please enter " + std::string(data));
     }

@@ -243,13 +243,6 @@ class Road : public MainWindow {
         else Type("txtWinEncore", RoadOf(*addOn).number);
     }
 
-    void ExpectRecheck(Answer answer) {
-        person.Expect(
-            "RECHECK?",
-            "You have already performed a search on this Draw Date.\r\nWould you like to perform a re-check?",
-            answer, BoxStyle::YesNo);
-    }
-
     // The verdicts of add-on tickets entered on `sheets` sheets.
     void ExpectAddOns(Texts& listed, Texts& verdicts, const Purchase& purchase) const {
         if (!addOn) return;

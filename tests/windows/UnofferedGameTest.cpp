@@ -160,25 +160,12 @@ class UnofferedGameTest : public SlipWorld, public ::testing::WithParamInterface
         if (game.family == Family::frmKeno70) Type("txtWinEncore", "123456");
     }
 
-    void ExpectMissing(const std::string& table) {
-        person.Expect(
-            "ERROR!",
-            "ERROR #3011\r\nUnable to open " + table + " table. Please advise error number to support.",
-            Answer::Ok, BoxStyle::Stop);
-    }
-    void ExpectRecheck(Answer answer) {
-        person.Expect(
-            "RECHECK?",
-            "You have already performed a search on this Draw Date.\r\nWould you like to perform a re-check?",
-            answer, BoxStyle::YesNo);
-    }
-
     // `again`: a draw of the date is there already; of a refusal keno 70 alone makes something.
     void Check(bool again, Answer answer = Answer::Yes) {
         const bool stops = again && answer == Answer::No && game.family == Family::frmKeno70;
         if (game.drawn && (again || game.foundAtOnce)) ExpectRecheck(answer);
         if (!stops)
-            for (const std::string& table : game.missing) ExpectMissing(table);
+            for (const std::string& table : game.missing) ExpectMissingTable(table);
         global.MatchCount = 0;
         Click("cmdCheck");
         EXPECT_EQ(ListOf("lstNumbersPlayed"), game.listed);
@@ -189,7 +176,7 @@ class UnofferedGameTest : public SlipWorld, public ::testing::WithParamInterface
     void EnterWinnings() {
         Type("txtDollarsWon", "7.50");
         if (game.won) person.Expect("SAVED", "Winning data saved.");
-        else ExpectMissing(game.missing.at(0));
+        else ExpectMissingTable(game.missing.at(0));
         Click("cmdEnterWinnings");
     }
 };
