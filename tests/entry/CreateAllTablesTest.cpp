@@ -115,6 +115,10 @@ TEST(CreateAllTablesTest, TheScratchTableHasNoIndex) {
     EXPECT_TRUE(world.Plain()
                     .Rows("SELECT name FROM sqlite_schema WHERE type = 'index' AND tbl_name = 'Temp'")
                     .empty());
+    Dao::Database Db = world.engine.OpenDatabase(world.DbName(), world.global.Open);
+    Dao::Recordset Rs = Db.OpenTable("Temp");
+    EXPECT_EQ(ErrorOf([&] { Rs.Index("Date"); }), ErrorNumber::IndexNotFound);
+    EXPECT_EQ(ErrorOf([&] { Rs.Seek(1); }), ErrorNumber::NoIndexSet);
 }
 
 TEST(CreateAllTablesTest, AnUnknownKeyQuietlyCreatesNothing) {

@@ -67,7 +67,9 @@ TEST_F(AboutBox, OkIsTheWayOutAndHasTheFocus) {
     EXPECT_FALSE(about.isVisible());
 }
 
-TEST_F(AboutBox, TheCloseBoxLeavesIt) {
+TEST_F(AboutBox, TheCloseBoxLeavesItAndEscapeDoesNot) {
+    person.Key(Qt::Key_Escape);
+    EXPECT_TRUE(about.isVisible());
     person.Close(about);
     EXPECT_FALSE(about.isVisible());
 }

@@ -933,6 +933,23 @@ TEST_F(EveryCheck, AnAddOnNumberIsNeededWhereverTheGameHasOneEvenIfNoneIsHeld) {
     }
 }
 
+TEST_F(EveryCheck, WithoutATicketForTheDateNothingIsStored) {
+    for (const Game& game : Games()) {
+        SCOPED_TRACE(std::string(game.menu));
+        Open(game.menu);
+        FillMain();
+        Window().Check.txtWin4.ForEach([](forms::TextBox& box, int) { box.SetText("1"); });
+        if (Window().Check.txtWinEncore) Window().Check.txtWinEncore->SetText("1234567");
+        ExpectMissing("No match for Draw Date selected. Please check the Draw Date and try again.");
+        Click("cmdCheck");
+        Window().Leave();
+    }
+    for (const std::string& table : Plain().Tables())
+        if (table.starts_with("Win")) {
+            EXPECT_EQ(CountOf(table), "0") << table;
+        }
+}
+
 class Winnings : public CheckTickets {
   protected:
     void Enter(const std::string& amount) {

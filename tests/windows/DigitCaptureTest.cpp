@@ -594,5 +594,22 @@ TEST_F(DigitWindow, AWindowLeftHiddenByPlay4HasNoTablesForTheNextGameUntilItIsSa
     EXPECT_EQ(CountOf("PlayedBCDaily3"), "1");
 }
 
+TEST_F(DigitWindow, AWindowLeftHiddenByPlay4GoesOnFromWhatPlay4Left) {
+    Show("mnuUSFLAPlay4");
+    OneSheet(1);
+    Click("optTwoDollars");
+    PutDigits({1, 2, 3, 4});
+    Click("cmdExit(0)");
+    Show("mnuCANBCDAILY3");
+    EXPECT_EQ(global.TicketNo, 1);
+    EXPECT_EQ(global.Dollars, "1.00");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 0 of 0");
+    OneSheet(1);
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #2 - Sheet 1 of 1");
+    PutDigits({1, 2, 3});
+    EXPECT_EQ(global.TicketNo, 2);
+    EXPECT_FALSE(IsEnabled("cmdSave"));
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -32,6 +32,12 @@ TEST_F(EnterTickets, EveryFamilyOpensWithNothingEntered) {
         EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 0 of 0") << NameOf(family);
         EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket") << NameOf(family);
         EXPECT_FALSE(IsTicked("chkRegular")) << NameOf(family);
+        for (const char* closed : {"cmdNext_Ticket", "cmdCorrection", "cmdSave"})
+            EXPECT_FALSE(IsEnabled(closed)) << NameOf(family) << ' ' << closed;
+        for (int number = 1; number <= GridNumbers[family]; ++number)
+            EXPECT_FALSE(IsEnabled(Ball(number))) << NameOf(family) << ' ' << number;
+        Click("cmdRegular");  // a button without a purpose
+        EXPECT_FALSE(IsTicked("chkRegular")) << NameOf(family);
         Window().Leave();
     }
 }

@@ -113,6 +113,20 @@ TEST_F(LottoCaptureTest, AMarkSticksInItsSlotForLaterSheetsOfTheSixNumberGames) 
     EXPECT_EQ(Rows("SELECT Regular FROM PlayedBC49"), (Texts{"1", "0", "1", "0"}));
 }
 
+TEST_F(LottoCaptureTest, AMarkSticksInItsSlotInSuperSevenToo) {
+    Show("mnuCANBCSuper7");
+    SeveralSheets(2, 2);
+    Click("chkRegular");
+    for (int sheet = 1; sheet <= 2; ++sheet) {
+        TicketAndNext(1, 7);
+        TicketAndNext(2, 7);
+        PickFrom(3, 7);
+        SaveSheet(sheet == 2);
+    }
+    EXPECT_EQ(Rows("SELECT Ball_1, Regular FROM PlayedSuper7"),
+              (Texts{"1|1", "2|0", "3|0", "1|1", "2|0", "3|0"}));
+}
+
 TEST_F(LottoCaptureTest, AMarkIsCutOffWithItsSlotByASmallerSheet) {
     Show("mnuCANBCBC49");
     ExpectSheets("3");

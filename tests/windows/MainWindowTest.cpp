@@ -155,6 +155,12 @@ TEST_F(Started, TheCloseBoxIsTheButton) {
     EXPECT_EQ(global.Open.DbOpen, Off);
 }
 
+TEST_F(Started, EscapeDoesNothing) {
+    person.Key(Qt::Key_Escape);
+    EXPECT_EQ(ended, 0);
+    EXPECT_TRUE(frm.isVisible());
+}
+
 TEST_F(Started, TheCloseBoxEndsWithAHiddenWindowLoaded) {
     windows.Load(Family::frm649);
     person.Close(frm);

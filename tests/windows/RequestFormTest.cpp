@@ -223,7 +223,9 @@ TEST_F(RequestWindow, TabGoesThroughTheFieldsInTheirOrder) {
                      "txtCostPerTicket", "txtAdditionalInfo", "cmdClear", "cmdPrint", "cmdExit"}));
 }
 
-TEST_F(RequestWindow, ExitAndTheCloseBoxLeaveIt) {
+TEST_F(RequestWindow, ExitAndTheCloseBoxLeaveItAndEscapeDoesNot) {
+    person.Key(Qt::Key_Escape);
+    EXPECT_TRUE(form.isVisible());
     Click("cmdExit");
     EXPECT_FALSE(form.isVisible());
     frmRequestNewLottery again(run);
