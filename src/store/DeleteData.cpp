@@ -44,6 +44,7 @@ void DeleteAllRows(Run& run, const std::string& DbName, const std::string& Table
             Rs.Delete();
             if (!Rs.AtEOF()) Rs.MoveNext();
         } while (!Rs.AtEOF());
+        Db.Close();
     });
 }
 

@@ -50,6 +50,7 @@ int FileSize(sqlite3_file* file, sqlite3_int64* size) {
 }
 
 int Lock(sqlite3_file* file, int lock) {
+    if (Mine(file).vfs->IsHeld()) return SQLITE_BUSY;
     if (Fails(file, Operation::Lock)) return SQLITE_IOERR_LOCK;
     return MethodsOf(file).xLock(Theirs(file), lock);
 }
@@ -103,6 +104,8 @@ int Delete(sqlite3_vfs* vfs, const char* path, int) {
     return system.xDelete(&system, path, 0);
 }
 
+int NoSleep(sqlite3_vfs*, int microseconds) { return microseconds; }
+
 }  // namespace
 
 FaultVfs::FaultVfs(std::string name)
@@ -113,6 +116,7 @@ FaultVfs::FaultVfs(std::string name)
     vfs_.pAppData = this;
     vfs_.xOpen = Open;
     vfs_.xDelete = Delete;
+    vfs_.xSleep = NoSleep;
     sqlite3_vfs_register(&vfs_, 0);
 }
 
@@ -123,6 +127,8 @@ void FaultVfs::Heal() {
     failures_ = 0;
     failAt_ = 0;
     dieAt_ = 0;
+    heldFrom_ = 0;
+    locks_ = 0;
     changes_ = 0;
     room_ = std::numeric_limits<std::int64_t>::max();
 }
@@ -137,6 +143,11 @@ void FaultVfs::FailAt(Operation operation, int n, Lasting lasting) {
 void FaultVfs::DieAt(int n) {
     Heal();
     dieAt_ = n;
+}
+
+void FaultVfs::HeldFrom(int n) {
+    Heal();
+    heldFrom_ = n;
 }
 
 void FaultVfs::FullAfter(std::int64_t bytes) {
@@ -154,6 +165,12 @@ bool FaultVfs::Fails(Operation operation) {
                          (lasting_ == Lasting::Always ? count >= failAt_ : count == failAt_);
     if (dead || failing) ++failures_;
     return dead || failing;
+}
+
+bool FaultVfs::IsHeld() {
+    const bool held = heldFrom_ != 0 && ++locks_ >= heldFrom_;
+    if (held) ++failures_;
+    return held;
 }
 
 int FaultVfs::Fitting(int bytes) {

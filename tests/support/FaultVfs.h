@@ -34,6 +34,9 @@ class FaultVfs {
     // From now on the n-th change of the disk (of any kind, counted from 1) fails and so does everything
     // behind it: what stands on the disk then is what a process killed at that moment leaves.
     void DieAt(int n);
+    // From now on the n-th lock asked for, counted from 1, and all behind it are held by another program.
+    // Waiting for it takes no time.
+    void HeldFrom(int n);
     // Nothing fails, and the counts begin anew.
     void Heal();
 
@@ -43,6 +46,7 @@ class FaultVfs {
 
     // For the file layer: counts, and tells whether this one fails.
     bool Fails(Operation operation);
+    bool IsHeld();
     // How many of these bytes still fit.
     int Fitting(int bytes);
     sqlite3_vfs& System() const { return *system_; }
@@ -56,6 +60,8 @@ class FaultVfs {
     Operation failing_ = Operation::Open;
     int failAt_ = 0;
     int dieAt_ = 0;
+    int heldFrom_ = 0;
+    int locks_ = 0;
     int changes_ = 0;
     Lasting lasting_ = Lasting::Once;
     std::int64_t room_ = std::numeric_limits<std::int64_t>::max();
