@@ -4,8 +4,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QTimer>
 #include <csignal>
 #include <cstdlib>
@@ -279,45 +277,38 @@ TEST_F(BadFiles, AFolderThatMayNotBeWrittenTakesNoFileUntilItMay) {
     ExpectUsable();
 }
 
-// Starts the program over a file that is no database, about which it asks without end; the boxes are read and
-// answered, and `act` runs in the third. An alarm ends what nothing else ends.
-void Asking(void (*act)()) {
-    constexpr unsigned Patience = 20;
-    alarm(Patience);
-    TempFolder place;
-    fs::create_directory(place / "data");
-    std::ofstream(place / "data" / "sorvane.mdb") << std::string(4096, 'x');
-    testing::FixedClock clock{Date::FromYmd(2026, 3, 14)};
-    testing::FixedRandom random;
-    testing::RecordingPrinter printer;
-    testing::RecordingTools tools;
-    forms::MessageBoxes boxes;
-    Dao::Engine engine;
-    Services services{boxes, printer, clock, random, tools, engine};
-    Global global;
-    Run run{global, services};
-    Windows windows{run};
-    frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
-    int shown = 0;
-    QTimer reader;
-    QObject::connect(&reader, &QTimer::timeout, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box) return;
-        if (++shown == 3) act();
-        else box->button(QMessageBox::Ok)->click();
-    });
-    reader.start(0);
-    main.Load();
+class BadFilesDeathTest : public BadFiles {
+  protected:
+    BadFilesDeathTest() {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        // What the process that ends leaves behind goes with this one's folder.
+        setenv("SORVANE_TEST_PLACE", folder.Path().c_str(), 1);
+    }
+    ~BadFilesDeathTest() override { unsetenv("SORVANE_TEST_PLACE"); }
+    // Starts over a file that is no database, about which the program asks without end: the boxes are
+    // answered, and `act` comes behind the third. An alarm ends what nothing else ends.
+    void AskWithoutEnd(void (*act)()) {
+        constexpr unsigned Patience = 20;
+        alarm(Patience);
+        Write(path_, std::string(5000, 'n'));
+        person.Bear("ERROR!",
+                    "ERROR #3343\r\nUnexpected error occurred. Please advise error number to support.",
+                    [&, act] {
+                        if (++answered_ == 3) QTimer::singleShot(0, act);
+                    });
+        Start();
+    }
+
+  private:
+    int answered_ = 0;
+};
+
+TEST_F(BadFilesDeathTest, ASignalEndsTheProgramThatAsksWithoutEnd) {
+    EXPECT_EXIT(AskWithoutEnd([] { kill(getpid(), SIGTERM); }), ::testing::KilledBySignal(SIGTERM), "");
 }
 
-TEST(EndlessBoxesDeathTest, ASignalEndsTheProgram) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(Asking([] { kill(getpid(), SIGTERM); }), ::testing::KilledBySignal(SIGTERM), "");
-}
-
-TEST(EndlessBoxesDeathTest, TheEndOfTheSessionEndsTheProgram) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    EXPECT_EXIT(Asking([] {
+TEST_F(BadFilesDeathTest, TheEndOfTheSessionEndsTheProgramThatAsksWithoutEnd) {
+    EXPECT_EXIT(AskWithoutEnd([] {
                     QEvent quit(QEvent::Quit);
                     QCoreApplication::sendEvent(qApp, &quit);
                 }),

@@ -433,29 +433,22 @@ TEST_F(HalfSaved, YesRemovesAllRowsOfTheDateFromBothTablesWhicheverGameTheyCarry
     EXPECT_EQ(CountOf("Winnings"), "1");
 }
 
-TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckHasMovedOn) {
-    Begin("mnuCANBCBC49");
-    Window().SSTab1.SetTab(Tab::Check);
-    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
-    person.Expect("ERROR", "Missing Data. Please enter a valid number from 1 to 49 and try again.");
-    Click("cmdCheck");
-    EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
-    ExpectCleanUp(Answer::Yes);
-    Click("cmdExit(2)");
-    EXPECT_EQ(CountOf("PlayedBC49"), "0");
-}
-
-TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfEnterWinningsHasMovedOn) {
-    Begin("mnuCANBCBC49");
-    Window().SSTab1.SetTab(Tab::Check);
-    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
-    person.Expect("ERROR!",
-                  "ERROR #0\r\nNo entry for this Draw Date. Please check the Draw Date\r\nand try again.");
-    Click("cmdEnterWinnings");
-    EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
-    ExpectCleanUp(Answer::Yes);
-    Click("cmdExit(2)");
-    EXPECT_EQ(CountOf("PlayedBC49"), "0");
+TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckOrEnterWinningsHasMovedOn) {
+    for (const bool winnings : {false, true}) {
+        Begin("mnuCANBCBC49");
+        Window().SSTab1.SetTab(Tab::Check);
+        Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
+        if (winnings)
+            person.Expect(
+                "ERROR!",
+                "ERROR #0\r\nNo entry for this Draw Date. Please check the Draw Date\r\nand try again.");
+        else person.Expect("ERROR", "Missing Data. Please enter a valid number from 1 to 49 and try again.");
+        Click(winnings ? "cmdEnterWinnings" : "cmdCheck");
+        EXPECT_EQ(Window().State.WindowDate.ToText(), "2006-03-01");
+        ExpectCleanUp(Answer::Yes);
+        Click("cmdExit(2)");
+        EXPECT_EQ(CountOf("PlayedBC49"), "0");
+    }
 }
 
 TEST_F(HalfSaved, ASheetOfAnotherDateThatWasNotSavedLeavesTheDateOfTheLastSave) {
