@@ -813,6 +813,14 @@ TEST_F(PickCheck, TheListsTakeTheRoomOfAnAddOnListThatIsHidden) {
     EXPECT_LT(gap, played.height() / 4);
 }
 
+TEST_F(PickCheck, AnAddOnListSaysWhatItIsForButNotWherePlay4ShowsItInVain) {
+    Open("mnuCANONTPICK3");
+    EXPECT_FALSE(Find("lstEncorePlayed").accessibleDescription().isEmpty());
+    Open("mnuUSFLAPlay4");
+    EXPECT_TRUE(IsShown("lstEncorePlayed"));
+    EXPECT_TRUE(Find("lstEncorePlayed").accessibleDescription().isEmpty());
+}
+
 TEST_F(PickCheck, OntariosEncoreIsClosedByUpdateStatsOnlyAndNotAskedFor) {
     Open("mnuCANONTPICK3");
     Window().Check.lstMessage.AddItem("old");

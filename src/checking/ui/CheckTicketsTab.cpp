@@ -97,7 +97,9 @@ void CheckTicketsTab::MakeBoxes() {
     }
     if (HasEncoreList[family]) {
         lblEncorePlayed.emplace("lblEncorePlayed", "Encore #'s:");
-        lstEncorePlayed.emplace("lstEncorePlayed").SetHint("Its add-on numbers");
+        lstEncorePlayed.emplace("lstEncorePlayed");
+        // Play 4 shows the list, and nothing comes there.
+        if (HasEncoreBox[family]) lstEncorePlayed->SetHint("Its add-on numbers");
     }
 }
 
