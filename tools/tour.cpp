@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,18 +51,6 @@ std::optional<Options> Read(int argc, char** argv) {
     return options;
 }
 
-// A screen of 1366 x 768 at this scale that nobody sees, unless QT_QPA_PLATFORM names one.
-void ImagineScreen(const Options& options) {
-    qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale / 100.0));
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
-    fs::create_directories(options.out);
-    const fs::path screen = fs::absolute(options.out) / "screen.json";
-    std::ofstream(screen) << R"({"screens": [{"name": "tour", "x": 0, "y": 0, "width": )"
-                          << 1366 * options.scale / 100 << R"(, "height": )" << 768 * options.scale / 100
-                          << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(screen.string()));
-}
-
 void Play(const fs::path& out) {
     sorvane::tour::Evening evening(out);
     evening.Play();
@@ -82,11 +69,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     testing::InitGoogleTest();
-    ImagineScreen(*options);
-    sorvane::test::PrepareStage();
+    const sorvane::test::Stage stage(options->scale);
     int arguments = 1;
     sorvane::forms::Application application(arguments, argv);
-    sorvane::test::SetStage();
+    stage.Set();
     if (options->palette) sorvane::test::SetDesktopPalette(options->palette());
     try {
         Play(options->out);

@@ -1,9 +1,11 @@
 #include "forms/Look.h"
 
 #include <QApplication>
+#include <QBoxLayout>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPainterPath>
+#include <QScreen>
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
@@ -73,6 +75,18 @@ int Space(const QWidget& widget) { return FontHeights(widget, 0.4); }
 int Gap(const QWidget& widget) { return FontHeights(widget, 0.8); }
 int Margin(const QWidget& widget) { return FontHeights(widget, 0.8); }
 int BallSize(const QWidget& widget) { return FontHeights(widget, 2.4); }
+int Heading(const QWidget& widget) { return FontHeights(widget, 4.0 / 3); }
+int SmallestBall(const QWidget& widget) { return FontHeights(widget, 1.7); }
+int TitleBar(const QWidget& window) { return FontHeights(window, 2); }
+bool IsNarrow(const QWidget& widget) {
+    constexpr double Roomy = 60;
+    return widget.screen()->availableSize().width() < FontHeights(widget, Roomy);
+}
+
+QBoxLayout* Row(const QWidget& widget) {
+    return new QBoxLayout(IsNarrow(widget) ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+}
+
 int DigitsWidth(const QWidget& widget, int digits) {
     return widget.fontMetrics().horizontalAdvance(QLatin1Char('0')) * digits + FontHeights(widget, 1.2);
 }

@@ -17,6 +17,13 @@ int Space(const QWidget& widget);   // between two controls that belong together
 int Gap(const QWidget& widget);     // between groups
 int Margin(const QWidget& widget);  // around the content of a window or page
 int BallSize(const QWidget& widget);
+int Heading(const QWidget& widget);       // the title of a group, over its frame
+int SmallestBall(const QWidget& widget);  // where there is little room
+int TitleBar(const QWidget& window);      // about the height that a desktop puts over a window
+// Whether the screen has no room for long rows in this font.
+bool IsNarrow(const QWidget& widget);
+// A row of controls or groups, which is a column where the screen is narrow.
+QBoxLayout* Row(const QWidget& widget);
 // The width of so many digits, for fields of numbers.
 int DigitsWidth(const QWidget& widget, int digits);
 // The width at which a title bar shows the window's title whole beside its icon and buttons.

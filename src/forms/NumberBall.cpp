@@ -10,12 +10,17 @@
 namespace sorvane::forms {
 
 NumberBall::NumberBall(std::string_view name, std::string_view caption) : CheckBox(name, caption) {
-    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
     setAttribute(Qt::WA_Hover);
 }
 
 QSize NumberBall::sizeHint() const {
     const int side = Look::BallSize(*this);
+    return {side, side};
+}
+
+QSize NumberBall::minimumSizeHint() const {
+    const int side = Look::SmallestBall(*this);
     return {side, side};
 }
 

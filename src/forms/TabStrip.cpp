@@ -5,6 +5,7 @@
 
 #include "forms/AccessKeys.h"
 #include "forms/Runtime.h"
+#include "forms/ScrollPage.h"
 #include "forms/Utf8.h"
 
 namespace sorvane::forms {
@@ -47,7 +48,9 @@ TabStrip::TabStrip(std::string_view name) : Control(*this, name) {
     setDocumentMode(false);
 }
 
-void TabStrip::AddTab(QWidget& page, std::string_view caption) { addTab(&page, ToQt(caption)); }
+void TabStrip::AddTab(QWidget& page, std::string_view caption) {
+    addTab(new ScrollPage(page), ToQt(caption));
+}
 
 void TabStrip::SetTab(int index) {
     Change change(*this);

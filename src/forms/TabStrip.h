@@ -13,7 +13,8 @@ class TabStrip : public QTabWidget, public Control {
   public:
     explicit TabStrip(std::string_view name);
 
-    // Adds a page; it is declared behind the tab strip. The caption is kept as given, '&' included.
+    // Adds a page, which scrolls when the strip is too small for it; it is declared behind the tab strip. The
+    // caption is kept as given, '&' included.
     void AddTab(QWidget& page, std::string_view caption);
     // The tab in front, from 0.
     int Tab() const { return currentIndex(); }

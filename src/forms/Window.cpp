@@ -5,10 +5,12 @@
 #include <QEventLoop>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
 
+#include "forms/Look.h"
 #include "forms/MessageBoxes.h"
 #include "forms/Utf8.h"
 
@@ -63,6 +65,7 @@ void Window::Appear(Qt::WindowModality modality) {
     if (level_) level_->Attach(*this);
     else level_ = std::make_unique<Runtime::Modal>(this);
     setWindowModality(modality);
+    if (!testAttribute(Qt::WA_Resized)) TakeSize();
     create();
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
     if (focusWidget() == this) clearFocus();  // the control that had it was hidden or disabled meanwhile
@@ -71,6 +74,16 @@ void Window::Appear(Qt::WindowModality modality) {
     show();
     activateWindow();
     QApplication::setActiveWindow(this);
+}
+
+// As large as its content asks for, as far as the screen has room for it and its frame. Qt would take two
+// thirds of the screen at most.
+void Window::TakeSize() {
+    const int frame = Look::TitleBar(*this);
+    ensurePolished();
+    // What was dressed a moment ago has told no one yet.
+    for (auto* widget : findChildren<QWidget*>()) widget->updateGeometry();
+    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
 }
 
 void Window::Unload() {

@@ -69,6 +69,7 @@ class Window : public QWidget {
     // The widget that takes the focus when `lost` (may be null) can't keep it; null when there is none.
     QWidget* Fallback(QWidget* lost);
     void TitleToSystem();
+    void TakeSize();
 
     std::unique_ptr<Runtime::Modal> level_;
     QEventLoop* loop_ = nullptr;

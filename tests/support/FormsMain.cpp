@@ -10,8 +10,8 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1"; 
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    sorvane::test::PrepareStage();
+    const sorvane::test::Stage stage;
     sorvane::forms::Application application(argc, argv);
-    sorvane::test::SetStage();
+    stage.Set();
     return RUN_ALL_TESTS();
 }

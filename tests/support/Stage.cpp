@@ -5,6 +5,8 @@
 #include <QLocale>
 #include <QProxyStyle>
 #include <cstdio>
+#include <fstream>
+#include <string>
 
 #include "forms/Style.h"
 #include "support/Palettes.h"
@@ -39,15 +41,21 @@ void Report(QtMsgType type, const QMessageLogContext& context, const QString& te
 
 }  // namespace
 
-void PrepareStage() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+Stage::Stage(int scale) {
     qInstallMessageHandler(Report);
     qputenv("TZ", "America/Toronto");
     qputenv("QT_QPA_PLATFORMTHEME", "");
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(scale / 100.0));
     QLocale::setDefault(QLocale::c());
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+    const std::string file = screen_.File("screen.json");
+    std::ofstream(file) << R"({"screens": [{"name": "stage", "x": 0, "y": 0, "width": )" << 1366 * scale / 100
+                        << R"(, "height": )" << 768 * scale / 100
+                        << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(file));
 }
 
-void SetStage() {
+void Stage::Set() const {
     SetDesktopPalette(LightPalette());
     QApplication::setFont(QFont("DejaVu Sans", 10));
     QApplication::setCursorFlashTime(0);

@@ -12,6 +12,7 @@
 #include <regex>
 #include <vector>
 
+#include "forms/Look.h"
 #include "forms/Utf8.h"
 
 namespace sorvane::tour {
@@ -28,7 +29,7 @@ struct Part {
 
 // Pixels of the bar that a desktop puts over a window, with its title.
 int BarHeight(const QWidget& window) {
-    return window.windowFlags().testFlag(Qt::Popup) ? 0 : window.fontMetrics().height() * 2;
+    return window.windowFlags().testFlag(Qt::Popup) ? 0 : forms::Look::TitleBar(window);
 }
 
 QRect WithFrame(const Part& part) { return part.at.adjusted(-1, -BarHeight(*part.window) - 1, 1, 1); }

@@ -156,22 +156,28 @@ QLayout* CheckTicketsTab::WinnerRow() {
         numbers->addWidget(&box, i / BoxesARow, i % BoxesARow);
     });
     cboWin.ForEach([&](forms::ComboBox& box, int i) { numbers->addWidget(&box, 0, i); });
-    auto* addOn = new QHBoxLayout;
-    addOn->setSpacing(space);
-    if (lblWinEarlybird) addOn->addWidget(&*lblWinEarlybird);
+    auto* four = new QHBoxLayout;
+    four->setSpacing(space);
+    if (lblWinEarlybird) four->addWidget(&*lblWinEarlybird);
     // In the windows of two add-ons one label names the number and the four numbers alike.
-    if (lblWinEncore && !lblWinEarlybird) addOn->addWidget(&*lblWinEncore);
+    if (lblWinEncore && !lblWinEarlybird) four->addWidget(&*lblWinEncore);
     txtWin4.ForEach([&](forms::TextBox& box, int) {
         box.setFixedWidth(width);
-        addOn->addWidget(&box);
+        four->addWidget(&box);
     });
-    if (lblWinEarlybird) addOn->addWidget(&*lblWinEncore);
+    auto* encore = new QHBoxLayout;
+    encore->setSpacing(space);
+    if (lblWinEarlybird) encore->addWidget(&*lblWinEncore);
     if (txtWinEncore) {
         txtWinEncore->setFixedWidth(forms::Look::DigitsWidth(page, 8));
-        addOn->addWidget(&*txtWinEncore);
+        encore->addWidget(&*txtWinEncore);
         lblWinEncore->SetBuddy(*txtWinEncore);
     }
-    addOn->addStretch(1);
+    encore->addStretch(1);
+    auto* addOn = forms::Look::Row(page);
+    addOn->setSpacing(space);
+    addOn->addLayout(four);
+    addOn->addLayout(encore, 1);
     auto* boxes = new QHBoxLayout;
     boxes->addLayout(numbers);
     boxes->addStretch(1);
@@ -223,13 +229,19 @@ QLayout* CheckTicketsTab::WinningsRow() {
     winnings->addSpacing(forms::Look::Gap(page));
     winnings->addLayout(advice);
 
-    auto* row = new QHBoxLayout;
+    auto* row = forms::Look::Row(page);
     row->setSpacing(space);
     row->addWidget(&Frame1);
     row->addStretch(1);
-    row->addWidget(&chkStatUpdate, 0, Qt::AlignBottom);
-    row->addWidget(&cmdCheck, 0, Qt::AlignBottom);
-    row->addWidget(&window_.cmdExit(2), 0, Qt::AlignBottom);
+    auto* buttons = new QGridLayout;
+    buttons->setSpacing(space);
+    const bool narrow = forms::Look::IsNarrow(page);
+    buttons->setRowStretch(0, 1);
+    buttons->setColumnStretch(0, narrow ? 1 : 0);
+    buttons->addWidget(&chkStatUpdate, narrow ? 2 : 1, 0, 1, narrow ? 1 : 2);
+    buttons->addWidget(&cmdCheck, 2, 1 - !narrow);
+    buttons->addWidget(&window_.cmdExit(2), 2, 2 - !narrow);
+    row->addLayout(buttons);
     return row;
 }
 

@@ -61,10 +61,11 @@ void DigitCapture::AttachHandlers() {
 void DigitCapture::LayOutSlip() {
     const int gap = forms::Look::Gap(slip_);
     auto* digits = new QHBoxLayout;
-    digits->setSpacing(2 * gap);
+    const bool narrow = forms::Look::IsNarrow(slip_);
+    digits->setSpacing(narrow ? gap : 2 * gap);
     digits->addStretch(1);
     cboNumber.ForEach([&](forms::ComboBox& list, int i) {
-        forms::Look::Enlarge(list, DigitScale);
+        if (!narrow) forms::Look::Enlarge(list, DigitScale);
         auto* place = new QVBoxLayout;
         place->setSpacing(gap / 2);
         place->addWidget(&lblNumber(i), 0, Qt::AlignHCenter);
@@ -82,16 +83,18 @@ void DigitCapture::LayOutHeader() {
     const int gap = forms::Look::Gap(header_);
     auto* ways = new QHBoxLayout(&fraWayPlayed);
     auto* wagers = new QHBoxLayout(&fraWager);
-    for (QHBoxLayout* row : {ways, wagers}) row->setSpacing(gap);
     optPlayOpt.ForEach([&](forms::OptionButton& way, int) { ways->addWidget(&way); });
     for (forms::OptionButton* wager : {&optOneDollar, &optTwoDollars, &optFiveDollars, &optTenDollars})
         wagers->addWidget(wager);
-    auto* whole = new QHBoxLayout(&header_);
+    for (QHBoxLayout* row : {ways, wagers}) {
+        row->setSpacing(2 * gap);
+        row->addStretch(1);
+    }
+    auto* whole = new QVBoxLayout(&header_);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(gap);
+    whole->setSpacing(gap / 2);
     whole->addWidget(&fraWayPlayed);
     whole->addWidget(&fraWager);
-    whole->addStretch(1);
 }
 
 void DigitCapture::AddToTabOrder(std::vector<QWidget*>& order) {

@@ -15,16 +15,8 @@ namespace sorvane {
 namespace {
 
 constexpr int CountDigits = 5;
-constexpr int AmountDigits = 10;
-
-// A caption above its field.
-QVBoxLayout* Above(std::initializer_list<QWidget*> labels, QWidget& field) {
-    auto* pair = new QVBoxLayout;
-    pair->setSpacing(forms::Look::Space(field) / 2);
-    for (QWidget* label : labels) pair->addWidget(label);
-    pair->addWidget(&field, 0, Qt::AlignLeft);
-    return pair;
-}
+constexpr int AmountDigits = 8;
+constexpr int NumberDigits = 8;
 
 }  // namespace
 
@@ -57,45 +49,68 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
 void EnterTicketsTab::LayOut() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
-    forms::TextBox& count = window_.txtNoOfTickets(0);
-    for (forms::TextBox* field : {&count, &txtDollars})
-        field->setFixedWidth(forms::Look::DigitsWidth(page, field == &count ? CountDigits : AmountDigits));
-
-    auto* head = new QHBoxLayout;
-    head->setSpacing(gap * 2);
-    lblDrawDate.SetBuddy(window_.dtpEnterTickets(0));
-    lblNoTickets.SetBuddy(count);
-    head->addLayout(Above({&lblDrawDate}, window_.dtpEnterTickets(0)));
-    head->addLayout(Above({&lblNoTickets}, count));
-    if (AddOns.txtNoOfExtra) {
-        AddOns.txtNoOfExtra->setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
-        AddOns.lblNoOfExtra->SetBuddy(*AddOns.txtNoOfExtra);
-        head->addLayout(Above({&*AddOns.lblNoOfExtra}, *AddOns.txtNoOfExtra));
-    }
-    lblDollarsSpent.SetBuddy(txtDollars);
-    if (lblDollars) {
-        lblDollars->SetBuddy(txtDollars);
-        head->addLayout(Above({&*lblDollars, &lblDollarsSpent}, txtDollars));
-    } else {
-        head->addLayout(Above({&lblDollarsSpent}, txtDollars));
-    }
-    head->addStretch(1);
-
     auto* ticket = new QVBoxLayout(&fraTicketNumber);
     ticket->addWidget(&capture_->Slip(), 1);
+    auto* tickets = new QVBoxLayout(&fraTickets);
+    tickets->setSpacing(gap / 2);
+    if (QWidget* header = capture_->Header()) tickets->addWidget(header);
+    tickets->addWidget(&fraTicketNumber, 1);
+    tickets->addLayout(MarksRow());
+    auto* body = new QHBoxLayout;
+    body->setSpacing(gap * 3 / 2);
+    body->addWidget(&fraTickets, 1);
+    body->addLayout(ButtonColumn());
+    auto* whole = new QVBoxLayout(&page);
+    whole->setContentsMargins(gap, gap, gap, gap);
+    whole->setSpacing(gap);
+    whole->addLayout(HeadRow());
+    whole->addLayout(body, 1);
+    OrderTabs();
+    // The count of frmPick4 is there a second time; nothing shows it.
+    if (window_.Which != Family::frmPick4) return;
+    forms::TextBox& second = window_.txtNoOfTickets.Load(2);
+    second.setParent(&page);
+    second.SetVisible(false);
+}
 
-    auto* marks = new QHBoxLayout;
-    marks->setSpacing(gap);
-    marks->addWidget(&chkRegular);
-    capture_->AddMarks(*marks);
-    marks->addStretch(1);
+// Captions stand above their fields.
+QLayout* EnterTicketsTab::HeadRow() {
+    QWidget& page = window_.Pages[Tab::Enter];
+    auto* head = new QGridLayout;
+    head->setHorizontalSpacing(forms::Look::Gap(page) * 2);
+    head->setVerticalSpacing(forms::Look::Space(page) / 2);
+    int column = 0;
+    const auto add = [&](forms::Label& label, forms::Control& field) {
+        label.SetBuddy(field);
+        head->addWidget(&label, 0, column);
+        head->addWidget(&field.Widget(), 1, column++, Qt::AlignLeft);
+    };
+    const auto addCount = [&](forms::Label& label, forms::TextBox& field) {
+        field.setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
+        add(label, field);
+    };
+    add(lblDrawDate, window_.dtpEnterTickets(0));
+    addCount(lblNoTickets, window_.txtNoOfTickets(0));
+    if (AddOns.txtNoOfExtra) addCount(*AddOns.lblNoOfExtra, *AddOns.txtNoOfExtra);
+    head->setColumnStretch(column, 1);
+    return head;
+}
 
+// The marks of the ticket and the numbers of its add-on, in a row as high when these are hidden, so that the
+// play slip stays as it is.
+QLayout* EnterTicketsTab::MarksRow() {
+    QWidget& page = window_.Pages[Tab::Enter];
+    const int gap = forms::Look::Gap(page);
+    auto* ticket = new QHBoxLayout;
+    ticket->setSpacing(gap);
+    ticket->addWidget(&chkRegular);
+    capture_->AddMarks(*ticket);
     auto* addOn = new QHBoxLayout;
     addOn->setSpacing(gap / 2);
     if (AddOns.chkEncore) addOn->addWidget(&*AddOns.chkEncore);
     if (AddOns.lblExtra) addOn->addWidget(&*AddOns.lblExtra);
     if (AddOns.txtEncore) {
-        AddOns.txtEncore->setFixedWidth(forms::Look::DigitsWidth(page, AmountDigits));
+        AddOns.txtEncore->setFixedWidth(forms::Look::DigitsWidth(page, NumberDigits));
         addOn->addWidget(&*AddOns.txtEncore);
     }
     AddOns.txtPlay4.ForEach([&](forms::TextBox& box, int) {
@@ -103,40 +118,42 @@ void EnterTicketsTab::LayOut() {
         addOn->addWidget(&box);
     });
     addOn->addStretch(1);
+    addOn->addWidget(&lblInfo);
+    addOn->addStrut(txtDollars.sizeHint().height());
+    auto* marks = forms::Look::Row(page);
+    marks->setSpacing(gap);
+    marks->addLayout(ticket);
+    marks->addLayout(addOn, 1);
+    return marks;
+}
 
-    auto* tickets = new QVBoxLayout(&fraTickets);
-    tickets->setSpacing(gap / 2);
-    if (QWidget* header = capture_->Header()) tickets->addWidget(header);
-    tickets->addWidget(&fraTicketNumber, 1);
-    tickets->addLayout(marks);
-    tickets->addLayout(addOn);
+// What the sheet costs, and what is done with it, in the order of the work.
+QLayout* EnterTicketsTab::ButtonColumn() {
+    QWidget& page = window_.Pages[Tab::Enter];
+    const int gap = forms::Look::Gap(page);
+    auto* money = new QHBoxLayout;
+    money->setSpacing(forms::Look::Space(page));
+    for (forms::Label* label : {lblDollars ? &*lblDollars : nullptr, &lblDollarsSpent}) {
+        if (!label) continue;
+        label->SetBuddy(txtDollars);
+        money->addWidget(label);
+    }
+    txtDollars.setFixedWidth(forms::Look::DigitsWidth(page, AmountDigits));
+    money->addStretch(1);
+    money->addWidget(&txtDollars);
 
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(forms::Look::Space(page));
-    buttons->addWidget(&cmdRegular);
+    buttons->addSpacing(forms::Look::Heading(page));  // level with the frame beside
+    buttons->addLayout(money);
     buttons->addSpacing(gap);
     for (QWidget* button : {&cmdNext_Ticket, &cmdCorrection, &cmdSave}) buttons->addWidget(button);
+    buttons->addSpacing(gap);
+    buttons->addWidget(&cmdRegular);
     buttons->addStretch(1);
     buttons->addWidget(&cmdCancel);
     buttons->addWidget(&window_.cmdExit(0));
-
-    auto* body = new QHBoxLayout;
-    body->setSpacing(gap);
-    body->addWidget(&fraTickets, 1);
-    body->addLayout(buttons);
-
-    auto* whole = new QVBoxLayout(&page);
-    whole->setContentsMargins(gap, gap, gap, gap);
-    whole->setSpacing(gap);
-    whole->addLayout(head);
-    whole->addLayout(body, 1);
-    whole->addWidget(&lblInfo);
-    OrderTabs();
-    // The count of frmPick4 is there a second time; nothing shows it.
-    if (window_.Which != Family::frmPick4) return;
-    forms::TextBox& second = window_.txtNoOfTickets.Load(2);
-    second.setParent(&page);
-    second.SetVisible(false);
+    return buttons;
 }
 
 void EnterTicketsTab::OrderTabs() {

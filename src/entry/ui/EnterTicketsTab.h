@@ -15,6 +15,8 @@
 #include "forms/LabelFrame.h"
 #include "forms/TextBox.h"
 
+class QLayout;
+
 namespace sorvane {
 
 class GameWindow;
@@ -58,6 +60,9 @@ class EnterTicketsTab {
 
   private:
     void LayOut();
+    QLayout* HeadRow();
+    QLayout* MarksRow();
+    QLayout* ButtonColumn();
     void OrderTabs();
     void txtDollars_KeyPress(forms::KeyPress& key);
     void txtDollars_Change();

@@ -35,14 +35,19 @@ void KenoCapture::LayOut() {
     lblNoOfBalls.SetBuddy(cboNoOfBallsPerTicket);
     lblWager.SetBuddy(cboWager);
     const int space = forms::Look::Space(header_);
-    auto* choices = new QHBoxLayout(&header_);
+    auto* choices = forms::Look::Row(header_);
+    header_.setLayout(choices);
     choices->setContentsMargins(0, 0, 0, 0);
-    choices->setSpacing(space);
-    choices->addWidget(&lblNoOfBalls);
-    choices->addWidget(&cboNoOfBallsPerTicket);
-    choices->addSpacing(2 * space);
-    choices->addWidget(&lblWager);
-    choices->addWidget(&cboWager);
+    choices->setSpacing(3 * space);
+    for (const auto& [label, list] :
+         {std::pair{&lblNoOfBalls, &cboNoOfBallsPerTicket}, {&lblWager, &cboWager}}) {
+        auto* choice = new QHBoxLayout;
+        choice->setSpacing(space);
+        choice->addWidget(label);
+        choice->addWidget(list);
+        choice->addStretch(1);
+        choices->addLayout(choice);
+    }
     choices->addStretch(1);
     for (forms::ComboBox* list : {&cboNoOfBallsPerTicket, &cboWager})
         list->setMinimumWidth(forms::Look::DigitsWidth(header_, ChoiceDigits) + forms::Look::Gap(header_));

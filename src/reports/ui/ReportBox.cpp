@@ -9,8 +9,8 @@ namespace sorvane {
 
 namespace {
 // The head line with the longest title of a window.
-constexpr int Columns = 80;
-constexpr int LeastLines = 16, ComfortableLines = 28;
+constexpr int Columns = 80, LeastColumns = 32;
+constexpr int Lines = 28, LeastLines = 8;
 }  // namespace
 
 ReportBox::ReportBox(std::string_view name) : MultiLineBox(name) {
@@ -18,18 +18,18 @@ ReportBox::ReportBox(std::string_view name) : MultiLineBox(name) {
     SetFixedPitch();
     SetAccessibleName("Report");
     SetVisible(false);
-    setMinimumSize(SizeFor(LeastLines));
+    setMinimumSize(SizeFor(LeastColumns, LeastLines));
 }
 
-QSize ReportBox::SizeFor(int lines) const {
+QSize ReportBox::SizeFor(int columns, int lines) const {
     const QFontMetrics metrics = fontMetrics();
     const int frame = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
-    return {metrics.horizontalAdvance(QString(Columns, QLatin1Char('0'))) + frame +
+    return {metrics.horizontalAdvance(QString(columns, QLatin1Char('0'))) + frame +
                 verticalScrollBar()->sizeHint().width(),
             metrics.lineSpacing() * lines + frame};
 }
 
-QSize ReportBox::sizeHint() const { return SizeFor(ComfortableLines); }
+QSize ReportBox::sizeHint() const { return SizeFor(Columns, Lines); }
 
 void ReportBox::Write(const std::function<void(std::string& text)>& write) {
     forms::BusyPointer busy;

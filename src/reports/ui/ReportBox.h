@@ -9,7 +9,8 @@
 
 namespace sorvane {
 
-// Read-only, in a fixed-pitch font, wide enough for the longest line of any report; hidden until it is shown.
+// Read-only, in a fixed-pitch font, as wide as the longest line of any report where there is room; hidden
+// until it is shown.
 class ReportBox final : public forms::MultiLineBox {
   public:
     explicit ReportBox(std::string_view name);
@@ -21,8 +22,8 @@ class ReportBox final : public forms::MultiLineBox {
     QSize sizeHint() const override;
 
   private:
-    // Room for the longest line and so many lines.
-    QSize SizeFor(int lines) const;
+    // Room for lines so long and so many.
+    QSize SizeFor(int columns, int lines) const;
 };
 
 }  // namespace sorvane

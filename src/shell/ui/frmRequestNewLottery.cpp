@@ -6,6 +6,7 @@
 #include <initializer_list>
 
 #include "forms/Look.h"
+#include "forms/ScrollPage.h"
 #include "platform/RunTimeError.h"
 
 namespace sorvane {
@@ -157,7 +158,12 @@ void frmRequestNewLottery::LayOut() {
     buttons->addWidget(&cmdPrint);
     buttons->addWidget(&cmdExit);
 
-    auto* whole = new QVBoxLayout(this);
+    lblText1.setWordWrap(true);
+    lblText1.setMinimumWidth(forms::Look::DigitsWidth(*this, 60));
+    auto* window = new QVBoxLayout(this);
+    window->setContentsMargins(0, 0, 0, 0);
+    window->addWidget(new forms::ScrollPage(form_));
+    auto* whole = new QVBoxLayout(&form_);
     whole->setContentsMargins(margin * 2, margin * 2, margin * 2, margin * 2);
     whole->setSpacing(space);
     whole->addWidget(&lblText1);

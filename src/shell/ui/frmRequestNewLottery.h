@@ -30,6 +30,7 @@ class frmRequestNewLottery final : public forms::Window {
     RequestForm Filled() const;
 
     Run& run_;
+    QWidget form_;  // the container, before its contents
     forms::Label lblText1{"lblText1",
                           "To request a new lottery, please complete the information requested below, print "
                           "it out, and mail it to the"};
