@@ -1,5 +1,7 @@
 #include "forms/Control.h"
 
+#include <QComboBox>
+
 #include "forms/Runtime.h"
 #include "forms/Utf8.h"
 
@@ -33,7 +35,11 @@ void Control::SetFocus() { Runtime::Current().SetFocus(widget_); }
 
 bool Control::HasFocus() const { return Of(widget_.window()->focusWidget()) == this; }
 
-void Control::SetAccessibleName(std::string_view text) { widget_.setAccessibleName(ToQt(text)); }
+void Control::SetAccessibleName(std::string_view text) {
+    widget_.setAccessibleName(ToQt(text));
+    // Where Qt gives a list that opens its value for a name, it is told here what the list is for.
+    if (qobject_cast<QComboBox*>(&widget_)) widget_.setAccessibleDescription(ToQt(text));
+}
 
 void Control::SetTabStop(bool stop) { widget_.setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus); }
 

@@ -1,5 +1,7 @@
 #include "forms/Label.h"
 
+#include <QAbstractItemView>
+
 #include "forms/AccessKeys.h"
 #include "forms/Utf8.h"
 
@@ -11,8 +13,22 @@ Label::Label(std::string_view name, std::string_view caption) : Control(*this, n
 }
 
 std::string Label::Caption() const { return ToUtf8(text()); }
-void Label::SetCaption(std::string_view caption) { setText(ToQt(caption)); }
-void Label::SetBuddy(Control& control) { setBuddy(&control.Widget()); }
+void Label::SetCaption(std::string_view caption) {
+    setText(ToQt(caption));
+    NameList();
+}
+void Label::SetBuddy(Control& control) {
+    setBuddy(&control.Widget());
+    NameList();
+}
+
+void Label::NameList() {
+    if (!qobject_cast<QAbstractItemView*>(buddy())) return;
+    QString name = text();
+    name.remove(u'&');
+    if (name.endsWith(u':')) name.chop(1);
+    buddy()->setAccessibleName(name);
+}
 
 bool Label::event(QEvent* event) { return HandleAccessKey(*this, *event) || QLabel::event(event); }
 

@@ -21,6 +21,10 @@ class Label : public QLabel, public Control {
 
   protected:
     bool event(QEvent* event) override;
+
+  private:
+    // Qt lets a list have no name from its label.
+    void NameList();
 };
 
 }  // namespace sorvane::forms

@@ -7,15 +7,20 @@
 #include <QApplication>
 #include <QDialog>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
+#include "forms/Control.h"
+#include "forms/NumberBall.h"
 #include "forms/Runtime.h"
 #include "forms/Utf8.h"
 #include "forms/Window.h"
@@ -67,6 +72,49 @@ std::string Describe(const QWidget& modal) {
     return text;
 }
 
+// The key that clicks a button.
+QKeySequence AccessKeyOf(const QWidget& widget) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+    return button ? QKeySequence::mnemonic(button->text()) : QKeySequence();
+}
+
+// Whether the key only moves the focus, because several controls have it.
+bool IsShared(const QKeySequence& key, const QWidget& window) {
+    int owners = 0;
+    for (const auto* widget : window.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const bool owns = AccessKeyOf(*widget) == key ||
+                          (label && label->buddy() && QKeySequence::mnemonic(label->text()) == key);
+        owners += owns && widget->isVisible() && widget->isEnabled();
+    }
+    return owners > 1;
+}
+
+// From one number of the play slip towards another, and from one option to the next.
+std::optional<Qt::Key> ArrowTo(const QWidget* focus, const QWidget& target) {
+    const auto both = [&](auto is) { return is(focus) && is(&target); };
+    const bool balls =
+        both([](const QWidget* widget) { return dynamic_cast<const forms::NumberBall*>(widget); });
+    const bool options =
+        both([](const QWidget* widget) { return qobject_cast<const QRadioButton*>(widget) != nullptr; }) &&
+        focus->parentWidget() == target.parentWidget();
+    if (!balls && !options) return std::nullopt;
+    const QPoint way = target.geometry().center() - focus->geometry().center();
+    if (way.x() != 0) return way.x() > 0 ? Qt::Key_Right : Qt::Key_Left;
+    return way.y() > 0 ? Qt::Key_Down : Qt::Key_Up;
+}
+
+// Whether the Tab key leads there in fewer steps than the Tab key with Shift.
+bool IsAhead(const QWidget* focus, const QWidget& target) {
+    if (!focus) return true;
+    int steps[] = {0, 0};
+    const QWidget* const ends[] = {focus, &target};
+    for (const int way : {0, 1})
+        for (const QWidget* at = ends[way]; at != ends[1 - way] && at; at = at->nextInFocusChain())
+            steps[way] += at->isVisible() && at->isEnabled() && (at->focusPolicy() & Qt::TabFocus);
+    return steps[0] <= steps[1];
+}
+
 }  // namespace
 
 Person::Person() { qApp->installEventFilter(this); }
@@ -107,7 +155,8 @@ QWindow* Person::Handle(QWidget& widget, QPoint at) const {
     QWidget* window = widget.window();
     const QWidget* front = QApplication::activePopupWidget();
     if (!front) front = &Front();
-    if (window != front) ADD_FAILURE() << Describe(widget) << " is behind " << Describe(*front);
+    if (mouseIsAway_) ADD_FAILURE() << "there is no mouse to touch " << Describe(widget);
+    else if (window != front) ADD_FAILURE() << Describe(widget) << " is behind " << Describe(*front);
     else if (!widget.visibleRegion().contains(at)) ADD_FAILURE() << Describe(widget) << " can't be seen";
     else return window->windowHandle();
     return nullptr;
@@ -129,8 +178,43 @@ void Person::Release() {
 }
 
 void Person::Click(QWidget& widget, QPoint at) {
+    if (mouseIsAway_) return UseByKeys(widget);
     Press(widget, at);
     Release();
+}
+
+void Person::UseByKeys(QWidget& widget) {
+    if (!widget.isVisible() || !widget.isEnabled()) {
+        ADD_FAILURE() << Describe(widget) << " can't be used";
+        return;
+    }
+    const auto* button = qobject_cast<QAbstractButton*>(&widget);
+    const bool atOnce = dynamic_cast<forms::Control*>(&widget);  // a box shows the press for a while first
+    if (const QKeySequence key = AccessKeyOf(widget); atOnce && !key.isEmpty() && !IsShared(key, Front()))
+        return AccessKey(static_cast<char>(key[0].key()));
+    Reach(widget);
+    if (button) Key(button->isCheckable() ? Qt::Key_Space : Qt::Key_Return);
+}
+
+void Person::Reach(QWidget& widget) {
+    constexpr int MostSteps = 300;
+    for (int step = 0; step < MostSteps; ++step) {
+        QWidget* focus = Front().focusWidget();
+        if (focus == &widget) return;
+        Await(Front());
+        if (const auto arrow = ArrowTo(focus, widget)) Key(*arrow);
+        else if (IsAhead(focus, widget)) Tab();
+        else BackTab();
+        ExpectFocusToBeSeen();
+    }
+    ADD_FAILURE() << Describe(widget) << " can't be reached by keys";
+}
+
+void Person::ExpectFocusToBeSeen() const {
+    const QWidget* focus = Front().focusWidget();
+    if (!focus) ADD_FAILURE() << "nothing has the focus";
+    else if (focus->visibleRegion().boundingRect() != focus->rect())
+        ADD_FAILURE() << Describe(*focus) << " has the focus and isn't seen whole";
 }
 
 void Person::DoubleClick(QWidget& widget, QPoint at) {
@@ -156,8 +240,13 @@ void Person::DoubleClickRow(QAbstractItemView& list, int row) {
 
 void Person::ClickTab(std::string_view captionStart) {
     for (auto* bar : Front().findChildren<QTabBar*>())
-        for (int i = 0; i < bar->count(); ++i)
-            if (bar->tabText(i).startsWith(ToQt(captionStart))) return Click(*bar, bar->tabRect(i).center());
+        for (int i = 0; i < bar->count(); ++i) {
+            if (!bar->tabText(i).startsWith(ToQt(captionStart))) continue;
+            if (!mouseIsAway_) return Click(*bar, bar->tabRect(i).center());
+            for (int step = 0; step < bar->count() && bar->currentIndex() != i; ++step)
+                Key(Qt::Key_Tab, Qt::ControlModifier);
+            return;
+        }
     ADD_FAILURE() << "no tab " << captionStart;
 }
 

@@ -33,6 +33,11 @@ class Person : public QObject {
     // The window in front: the one that is modal, or the main window.
     QWidget& Front() const;
 
+    // From now on there is the keyboard alone: a click means that the widget gets the focus by Tab, arrows or
+    // its access key, and that a button is pressed. Any other use of the mouse is a failure, and so is a
+    // focus that can't be seen.
+    void PutMouseAway() { mouseIsAway_ = true; }
+
     // A click in the middle of a widget, or at a point of it.
     void Click(QWidget& widget) { Click(widget, widget.rect().center()); }
     void Click(QWidget& widget, QPoint at);
@@ -112,12 +117,17 @@ class Person : public QObject {
     void Unexpected(QWidget& modal);
     // The system's window of a widget that can be touched now.
     QWindow* Handle(QWidget& widget, QPoint at) const;
+    void UseByKeys(QWidget& widget);
+    // Moves the focus to it, the shorter way round.
+    void Reach(QWidget& widget);
+    void ExpectFocusToBeSeen() const;
 
     std::deque<Event> awaited_;
     std::vector<Event> borne_;
     QPointer<QWidget> pressed_;
     QPoint pressedAt_;
     int unexpected_ = 0;
+    bool mouseIsAway_ = false;
 };
 
 }  // namespace sorvane::test

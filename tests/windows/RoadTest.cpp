@@ -2,6 +2,8 @@
 // once more after a restart.
 #include "windows/Road.h"
 
+#include <QPlainTextEdit>
+
 namespace sorvane::test {
 namespace {
 
@@ -45,6 +47,39 @@ TEST_P(RoadTest, LeadsFromTheMenuToTheFileToTheVerdictAndSurvivesARestart) {
         EXPECT_EQ(ListOf("lstMessage"), IsPick(family) ? verdicts : Texts{});
     });
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(key.Win)), Texts{"1"});
+}
+
+// The same for somebody without a mouse, whose focus is seen at every step.
+class KeyboardRoadTest : public Road, public ::testing::WithParamInterface<std::string_view> {
+  protected:
+    KeyboardRoadTest() : Road(GetParam()) { person.PutMouseAway(); }
+};
+
+TEST_P(KeyboardRoadTest, NeedsNoMouse) {
+    Start();
+    const Purchase purchase{4, 2, 1};
+    Inside([&] { EnterTickets(purchase); });
+    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(key.Played) + " ORDER BY ID1"),
+              TicketTexts());
+    Texts verdicts = Verdicts(), listed;
+    ExpectAddOns(listed, verdicts, purchase);
+    Inside([&] {
+        person.ClickTab("&Check Tickets");
+        TypeDraw();
+        Click("cmdCheck");
+        EXPECT_EQ(ListOf("lstMessage"), verdicts);
+        person.Expect("SAVED", "Winning data saved.");
+        Put("txtDollarsWon", "20.00");
+        Click("cmdEnterWinnings");
+        person.ClickTab("&Reports");
+        Click("cmdPLReport");
+        EXPECT_TRUE(person.Find<QPlainTextEdit>("txtReport").toPlainText().contains("20.00"));
+        person.ClickTab("&Quick Pick");
+        Put("txtNoOfTickets(1)", "3");
+        if (family == Family::frm645) Click("optWheelType(3)");  // one draw is not enough for a wheel
+        Click("cmdGenerate");
+        Click("cmdExit(1)");
+    });
 }
 
 // Games whose sheets carry add-on tickets.
@@ -128,6 +163,9 @@ Menus EncoreMenus() {
 std::string NameOfMenu(const ::testing::TestParamInfo<std::string_view>& menu) {
     return std::string(menu.param);
 }
+
+INSTANTIATE_TEST_SUITE_P(AllGames, KeyboardRoadTest, ::testing::ValuesIn(AllMenus()),
+                         [](const auto& menu) { return std::string(menu.param); });
 
 INSTANTIATE_TEST_SUITE_P(AllGames, RoadTest, ::testing::ValuesIn(AllMenus()), NameOfMenu);
 INSTANTIATE_TEST_SUITE_P(GamesWithAddOns, AddOnRoadTest, ::testing::ValuesIn(AddOnMenus()), NameOfMenu);

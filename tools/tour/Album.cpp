@@ -81,7 +81,8 @@ void Paint(QPainter& painter, const Part& part) {
     if (const int height = BarHeight(*part.window); height > 0) {
         const QRect bar(part.at.x(), part.at.y() - height, part.at.width(), height);
         painter.fillRect(bar, palette.color(QPalette::Mid));
-        painter.setPen(palette.color(QPalette::WindowText));
+        painter.setPen(
+            forms::Look::Readable(palette.color(QPalette::WindowText), palette.color(QPalette::Mid)));
         QFont font = part.window->font();
         font.setBold(true);
         painter.setFont(font);
