@@ -822,6 +822,8 @@ TEST_F(AddOnWindow, CancelHidesTheExtraFields) {
 TEST_F(AddOnWindow, ReenteringTheLastTicketOffersThePhaseAgain) {
     EnterTicket("mnuCANONTLotto649", "1");
     Click("cmdCorrection");
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Encore Ticket #1 - Sheet 1 of 1");  // not written anew
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
     Pick({11, 12, 13, 14, 15, 16});
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Enter Encore");

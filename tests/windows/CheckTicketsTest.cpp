@@ -952,6 +952,13 @@ TEST_F(EveryCheck, WithoutATicketForTheDateNothingIsStored) {
         Click("cmdCheck");
         Window().Leave();
     }
+    Show(Family::frmKeno80, "PrairieKeno", "");
+    std::string played = "PlayedPrairieKeno";
+    CreatePlayedKenoTable(run, Window().State.DbName, played, "ID1", "Date");
+    Window().SSTab1.SetTab(Tab::Check);
+    FillMain();
+    ExpectMissing("No match for Draw Date selected. Please check the Draw Date and try again.");
+    Click("cmdCheck");
     for (const std::string& table : Plain().Tables())
         if (table.starts_with("Win")) {
             EXPECT_EQ(CountOf(table), "0") << table;

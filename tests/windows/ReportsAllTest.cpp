@@ -156,6 +156,12 @@ TEST_F(AllReportsFromTheMenu, TheEntryEmptiesTheKeyOfTheGameAndItStaysEmpty) {
     });
     Choose("mnuReportsPL");
     EXPECT_EQ(global.LottoFlag, "");
+    person.ExpectWindow("frmComingSoon", [this](QWidget&) { Click("cmdOk"); });
+    Choose("mnuUSPowerball");
+    EXPECT_EQ(global.LottoFlag, "");
+    person.ExpectWindow("frm649", [this](QWidget&) { Click("cmdExit(0)"); });
+    Choose("mnuCANBCBC49");
+    EXPECT_EQ(global.LottoFlag, "BC49");
 }
 
 class ReportTypeTest : public ReportsWorld {
