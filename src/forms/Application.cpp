@@ -19,6 +19,7 @@ bool IsPress(const QObject& receiver, const QEvent& event) {
 
 // The style is there before the application, which makes no other then.
 Application::Application(int& argc, char** argv) : QApplication((setStyle(new Style), argc), argv) {
+    style()->setParent(this);  // so that it goes when another one comes
     setQuitOnLastWindowClosed(false);
     installEventFilter(this);
     connect(this, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
