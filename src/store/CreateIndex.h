@@ -3,13 +3,14 @@
 
 #include <string>
 
-#include "shell/Global.h"
+#include "store/dao/Dao.h"
 
 namespace sorvane {
 
-// Makes the primary index and the index over the second field, each named like its field. Opens the database
-// for itself; any error shows one box and ends it.
-void CreateIndex(Run& run, const std::string& DbName, const std::string& TableName,
-                 const std::string& PrimaryField, const std::string& SecondField);
+// Makes the primary index and the index over the second field, each named like its field. It works in the
+// database that its caller has open, because a table and its indexes are one commit. Raises what the engine
+// raises; the caller shows it by Tails::CreateIndex.
+void CreateIndex(Dao::Database& Db, const std::string& TableName, const std::string& PrimaryField,
+                 const std::string& SecondField);
 
 }  // namespace sorvane

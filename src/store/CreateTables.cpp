@@ -144,37 +144,73 @@ const Creator CreatePlayedKenoTable{PlayedKenoFields};
 const Creator CreateWinKenoTable{WinKenoFields};
 const Creator CreateTempTable{TempFields, Tails::Create, false};
 
+namespace {
+
+struct NewTable {
+    const Creator& creator;
+    std::string name;
+};
+
+// Names of the index fields.
+struct IndexFields {
+    const std::string& primary;
+    const std::string& second;
+};
+
+// Makes a table, and with it a second one that is missing. All of it is one commit: a program that dies
+// meanwhile leaves no table half made and no pair without its half, which nothing would mend. Where only the
+// indexes fail, the table stands without them.
+void Make(Run& run, const std::string& DbName, const NewTable& table, const NewTable* second,
+          const IndexFields& index) {
+    int indexError = 0;
+    const int error = StoreRoutine(run, table.creator.tail, table.name, [&] {
+        Dao::Workspace Ws = run.services.engine.Workspaces(0, run.global.Open);
+        Dao::Database Db = Ws.OpenDatabase(DbName);
+        Db.OneCommit();
+        const auto append = [&](const NewTable& added) {
+            Db.Append(Define(added.name, added.creator.fields));
+            if (!added.creator.indexed || indexError != 0) return;
+            indexError = ErrorOf([&] { CreateIndex(Db, added.name, index.primary, index.second); });
+            if (indexError != 0 && !Db.HasTable(added.name)) Raise(indexError);
+        };
+        append(table);
+        if (second && !Db.HasTable(second->name)) append(*second);
+        Db.Close();
+    });
+    if (error != 0) return;
+    run.global.TableOpened = On;
+    if (indexError != 0) ShowStoreError(run, Tails::CreateIndex, indexError, table.name);
+}
+
+}  // namespace
+
 void Creator::operator()(Run& run, const std::string& DbName, const std::string& TableName,
                          const std::string& PrimaryField, const std::string& SecondField) const {
-    StoreRoutine(run, tail, TableName, [&] {
-        {
-            Dao::Workspace Ws = run.services.engine.Workspaces(0, run.global.Open);
-            Dao::Database Db = Ws.OpenDatabase(DbName);
-            Db.Append(Define(TableName, fields));
-        }
-        run.global.TableOpened = On;
-        if (indexed) CreateIndex(run, DbName, TableName, PrimaryField, SecondField);
-    });
+    Make(run, DbName, {*this, TableName}, nullptr, {PrimaryField, SecondField});
 }
 
 void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
                         const std::string& PrimaryField, const std::string& SecondField) {
+    const IndexFields index{PrimaryField, SecondField};
     for (const ShapePair& pair : ShapePairs()) {
         if (pair.code != ShapeCode) continue;
-        const auto create = [&](const Creator& creator) {
-            creator(run, DbName, TableName, PrimaryField, SecondField);
+        const auto winName = pair.WinName(run.global);
+        const NewTable win{pair.win, winName.value_or("")};
+        const auto createPair = [&] {
+            Make(run, DbName, {pair.played, TableName}, winName ? &win : nullptr, index);
         };
         if (pair.code == FourDigits) {
             if (const auto name = Pick4Played(run.global)) TableName = *name;
             MakeSureOf(run, DbName, TableName, [&] {
                 ShapeCode = FourDigits;
-                create(pair.played);
+                createPair();
             });
         } else {
-            create(pair.played);
+            createPair();
         }
-        if (const auto name = pair.WinName(run.global)) TableName = *name;
-        MakeSureOf(run, DbName, TableName, [&] { create(pair.win); });
+        if (winName) TableName = *winName;
+        MakeSureOf(run, DbName, TableName,
+                   [&] { pair.win(run, DbName, TableName, PrimaryField, SecondField); });
         return;
     }
 }

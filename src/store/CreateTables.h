@@ -18,9 +18,9 @@ struct ShapeField {
     int count = 1;
 };
 
-// A creator: makes a table of its shape, then its two indexes (the scratch table has none), and sets
-// Global::TableOpened to 1 once the table stands. It does not ask whether the table exists. A failure shows
-// the creator's box and leaves TableOpened as it was, unless the indexes failed: then the table stands
+// A creator: makes a table of its shape and its two indexes (the scratch table has none) in one commit, and
+// sets Global::TableOpened to 1 once the table stands. It does not ask whether the table exists. A failure
+// shows the creator's box and leaves TableOpened as it was, unless the indexes failed: then the table stands
 // without them.
 struct Creator {
     std::span<const ShapeField> fields;
@@ -50,10 +50,10 @@ extern const Creator CreateTempTable;
 inline const std::string PrimaryFieldName = "ID1";
 inline const std::string DateFieldName = "Date";
 
-// Makes the pair of tables of a shape code: 1 digit add-on, 3 and 4 digits, 6, 7, 20 keno; any other does
-// nothing. The played table is made under TableName (for code 4 under the name that ExtraFlag tells, in a
-// probing loop); then TableName becomes the matching Win table's, which is made in a probing loop. Where no
-// key matches, the name stays what it was and nothing further is made.
+// Makes the pair of tables of a shape code in one commit: 1 digit add-on, 3 and 4 digits, 6, 7, 20 keno; any
+// other does nothing. The played table is made under TableName (for code 4 under the name that ExtraFlag
+// tells, in a probing loop); then TableName becomes the matching Win table's, which a probing loop makes
+// should it still be missing. Where no key matches, the name stays what it was and nothing further is made.
 void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
                         const std::string& PrimaryField, const std::string& SecondField);
 

@@ -144,6 +144,7 @@ class Home {
     void ExpectWhole() const { EXPECT_EQ(PlainFile(File()).One("PRAGMA integrity_check"), "ok"); }
     void ExpectKept(const std::vector<Promise>& promises) const {
         PlainFile file(File());
+        sqlite3_busy_timeout(file.Handle(), OtherCopiesTake);
         for (const Promise& promise : promises)
             EXPECT_EQ(file.One(promise.query), promise.answer) << promise.query;
     }
@@ -160,6 +161,8 @@ class Home {
     }
 
   private:
+    static constexpr int OtherCopiesTake = 10000;  // milliseconds, at most, for a commit
+
     TempFolder folder_{SORVANE_BINARY_FOLDER};
     std::map<std::string, std::vector<std::string>> seen_;
 };

@@ -208,14 +208,30 @@ TEST(CreatorsTest, ACreatorThatFailsLeavesTheFlagAsItWas) {
 TEST(CreateIndexTest, HasOneSentenceForEveryErrorAndLeavesTheTableWithoutItsIndex) {
     World world;
     world.WithDatabase();
+    {
+        Dao::Database Db = world.engine.OpenDatabase(world.DbName(), world.global.Open);
+        EXPECT_EQ(ErrorOf([&] { CreateIndex(Db, "Nowhere", PrimaryFieldName, DateFieldName); }), 3011);
+    }
     world.ExpectStoreError(3011, " Unable to create index. Please advise error number to support.");
-    CreateIndex(world.run, world.DbName(), "Nowhere", PrimaryFieldName, DateFieldName);
+    ShowStoreError(world.run, Tails::CreateIndex, 3011, "Nowhere");
     // A table without the second field: it stands, the loop that made it ends, its index is missing.
     world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
     world.global.TableOpened = Off;
     CreateSpentTable(world.run, world.DbName(), "Spent", PrimaryFieldName, "Day");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
+}
+
+TEST(CreateIndexTest, OfAPairTheTablesStandWithoutTheIndexesThatFail) {
+    World world;
+    world.WithDatabase();
+    world.global.LottoFlag = "BC49";
+    std::string table = "PlayedBC49";
+    Integer code = 6;
+    world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
+    CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, "Day");
+    EXPECT_EQ(world.global.TableOpened, 1);
+    EXPECT_EQ(world.Plain().Tables(), (Names{"PlayedBC49", "WinBC49"}));
 }
 
 struct ShapeCase {
