@@ -335,6 +335,7 @@ void Person::Appeared(QWidget& modal) {
     if (std::exchange(pressed_, nullptr))
         QTest::mouseRelease(modal.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
     Await(modal);
+    if (meet_) return meet_(modal);
     auto* box = qobject_cast<QMessageBox*>(&modal);
     if (box && IsBorne(*box)) return;
     if (awaited_.empty() || awaited_.front().window.empty() != (box != nullptr)) return Unexpected(modal);

@@ -79,6 +79,8 @@ class Person : public QObject {
     // A message box with the stop icon that may come at any time and as often as it likes: `seen` runs while
     // it is up, then Ok is clicked.
     void Bear(std::string_view title, std::string_view text, std::function<void()> seen);
+    // From here on every box and window that comes is nobody's surprise: `use` gets it and has to leave it.
+    void MeetAll(std::function<void(QWidget&)> use) { meet_ = std::move(use); }
     // How many of those told have not come yet.
     int Awaited() const { return static_cast<int>(awaited_.size()); }
 
@@ -124,6 +126,7 @@ class Person : public QObject {
 
     std::deque<Event> awaited_;
     std::vector<Event> borne_;
+    std::function<void(QWidget&)> meet_;
     QPointer<QWidget> pressed_;
     QPoint pressedAt_;
     int unexpected_ = 0;
