@@ -15,14 +15,12 @@ namespace {
 constexpr int DrawsOfACentury = 36'525;
 constexpr int Fields = 9;
 
-// A file with a table "WinLotto649" of that many rows, a draw a day; made once for each size and place.
-const std::string& FileOf(int rows, const std::filesystem::path& place) {
-    static std::map<std::pair<int, std::filesystem::path>,
-                    std::pair<std::unique_ptr<TempFolder>, std::string>>
-        files;
-    auto& [folder, path] = files[{rows, place}];
+// A file with a table "WinLotto649" of that many rows, a draw a day; made once for each size.
+const std::string& FileOf(int rows) {
+    static std::map<int, std::pair<std::unique_ptr<TempFolder>, std::string>> files;
+    auto& [folder, path] = files[rows];
     if (folder) return path;
-    folder = std::make_unique<TempFolder>(place);
+    folder = std::make_unique<TempFolder>();
     path = folder->File("sorvane.mdb");
     Engine engine;
     OpenFlags flags;
@@ -47,8 +45,6 @@ const std::string& FileOf(int rows, const std::filesystem::path& place) {
     return path;
 }
 
-const std::string& FastFileOf(int rows) { return FileOf(rows, TempFolder::FastPlace()); }
-
 // A connection with the settings of the store's own.
 sqlite3* OpenPlain(const std::string& path) {
     sqlite3* handle = nullptr;
@@ -60,7 +56,7 @@ sqlite3* OpenPlain(const std::string& path) {
 void TallyByVerbs(benchmark::State& state) {
     Engine engine;
     OpenFlags flags;
-    Database db = engine.OpenDatabase(FastFileOf(DrawsOfACentury), flags);
+    Database db = engine.OpenDatabase(FileOf(DrawsOfACentury), flags);
     for (auto _ : state) {
         Recordset rs = db.OpenTable("WinLotto649");
         long sum = 0;
@@ -76,7 +72,7 @@ void TallyByVerbs(benchmark::State& state) {
 BENCHMARK(TallyByVerbs)->Unit(benchmark::kMillisecond);
 
 void TallyByPlainSelect(benchmark::State& state) {
-    sqlite3* handle = OpenPlain(FastFileOf(DrawsOfACentury));
+    sqlite3* handle = OpenPlain(FileOf(DrawsOfACentury));
     for (auto _ : state) {
         sqlite3_stmt* rows = nullptr;
         sqlite3_prepare_v2(handle, "SELECT * FROM WinLotto649", -1, &rows, nullptr);
@@ -92,38 +88,17 @@ void TallyByPlainSelect(benchmark::State& state) {
 }
 BENCHMARK(TallyByPlainSelect)->Unit(benchmark::kMillisecond);
 
-// What a store routine does around one row: open, count, seek, append, close.
-void AppendOneRow(benchmark::State& state) {
-    const auto rows = static_cast<int>(state.range(0));
-    const std::string& path = FastFileOf(rows);
-    Engine engine;
-    OpenFlags flags;
-    for (auto _ : state) {
-        Database db = engine.OpenDatabase(path, flags);
-        Recordset rs = db.OpenTable("WinLotto649");
-        const int count = rs.RecordCount();
-        rs.Index("Date");
-        rs.Seek(rows / 2);
-        rs.AddNew();
-        rs[0] = count + 1;
-        rs[1] = Date::FromDays(count + 1);
-        for (int i = 2; i < Fields; ++i) rs[i] = "07";
-        rs.Update();
-    }
-}
-BENCHMARK(AppendOneRow)->Arg(1'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
-
 void OpenAndClose(benchmark::State& state) {
     Engine engine;
     OpenFlags flags;
-    for (auto _ : state) benchmark::DoNotOptimize(engine.OpenDatabase(FastFileOf(1'000), flags));
+    for (auto _ : state) benchmark::DoNotOptimize(engine.OpenDatabase(FileOf(1'000), flags));
 }
 BENCHMARK(OpenAndClose)->Unit(benchmark::kMillisecond);
 
 // A delete walk enters anew behind each row; that must not walk the rows of the same date again.
 void MoveAmongRowsOfOneDate(benchmark::State& state) {
     constexpr int Rows = 30'000;
-    const std::string& path = FastFileOf(Rows);
+    const std::string& path = FileOf(Rows);
     sqlite3* handle = OpenPlain(path);
     sqlite3_exec(handle, "UPDATE WinLotto649 SET Date = 1", nullptr, nullptr, nullptr);
     sqlite3_close(handle);
@@ -140,45 +115,6 @@ void MoveAmongRowsOfOneDate(benchmark::State& state) {
     }
 }
 BENCHMARK(MoveAmongRowsOfOneDate)->Unit(benchmark::kMicrosecond);
-
-// Ten rows, each on the disk before the next, at a place that has to be synced.
-constexpr int Updates = 10;
-
-void DurableUpdatesByVerbs(benchmark::State& state) {
-    const std::string& path = FileOf(1'001, std::filesystem::temp_directory_path());
-    Engine engine;
-    OpenFlags flags;
-    Database db = engine.OpenDatabase(path, flags);
-    Recordset rs = db.OpenTable("WinLotto649");
-    for (auto _ : state) {
-        for (int row = 0; row < Updates; ++row) {
-            rs.AddNew();
-            rs[0] = rs.RecordCount() + 1;
-            rs[1] = Date::FromDays(1);
-            for (int i = 2; i < Fields; ++i) rs[i] = i;
-            rs.Update();
-        }
-    }
-}
-BENCHMARK(DurableUpdatesByVerbs)->Unit(benchmark::kMillisecond)->UseRealTime();
-
-void DurableUpdatesByPlainInsert(benchmark::State& state) {
-    sqlite3* handle = OpenPlain(FileOf(1'002, std::filesystem::temp_directory_path()));
-    sqlite3_stmt* insert = nullptr;
-    sqlite3_prepare_v2(handle, "INSERT INTO WinLotto649 VALUES (?, 1, 2, 3, 4, 5, 6, 7, 8)", -1, &insert,
-                       nullptr);
-    static int id = 1'002;  // the program runs this more than once over the same file
-    for (auto _ : state) {
-        for (int row = 0; row < Updates; ++row) {
-            sqlite3_bind_int(insert, 1, ++id);
-            if (sqlite3_step(insert) != SQLITE_DONE) state.SkipWithError("refused");
-            sqlite3_reset(insert);
-        }
-    }
-    sqlite3_finalize(insert);
-    sqlite3_close(handle);
-}
-BENCHMARK(DurableUpdatesByPlainInsert)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 }  // namespace
 }  // namespace sorvane::Dao

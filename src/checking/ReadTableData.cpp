@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "checking/RowText.h"
@@ -48,12 +47,6 @@ void ReportNoRow(Run& run, const PlayedTable& table, Lines& list) {
     if (table.RulesPlayOption) g.PlayOption.clear();
 }
 
-bool IsOfGame(Dao::Recordset& Rs, const std::string& LottoFlag) {
-    const Dao::Value key = Rs[FlagAt];
-    const auto* text = std::get_if<std::string>(&key.Get());
-    return text && *text == LottoFlag;
-}
-
 // The rows of the date in index order, up to the first that can't be read, and how many of them count.
 template <class Row>
 struct DateRows {
@@ -69,7 +62,7 @@ DateRows<Row> WalkDate(Run& run, const PlayedTable& table, Dao::Recordset& Rs, D
     Global& g = run.global;
     DateRows<Row> rows;
     do {
-        if (!table.CountsByFlag || IsOfGame(Rs, g.LottoFlag)) {
+        if (!table.CountsByFlag || Rs[FlagAt].Is(g.LottoFlag)) {
             ++g.EntryCounter;
             ++rows.count;
         }

@@ -43,6 +43,7 @@ Field& Field::operator=(const Value& value) {
 
 Field::operator Value() const { return recordset_.Live().Get(ordinal_); }
 
+bool Field::Is(std::string_view text) const { return recordset_.Live().Holds(ordinal_, text); }
 int Field::ToInt() const { return recordset_.Live().GetInt(ordinal_); }
 
 Recordset::Recordset(std::unique_ptr<RecordsetState> state) : state_(std::move(state)) {}

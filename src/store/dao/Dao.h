@@ -90,6 +90,8 @@ class Field {
     Field& operator=(const Field&) = delete;
     operator Value() const;  // NOLINT(google-explicit-constructor)
     bool IsNull() const { return Value(*this).IsNull(); }
+    // Whether it holds this text to the letter. A value that is no text never does.
+    bool Is(std::string_view text) const;
     int ToInt() const;
     Integer ToInteger() const { return ToInt(); }
     bool ToBool() const { return Value(*this).ToBool(); }

@@ -12,6 +12,12 @@ void RecordsetState::Opened() {
     opened_ = true;
 }
 
+bool RecordsetState::Holds(int ordinal, std::string_view text) {
+    const Value value = Get(ordinal);
+    const auto* held = std::get_if<std::string>(&value.Get());
+    return held != nullptr && *held == text;
+}
+
 RecordsetState::~RecordsetState() {
     if (!IsOpen() || !opened_) return;
     std::erase(database_->recordsets_, this);

@@ -39,6 +39,7 @@ class RecordsetState {
     virtual void MoveLast() = 0;
     virtual Value Get(int ordinal) = 0;
     virtual int GetInt(int ordinal) { return Get(ordinal).ToInt(); }
+    virtual bool Holds(int ordinal, std::string_view text);
     virtual void Set(int ordinal, const Value& value) = 0;
     virtual void AddNew() = 0;
     virtual void Edit() = 0;

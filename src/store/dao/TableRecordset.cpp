@@ -247,6 +247,15 @@ int TableRecordset::GetInt(int ordinal) {
     return Get(ordinal).ToInt();
 }
 
+// The keys of a shared table are compared where they are.
+bool TableRecordset::Holds(int ordinal, std::string_view text) {
+    if (walk_ == nullptr || pending_) return RecordsetState::Holds(ordinal, text);
+    sqlite3_value* cell = walk_->ValueAt(ordinal + 1);
+    if (sqlite3_value_type(cell) != SQLITE_TEXT) return RecordsetState::Holds(ordinal, text);
+    const auto* bytes = static_cast<const char*>(sqlite3_value_blob(cell));
+    return text == std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(cell)));
+}
+
 void TableRecordset::Set(int ordinal, const Value& value) {
     if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
     pending_->values[At(ordinal)] = Converted(value, ColumnAt(ordinal));

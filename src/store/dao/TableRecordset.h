@@ -27,6 +27,7 @@ class TableRecordset final : public RecordsetState {
     void MoveLast() override;
     Value Get(int ordinal) override;
     int GetInt(int ordinal) override;
+    bool Holds(int ordinal, std::string_view text) override;
     void Set(int ordinal, const Value& value) override;
     void AddNew() override;
     void Edit() override;

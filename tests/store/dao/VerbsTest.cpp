@@ -5,6 +5,28 @@ namespace {
 
 class Verbs : public DaoWorld {};
 
+TEST_F(Verbs, AFieldIsATextOnlyToTheLetter) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    for (int id = 1; id <= 5; ++id) Add(rs, id, 40000);
+    Plain().Ask(
+        "UPDATE Every SET Lottoflag = CASE ID1 WHEN 1 THEN 'BC49' WHEN 2 THEN 'BC49 ' WHEN 3 THEN '' "
+        "WHEN 4 THEN x'42433439' END");
+    // As it was fetched, and in the middle of a walk.
+    for (const bool walks : {false, true}) {
+        std::vector<bool> is, empty;
+        rs.MoveFirst();
+        for (int id = 1; id <= 5; ++id, rs.MoveNext()) {
+            if (!walks) rs.Index("ID1"), rs.Seek(id);
+            is.push_back(rs["Lottoflag"].Is("BC49"));
+            empty.push_back(rs["Lottoflag"].Is(""));
+            EXPECT_FALSE(rs["ID1"].Is(std::to_string(id)));
+        }
+        EXPECT_EQ(is, (std::vector<bool>{true, false, false, true, false})) << walks;
+        EXPECT_EQ(empty, (std::vector<bool>{false, false, true, false, false})) << walks;
+    }
+}
+
 TEST_F(Verbs, ARowWrittenByOrdinalIsReadBackByNameAndOrdinal) {
     Database db = CreateEvery();
     Recordset rs = db.OpenTable("Every");
