@@ -711,27 +711,68 @@ TEST_F(AddOnWindow, ACheckNeverTickedFailsBehindTheTicketsAtEachClick) {
     }
 }
 
-TEST_F(AddOnWindow, WesternExtraNeverTickedFailsTheSame) {
-    EnterSuper7("mnuCANWESTSuper7");
-    SaveFails(9);
-    EXPECT_EQ(CountOf("PlayedSuper7"), "3");
-    EXPECT_TRUE(IsEnabled("cmdSave"));
-    SaveFails(9);
-    EXPECT_EQ(CountOf("PlayedSuper7"), "6");
-    EXPECT_EQ(CountOf("Spent"), "0");
+TEST_F(AddOnWindow, ACheckNeverTickedFailsTheSameInSuperSeven) {
+    for (const auto* menu : {"mnuCANWESTSuper7", "mnuCANQCSuper7", "mnuCANATLSuper7"}) {
+        EnterSuper7(menu);
+        Do("DELETE FROM PlayedSuper7");
+        for (const char* rows : {"3", "6"}) {
+            SaveFails(9);
+            EXPECT_EQ(CountOf("PlayedSuper7"), rows) << menu;
+            EXPECT_TRUE(IsEnabled("cmdSave")) << menu;
+        }
+        EXPECT_EQ(CountOf("Spent"), "0") << menu;
+        Window().Leave();
+    }
 }
 
 TEST_F(AddOnWindow, AnEncoreCountNeverLeftFailsTheSame) {
-    Show("mnuCANONTLotto649");
+    const struct {
+        const char* menu;
+        const char* table;
+        int numbers, tickets;
+    } games[] = {{"mnuCANONTLotto649", "PlayedLotto649", 6, 1},
+                 {"mnuCANONTSuper7", "PlayedSuper7", 7, 3},
+                 {"mnuCANONTKENO", "PlayedONTKeno", 2, 1}};
+    for (const auto& game : games) {
+        Show(game.menu);
+        Type("txtNoOfTickets(0)", "1");
+        Click("chkRegular");
+        if (Window().Which == Family::frmKeno70) {
+            Type("cboNoOfBallsPerTicket", "2");
+            Click("chkRegular");
+        }
+        for (int ticket = 1; ticket <= game.tickets; ++ticket) {
+            if (ticket > 1) Click("cmdNext_Ticket");
+            PickFrom(1, game.numbers);
+        }
+        for (int click = 1; click <= 2; ++click) {
+            SaveFails(9);
+            EXPECT_EQ(CountOf(game.table), std::to_string(click * game.tickets));
+            EXPECT_TRUE(IsEnabled("cmdSave")) << game.menu;
+        }
+        EXPECT_EQ(CountOf("Spent"), "0");
+        Window().Leave();
+    }
+}
+
+// Its add-on comes last, so the money is written and the box shown each time before the failure.
+TEST_F(AddOnWindow, LottariosEncoreCountNeverLeftFailsBehindTheBox) {
+    Show("mnuCANONTLOTTARIO");
     Type("txtNoOfTickets(0)", "1");
     Click("chkRegular");
     TickSix();
-    for (const char* rows : {"1", "2"}) {
-        SaveFails(9);
-        EXPECT_EQ(CountOf("PlayedLotto649"), rows);
+    Click("cmdNext_Ticket");
+    TickSix();
+    for (int click = 1; click <= 2; ++click) {
+        ExpectSaveQuestion(Answer::Yes);
+        person.Expect("CONFIRMED", "Tickets Saved");
+        ExpectRunTimeError(9);
+        Click("cmdSave");
+        EXPECT_EQ(CountOf("PlayedLottario"), std::to_string(2 * click));
+        EXPECT_EQ(CountOf("Spent"), std::to_string(click));
         EXPECT_TRUE(IsEnabled("cmdSave"));
+        EXPECT_TRUE(Window().IsShown());
     }
-    EXPECT_EQ(CountOf("Spent"), "0");
 }
 
 TEST_F(AddOnWindow, OnceSizedAnywhereInTheRunSheetsWithoutAnAddOnAreSavedSilently) {
