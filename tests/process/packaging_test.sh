@@ -35,10 +35,23 @@ check_icons() { # check_icons THEME
     expect "scalable icon" [ -s "$1/scalable/apps/$id.svg" ]
 }
 
+check_documents() { # check_documents FOLDER: every link of every document leads to something beside it
+    local document link links=0
+    expect "the player's guide" [ -s "$1/docs/user-guide.md" ]
+    while IFS= read -r document; do
+        while IFS= read -r link; do
+            [[ -e $(dirname "$document")/$link ]] || fail "$document leads to $link, which is not there"
+            links=$((links + 1))
+        done < <(grep -o '](\([^)#]*\))' "$document" | sed 's/^](//; s/)$//' | grep -v '^[a-z]*:' || true)
+    done < <(find "$1" -name '*.md')
+    ((links > 30)) || fail "only $links links in $1"
+}
+
 echo "cmake --install lays the program and what the desktop reads"
 cmake --install "$build" --prefix "$stage" >/dev/null
 expect "the program" [ -x "$stage/sorvane" ]
 expect "the licence" [ -s "$stage/share/doc/sorvane/LICENSE" ]
+check_documents "$stage/share/doc/sorvane"
 expect "no data of its own" [ ! -e "$stage/data" ]
 check_icons "$stage/share/icons/hicolor"
 expect "a valid desktop entry" desktop-file-validate "$stage/share/applications/$id.desktop"
@@ -60,13 +73,16 @@ expect "a valid desktop entry" desktop-file-validate "$entry"
 expect "an entry that names the program" \
     grep -qxF "Exec=\"$work/a home of 100%% \\\\\$mine/.local/opt/sorvane/sorvane\"" "$entry"
 expect "valid metainfo" appstreamcli validate --no-net --no-color "$share/metainfo/$id.metainfo.xml" >/dev/null
+check_documents "$program/share/doc/sorvane"
 expect "a command" [ "$(readlink -f "$HOME/.local/bin/sorvane")" = "$(readlink -f "$program/sorvane")" ]
 
 echo "an upgrade replaces the program and leaves the records alone"
 mkdir "$program/data"
 echo records >"$program/data/sorvane.mdb"
 echo newer >>"$stage/sorvane"
+echo old >"$program/share/doc/sorvane/docs/forgotten.md"
 "$stage/install-user" >/dev/null
+expect "no document of the older one" [ ! -e "$program/share/doc/sorvane/docs/forgotten.md" ]
 expect "the newer program" cmp -s "$stage/sorvane" "$program/sorvane"
 expect "records kept" [ "$(cat "$program/data/sorvane.mdb")" = records ]
 
@@ -91,5 +107,6 @@ tar -xzf "$work"/dist/sorvane-*.tar.gz -C "$work/dist"
 folders=("$work"/dist/sorvane-*/)
 expect "one folder" [ ${#folders[@]} = 1 ]
 expect "the program" [ -x "${folders[0]}sorvane" ]
+check_documents "${folders[0]}share/doc/sorvane"
 "${folders[0]}install-user" >/dev/null
 expect "installed from the archive" cmp -s "${folders[0]}sorvane" "$program/sorvane"
