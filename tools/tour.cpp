@@ -1,5 +1,5 @@
 // The guided tour: the program's own windows, used by real events through one evening of a player.
-//     tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale PERCENT]
+//     tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale PERCENT] [--points SIZE]
 #include <gtest/gtest.h>
 
 #include <QPalette>
@@ -24,7 +24,14 @@ struct Options {
     fs::path out = "tour-out";
     QPalette (*palette)() = nullptr;  // of the desktop, or another one
     int scale = 100;                  // per cent
+    int points = 10;                  // of the font
 };
+
+bool ReadNumber(std::string_view text, int least, int most, int& number) {
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    return read.ec == std::errc() && read.ptr == text.data() + text.size() && least <= number &&
+           number <= most;
+}
 
 std::optional<Options> Read(int argc, char** argv) {
     Options options;
@@ -38,10 +45,9 @@ std::optional<Options> Read(int argc, char** argv) {
         } else if (word == "--out" && !last) {
             options.out = argv[++i];
         } else if (word == "--scale" && !last) {
-            const std::string_view number = argv[++i];
-            const auto read = std::from_chars(number.data(), number.data() + number.size(), options.scale);
-            if (read.ec != std::errc() || read.ptr != number.data() + number.size()) return std::nullopt;
-            if (options.scale < 50 || options.scale > 400) return std::nullopt;
+            if (!ReadNumber(argv[++i], 50, 400, options.scale)) return std::nullopt;
+        } else if (word == "--points" && !last) {
+            if (!ReadNumber(argv[++i], 6, 30, options.points)) return std::nullopt;
         } else if (word.empty() || word.front() == '-') {
             return std::nullopt;
         } else {
@@ -65,7 +71,8 @@ int main(int argc, char** argv) {
     const std::optional<Options> options = Read(argc, argv);
     if (!options) {
         std::fprintf(stderr,
-                     "usage: tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale 50...400]\n");
+                     "usage: tour [FOLDER] [--out FOLDER] [--dark | --contrast] [--scale 50...400] [--points "
+                     "6...30]\n");
         return 2;
     }
     testing::InitGoogleTest();
@@ -73,6 +80,9 @@ int main(int argc, char** argv) {
     int arguments = 1;
     sorvane::forms::Application application(arguments, argv);
     stage.Set();
+    QFont font = QApplication::font();
+    font.setPointSize(options->points);
+    QApplication::setFont(font);
     if (options->palette) sorvane::test::SetDesktopPalette(options->palette());
     try {
         Play(options->out);

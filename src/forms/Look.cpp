@@ -71,9 +71,9 @@ void SetPaler(QPalette& palette, QPalette::ColorRole ink, QPalette::ColorRole pa
 
 }  // namespace
 
-int Space(const QWidget& widget) { return FontHeights(widget, 0.4); }
-int Gap(const QWidget& widget) { return FontHeights(widget, 0.8); }
-int Margin(const QWidget& widget) { return FontHeights(widget, 0.8); }
+int Space(const QWidget& widget) { return FontHeights(widget, IsNarrow(widget) ? 0.2 : 0.4); }
+int Gap(const QWidget& widget) { return FontHeights(widget, IsNarrow(widget) ? 0.4 : 0.8); }
+int Margin(const QWidget& widget) { return Gap(widget); }
 int BallSize(const QWidget& widget) { return FontHeights(widget, 2.4); }
 int Heading(const QWidget& widget) { return FontHeights(widget, 4.0 / 3); }
 int SmallestBall(const QWidget& widget) { return FontHeights(widget, 1.7); }

@@ -12,7 +12,7 @@ class QWidget;
 
 namespace sorvane::forms::Look {
 
-// Pixels, in proportion to the font.
+// Pixels, in proportion to the font; what divides shrinks where the screen is narrow.
 int Space(const QWidget& widget);   // between two controls that belong together
 int Gap(const QWidget& widget);     // between groups
 int Margin(const QWidget& widget);  // around the content of a window or page

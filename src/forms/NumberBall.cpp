@@ -73,9 +73,11 @@ void NumberBall::paintEvent(QPaintEvent*) {
     number.setBold(isChecked());
     painter.setFont(number);
     painter.setPen(ball.ink);
-    const double lift = isChecked() ? side * 0.08 : 0;
+    // Where the ball had to shrink there is no room for a tick below the number.
+    const bool ticks = isChecked() && side > (Look::SmallestBall(*this) + Look::BallSize(*this)) / 2.0;
+    const double lift = ticks ? side * 0.08 : 0;
     painter.drawText(QRectF(rect()).translated(0, -lift), Qt::AlignCenter, text());
-    if (!isChecked()) return;
+    if (!ticks) return;
     painter.setPen(QPen(ball.ink, side * 0.055, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     const QPointF tick[] = {centre + QPointF(-0.12, 0.20) * side, centre + QPointF(-0.03, 0.28) * side,
                             centre + QPointF(0.13, 0.13) * side};

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QStyle>
 
 namespace sorvane::forms {
 
@@ -16,7 +17,11 @@ ScrollPage::ScrollPage(QWidget& content) {
     });
 }
 
-QSize ScrollPage::sizeHint() const { return widget() ? widget()->sizeHint() : QScrollArea::sizeHint(); }
+// With room for the bar, so that a page too high for the screen is not too wide for itself as well.
+QSize ScrollPage::sizeHint() const {
+    if (!widget()) return QScrollArea::sizeHint();
+    return widget()->sizeHint() + QSize(style()->pixelMetric(QStyle::PM_ScrollBarExtent), 0);
+}
 
 bool ScrollPage::eventFilter(QObject* receiver, QEvent* event) {
     if (receiver == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();

@@ -119,12 +119,20 @@ void DrawGroupFrame(const QStyleOption& option, QPainter& painter) {
     Pen(painter).Frame(option.rect.adjusted(0, title, 0, 0), Look::Frame(option.palette), Line);
 }
 
+QFont Heavy(QFont font) {
+    font.setBold(true);
+    return font;
+}
+
+int TitleWidth(const QStyleOptionGroupBox& option) {
+    const QFont font = option.styleObject ? static_cast<QWidget*>(option.styleObject)->font() : QFont();
+    return QFontMetrics(Heavy(font)).size(Qt::TextShowMnemonic, option.text).width();
+}
+
 void DrawGroupTitle(const QStyleOptionGroupBox& option, QPainter& painter, const QRect& place,
                     const QStyle& style) {
     const Pen pen(painter);
-    QFont heavy = painter.font();
-    heavy.setBold(true);
-    painter.setFont(heavy);
+    painter.setFont(Heavy(painter.font()));
     style.drawItemText(&painter, place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,
                        option.palette, IsEnabled(option), option.text, QPalette::WindowText);
 }
@@ -217,6 +225,9 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     const int room = option ? option->fontMetrics.height() / 4 : 0;
     if (type == CT_PushButton) whole += QSize(room, room);
     if (type == CT_LineEdit || type == CT_ComboBox) whole.rheight() += room;
+    if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+        type == CT_GroupBox && group)
+        whole.setWidth(std::max(whole.width(), TitleWidth(*group)));
     return whole;
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScreen>
@@ -83,7 +84,12 @@ void Window::TakeSize() {
     ensurePolished();
     // What was dressed a moment ago has told no one yet.
     for (auto* widget : findChildren<QWidget*>()) widget->updateGeometry();
-    resize(sizeHint().boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
+    QSize asked = sizeHint();
+    if (QWidget* menu = layout() ? layout()->menuBar() : nullptr) {
+        menu->ensurePolished();
+        asked.setWidth(std::max(asked.width(), menu->sizeHint().width()));
+    }
+    resize(asked.boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
 }
 
 void Window::Unload() {

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
@@ -70,6 +71,13 @@ std::string Describe(const QWidget& modal) {
     text += " \"" + ToUtf8(modal.windowTitle()) + "\"";
     if (const auto* box = qobject_cast<const QMessageBox*>(&modal)) text += ": " + ToUtf8(box->text());
     return text;
+}
+
+// As a person would with the wheel.
+void ScrollTo(QWidget& widget) {
+    for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget())
+        if (auto* page = qobject_cast<QScrollArea*>(parent)) page->ensureWidgetVisible(&widget);
+    Person::Settle();
 }
 
 // The key that clicks a button.
@@ -152,6 +160,7 @@ void Person::Await(QWidget& window) {
 
 QWindow* Person::Handle(QWidget& widget, QPoint at) const {
     Settle();  // layouts that wait move things
+    ScrollTo(widget);
     QWidget* window = widget.window();
     const QWidget* front = QApplication::activePopupWidget();
     if (!front) front = &Front();

@@ -5,10 +5,12 @@
 #include <QDateEdit>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QToolButton>
 
 #include "forms/Look.h"
 #include "windows/EveryWindow.h"
@@ -25,6 +27,7 @@ class FontOf {
         QFont font = before_;
         font.setPointSize(points);
         QApplication::setFont(font);
+        Person::Settle();  // windows that are there already are told
     }
     ~FontOf() { QApplication::setFont(before_); }
     FontOf(const FontOf&) = delete;
@@ -135,6 +138,9 @@ TEST_P(LayoutOfWindows, HasRoom) {
         ExpectRoom(window, window.Name());
         ExpectNothingClipped(window, window.Name());
         ExpectNothingOverlaps(window, window.Name());
+        for (const auto* rest : window.findChildren<QToolButton*>("qt_menubar_ext_button"))
+            EXPECT_FALSE(rest->isVisible()) << "menus are hidden behind an arrow: " << window.width()
+                                            << " for " << window.layout()->menuBar()->sizeHint().width();
     });
 }
 

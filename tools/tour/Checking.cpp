@@ -65,6 +65,27 @@ void Evening::CheckSuper7() {
     });
 }
 
+void Evening::CheckBC49() {
+    Visit("mnuCANBCBC49", "frm649", [this] {
+        person.ClickTab("&Check");
+        TypeDraw("txtWin6", {{6, 13, 20, 31, 35, 44, 48}, {12, 34, 56, 90}, {}});
+        Click("cmdCheck");
+        Picture("checked-extra");
+        EnterWinnings("102.00");
+        Exit(Page::Check);
+    });
+}
+
+void Evening::CheckAtlanticSuper7() {
+    Visit("mnuCANATLSuper7", "frm749", [this] {
+        person.ClickTab("&Check");
+        TypeDraw("txtWin7", {{2, 11, 19, 20, 30, 35, 47, 46}, {}, "330917"});
+        Click("cmdCheck");
+        Picture("checked-tag");
+        Exit(Page::Check);
+    });
+}
+
 void Evening::CheckLottario() {
     Visit("mnuCANONTLOTTARIO", "frm645", [this] {
         person.ClickTab("&Check");

@@ -134,6 +134,88 @@ void Evening::EnterPlay4() {
     });
 }
 
+// Six numbers with one The Plus for the sheet.
+void Evening::EnterWestern649() {
+    Visit("mnuCANWEST649", "frm649", [this] {
+        Put("txtNoOfTickets(0)", "1");
+        Click("chkEncore");
+        Type("txtEncore", "447190");
+        TickBalls({8, 12, 25, 26, 37, 43});
+        Picture("the-plus");
+        SaveLastSheet();
+    });
+}
+
+// The box of the add-on wakes up with the count.
+void Evening::EnterQuebec49() {
+    Visit("mnuCANQCQuebec49", "frm649", [this] {
+        Put("txtNoOfTickets(0)", "1");
+        Click("chkEncore");
+        Put("txtEncore", "880312");
+        TickBalls({10, 11, 21, 32, 40, 44});
+        SaveLastSheet();
+    });
+}
+
+// A Super 7 ticket with its free ones and a Tag number.
+void Evening::EnterAtlanticSuper7() {
+    Visit("mnuCANATLSuper7", "frm749", [this] {
+        Put("txtNoOfTickets(0)", "1");
+        Click("chkEncore");
+        Type("txtEncore", "550917");
+        TickBalls({2, 11, 19, 20, 34, 35, 46});
+        Picture("tag");
+        for (const Numbers& free : {Numbers{5, 8, 16, 24, 29, 37, 40}, Numbers{3, 12, 18, 27, 31, 42, 45}}) {
+            Click("cmdNext_Ticket");
+            TickBalls(free);
+        }
+        SaveLastSheet();
+    });
+}
+
+void Evening::EnterCash3() {
+    Visit("mnuUSFLACash3", "frmPick3", [this] {
+        Put("txtNoOfTickets(0)", "1");
+        Click("optPlayOpt(2)");
+        Click("optTwoDollars");
+        ChooseDigits("cboNumber", {6, 6, 1});
+        Picture("cash3");
+        person.Tab();
+        SaveLastSheet();
+    });
+}
+
+void Evening::EnterDaily3() {
+    Visit("mnuCANBCDAILY3", "frmPick3", [this] {
+        Put("txtNoOfTickets(0)", "1");
+        Click("optPlayOpt(1)");
+        Click("optOneDollar");
+        ChooseDigits("cboNumber", {3, 0, 8});
+        Picture("daily3");
+        person.Tab();
+        SaveLastSheet();
+    });
+}
+
+// Two tickets with one Extra ticket of four numbers.
+void Evening::EnterBC49() {
+    Visit("mnuCANBCBC49", "frm649", [this] {
+        Answers("frmHowManySheets", "txtNoOfSheets", "1");
+        Put("txtNoOfTickets(0)", "2");
+        Put("txtNoOfExtra", "1");
+        TickBalls({6, 13, 20, 29, 35, 48});
+        Click("cmdNext_Ticket");
+        TickBalls({1, 9, 17, 22, 33, 41});
+        Click("cmdNext_Ticket");
+        for (const auto& [box, number] : {std::pair{0, "12"}, {1, "34"}, {2, "56"}})
+            Put("txtPlay4(" + std::to_string(box) + ")", number);
+        Type("txtPlay4(3)", "78");
+        Picture("extra-numbers");
+        person.Tab();
+        SaveLastSheet();
+    });
+}
+
 // The second sheet can't be found: the player leaves and takes the first one back.
 void Evening::LeaveHalfway() {
     Visit("mnuCANBCBC49", "frm649", [this] {

@@ -54,10 +54,18 @@ void Evening::Play() {
     EnterLottario();
     EnterKeno();
     EnterPick3();
+    EnterDaily3();
+    EnterCash3();
     EnterPlay4();
+    EnterWestern649();
+    EnterQuebec49();
+    EnterAtlanticSuper7();
     LeaveHalfway();
+    EnterBC49();
     CheckLotto649();
     CheckSuper7();
+    CheckBC49();
+    CheckAtlanticSuper7();
     CheckLottario();
     CheckKeno();
     CheckPick3();

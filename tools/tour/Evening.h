@@ -47,9 +47,17 @@ class Evening : public test::WindowWorld {
     void EnterKeno();
     void EnterPick3();
     void EnterPlay4();
+    void EnterWestern649();
+    void EnterQuebec49();
+    void EnterAtlanticSuper7();
+    void EnterCash3();
+    void EnterDaily3();
     void LeaveHalfway();
+    void EnterBC49();
     void CheckLotto649();
     void CheckSuper7();
+    void CheckBC49();
+    void CheckAtlanticSuper7();
     void CheckLottario();
     void CheckKeno();
     void CheckPick3();

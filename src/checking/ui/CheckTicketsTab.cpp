@@ -165,6 +165,7 @@ QLayout* CheckTicketsTab::WinnerRow() {
         box.setFixedWidth(width);
         four->addWidget(&box);
     });
+    four->addStretch(1);
     auto* encore = new QHBoxLayout;
     encore->setSpacing(space);
     if (lblWinEarlybird) encore->addWidget(&*lblWinEncore);
@@ -227,6 +228,7 @@ QLayout* CheckTicketsTab::WinningsRow() {
     winnings->addWidget(&txtDollarsWon);
     winnings->addWidget(&cmdEnterWinnings);
     winnings->addSpacing(forms::Look::Gap(page));
+    winnings->addStretch(1);
     winnings->addLayout(advice);
 
     auto* row = forms::Look::Row(page);
@@ -238,7 +240,7 @@ QLayout* CheckTicketsTab::WinningsRow() {
     const bool narrow = forms::Look::IsNarrow(page);
     buttons->setRowStretch(0, 1);
     buttons->setColumnStretch(0, narrow ? 1 : 0);
-    buttons->addWidget(&chkStatUpdate, narrow ? 2 : 1, 0, 1, narrow ? 1 : 2);
+    buttons->addWidget(&chkStatUpdate, narrow ? 2 : 1, 0, 1, narrow ? 1 : 2, Qt::AlignLeft);
     buttons->addWidget(&cmdCheck, 2, 1 - !narrow);
     buttons->addWidget(&window_.cmdExit(2), 2, 2 - !narrow);
     row->addLayout(buttons);

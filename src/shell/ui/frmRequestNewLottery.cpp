@@ -133,7 +133,7 @@ void frmRequestNewLottery::LayOut() {
 
     fraBonusNumber.setLayout(Beside(gap, {&optYesBonusNumber, &optNoBonusNumber}));
     fraBonusTicket.setLayout(Beside(gap, {&optYesBonusTicket, &optNoBonusTicket}));
-    auto* questions = new QHBoxLayout;
+    auto* questions = forms::Look::Row(*this);
     questions->setSpacing(gap);
     questions->addWidget(&fraBonusNumber, 1);
     questions->addWidget(&fraBonusTicket, 1);
@@ -158,8 +158,10 @@ void frmRequestNewLottery::LayOut() {
     buttons->addWidget(&cmdPrint);
     buttons->addWidget(&cmdExit);
 
-    lblText1.setWordWrap(true);
-    lblText1.setMinimumWidth(forms::Look::DigitsWidth(*this, 60));
+    if (forms::Look::IsNarrow(*this)) {
+        lblText1.setWordWrap(true);
+        lblText1.setMinimumWidth(forms::Look::DigitsWidth(*this, 50));
+    }
     auto* window = new QVBoxLayout(this);
     window->setContentsMargins(0, 0, 0, 0);
     window->addWidget(new forms::ScrollPage(form_));
