@@ -111,12 +111,12 @@ void frmMain::Form_Load() {
 
     const std::string DbName = DatabasePath(run_.global.AppPath);
     CheckDatabaseExists(run_, DbName);
-    for (const auto& [table, create] :
-         {std::pair{"Spent", &CreateSpentTable}, std::pair{"Winnings", &CreateWinningsTable}}) {
-        std::string TableName = table;
+    const auto makeSureOf = [&](std::string TableName, auto create) {
         MakeSureOf(run_, DbName, TableName,
-                   [&] { (*create)(run_, DbName, TableName, PrimaryFieldName, DateFieldName); });
-    }
+                   [&] { create(run_, DbName, TableName, PrimaryFieldName, DateFieldName); });
+    };
+    makeSureOf("Spent", CreateSpentTable);
+    makeSureOf("Winnings", CreateWinningsTable);
 }
 
 // The keys are in place before the window loads, because its load event reads them. The title may go to
