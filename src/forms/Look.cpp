@@ -50,6 +50,8 @@ std::vector<QColor> Grounds(const QPalette& palette, QPalette::ColorGroup group)
     std::vector<QColor> grounds;
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
         grounds.push_back(palette.color(group, role));
+    if (group == QPalette::Active)
+        for (const double share : {Hovered, Pressed}) grounds.push_back(Shade(palette, share));
     return grounds;
 }
 

@@ -56,8 +56,9 @@ QColor Edge(const QPalette& palette, bool enabled);
 QColor Page(const QPalette& palette);
 // The line around a group.
 QColor Frame(const QPalette& palette);
-// The colour of buttons, this much nearer to their text.
+// The colour of buttons, this much nearer to their text; under the mouse, and pressed.
 QColor Shade(const QPalette& palette, double share);
+inline constexpr double Hovered = 0.05, Pressed = 0.12;
 // The ring around the control that has the focus.
 QColor FocusRing(const QPalette& palette);
 // The text of hints in empty lists.

@@ -54,9 +54,9 @@ void DrawEdge(const QStyleOption& option, QPainter& painter, const QBrush& paper
 void DrawButton(const QStyleOption& option, QPainter& painter) {
     QColor paper = option.palette.color(QPalette::Button);
     if (IsEnabled(option) && (Is(option, QStyle::State_Sunken) || Is(option, QStyle::State_On)))
-        paper = Look::Shade(option.palette, 0.12);
+        paper = Look::Shade(option.palette, Look::Pressed);
     else if (IsEnabled(option) && Is(option, QStyle::State_MouseOver))
-        paper = Look::Shade(option.palette, 0.05);
+        paper = Look::Shade(option.palette, Look::Hovered);
     DrawEdge(option, painter, paper);
 }
 

@@ -116,6 +116,12 @@ TEST_P(ContrastTest, OfLinesOnWhatTheyDivide) {
             EXPECT_GE(Look::Contrast(Look::Edge(palette, enabled), palette.color(role)), Line) << role;
             EXPECT_GE(Look::Contrast(Look::FocusRing(palette), palette.color(role)), Line) << role;
         }
+    // A button under the mouse, and pressed.
+    for (const double share : {Look::Hovered, Look::Pressed}) {
+        const QColor paper = Look::Shade(palette, share);
+        EXPECT_GE(Look::Contrast(Look::FocusRing(palette), paper), Line) << share;
+        EXPECT_GE(Look::Contrast(Look::Edge(palette, true), paper), Line) << share;
+    }
     for (const bool ticked : {false, true})
         for (const bool enabled : {false, true}) {
             const Look::Ball mark = Look::MarkColours(palette, ticked, enabled);
