@@ -104,7 +104,7 @@ class AddOnRoadTest : public RoadTest {
 };
 
 TEST_P(AddOnRoadTest, TakesTheMostAddOnTicketsOfASheetAndJudgesEachOfThem) {
-    constexpr int onSheet = 10;
+    constexpr int onSheet = 3;
     Start();
     Inside([&] { RefuseOneMore(onSheet); });
     const Purchase purchase{onSheet, 1, MostAddOns(onSheet)};
