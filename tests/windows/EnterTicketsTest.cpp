@@ -320,6 +320,32 @@ TEST_F(EnterTickets, TheCloseBoxIsTheExitOfTheTabInFront) {
     EXPECT_FALSE(windows.IsLoaded(Family::frm649));
 }
 
+TEST_F(EnterTickets, TheProgressOfTicketAndSheetIsPaintedBesideTheTitle) {
+    GameWindow& window = Show("mnuCANONTSuper7");
+    const auto heading = [&] { return window.Enter.fraTicketNumber.grab(QRect(200, 0, 400, 16)).toImage(); };
+    const QImage before = heading();
+    EXPECT_EQ(window.Enter.Progress(), "");
+    OneSheet(2);
+    EXPECT_EQ(window.Enter.Progress(), "Numbers 0 of 7, tickets filled 0 of 6");
+    const QImage open = heading();
+    EXPECT_NE(before, open);
+    Pick({4, 9});
+    EXPECT_EQ(window.Enter.Progress(), "Numbers 2 of 7, tickets filled 0 of 6");
+    EXPECT_NE(open, heading());
+    EXPECT_EQ(window.Enter.fraTicketNumber.accessibleDescription(), "Numbers 2 of 7, tickets filled 0 of 6");
+    Pick({11, 12, 13, 14, 15});
+    EXPECT_EQ(window.Enter.Progress(), "Numbers 7 of 7, tickets filled 1 of 6");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 1 of 1");
+}
+
+TEST_F(EnterTickets, TheProgressOfDigitGamesCountsTicketsAlone) {
+    GameWindow& window = Show("mnuCANQC3");
+    OneSheet(2);
+    EXPECT_EQ(window.Enter.Progress(), "Tickets filled 0 of 2");
+    Visit("cboNumber(2)");
+    EXPECT_EQ(window.Enter.Progress(), "Tickets filled 1 of 2");
+}
+
 TEST_F(EnterTickets, EscapeDoesNothingInAGameWindow) {
     Show("mnuCANONTLotto649");
     person.Key(Qt::Key_Escape);

@@ -161,6 +161,7 @@ std::string DigitCapture::AmountAtCount(int tickets) const {
 void DigitCapture::TicketComplete() {
     EnterTicketsTab& tab = window_.Enter;
     g_.TicketNo += 1;
+    tab.fraTicketNumber.RefreshHint();
     g_.Correcting = Off;
     tab.cmdNext_Ticket.SetEnabled(true);
     tab.cmdCorrection.SetEnabled(true);

@@ -44,6 +44,7 @@ class DigitCapture final : public TicketCapture {
     void StoreTicket() override;
     void Next() override;
     void Correct() override;
+    int TicketsOnSheet() const override { return g_.NoOfTicketsOnSheet; }
     bool SheetIsFull() const override;
     void SaveSheet(const StoreArgs& at) override;
     // In the Florida games by the wager chosen; with neither of the two small ones Dollars as it was.

@@ -1,5 +1,6 @@
 #include "entry/ui/EnterTicketsTab.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -43,6 +44,10 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
     txtDollars.OnGotFocus([this] { txtDollars.SelectAll(); });
     txtDollars.OnLostFocus([this] { txtDollars_LostFocus(); });
     capture_ = MakeCapture(window);
+    fraTicketNumber.SetHint([this] { return Progress(); });
+    for (auto* number : capture_->Slip().findChildren<QAbstractButton*>())
+        QObject::connect(number, &QAbstractButton::toggled, &fraTicketNumber,
+                         [this] { fraTicketNumber.RefreshHint(); });
     LayOut();
 }
 
@@ -174,6 +179,15 @@ void EnterTicketsTab::OrderTabs() {
 void EnterTicketsTab::ShowTitle(std::string_view kind, int number) {
     fraTicketNumber.SetCaption(std::string(kind) + Str(number) + " - Sheet " +
                                Str(window_.State.CurrentSheet) + " of " + Str(window_.State.TotalSheets));
+}
+
+std::string EnterTicketsTab::Progress() const {
+    const int tickets = capture_->TicketsOnSheet();
+    if (tickets <= 0) return {};
+    const TicketCapture::Marks marks = capture_->Marked();
+    const std::string filled = "ickets filled " + Str(window_.run.global.TicketNo) + " of " + Str(tickets);
+    if (marks.wanted == 0) return "T" + filled;
+    return "Numbers " + Str(marks.marked) + " of " + Str(marks.wanted) + ", t" + filled;
 }
 
 void EnterTicketsTab::PutAmount(const std::string& amount) {

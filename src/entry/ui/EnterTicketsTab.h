@@ -47,6 +47,8 @@ class EnterTicketsTab {
     // fraTicketNumber: `kind` ("Ticket #", "Bonus Ticket #", ...), the number, " - Sheet n of m" of the
     // window's sheets.
     void ShowTitle(std::string_view kind, int number);
+    // How far the ticket and the sheet are: "Numbers 4 of 6, tickets filled 1 of 3"; empty before they begin.
+    std::string Progress() const;
     // The default amount: Dollars and txtDollars, one decimal point counted.
     void PutAmount(const std::string& amount);
     // Dollars "0.00".

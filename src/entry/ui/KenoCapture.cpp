@@ -85,6 +85,7 @@ void KenoCapture::cboNoOfBallsPerTicket_LostFocus() {
     if (cboNoOfBallsPerTicket.Text().empty()) cboNoOfBallsPerTicket.SetText(Str(FewestBalls));
     g_.NoOfBallsPerTicket = CInt(cboNoOfBallsPerTicket.Text());
     grid_.SetOpen(true);
+    window_.Enter.fraTicketNumber.RefreshHint();
 }
 
 void KenoCapture::cboWager_LostFocus() {

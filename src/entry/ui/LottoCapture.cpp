@@ -103,6 +103,12 @@ void LottoCapture::StoreTicket() {
     AfterStoring(g_.TicketNo < g_.NoOfTicketsOnSheet);
 }
 
+TicketCapture::Marks LottoCapture::Marked() const {
+    Marks marks{0, NumbersWanted()};
+    grid_.chkNumb.ForEach([&](const forms::NumberBall& ball, int) { marks.marked += ball.Value(); });
+    return marks;
+}
+
 void LottoCapture::Correct() {
     grid_.SetOpen(true);
     grid_.Clear();

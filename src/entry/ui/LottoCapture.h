@@ -27,6 +27,8 @@ class LottoCapture : public TicketCapture {
     void StoreTicket() override;
     void Next() override;
     void Correct() override;
+    Marks Marked() const override;
+    int TicketsOnSheet() const override { return g_.NoOfTicketsOnSheet; }
     bool SheetIsFull() const override;
     void SaveSheet(const StoreArgs& at) override;
     std::string AmountAtCount(int tickets) const override;
@@ -74,6 +76,7 @@ class BonusCapture : public LottoCapture {
     void Next() override;
     void BeforeCorrection() override;
     void Correct() override;
+    int TicketsOnSheet() const override { return SheetTotal(); }
     bool SheetIsFull() const override;
     void SaveSheet(const StoreArgs& at) override;
 

@@ -49,6 +49,13 @@ class TicketCapture {
     // cmdCorrection: what is taken back before the count of tickets falls, and the slip opened anew after it.
     virtual void BeforeCorrection() {}
     virtual void Correct() = 0;
+    // How far the ticket in hand is: numbers marked of those wanted, 0 where there are none to mark.
+    struct Marks {
+        int marked = 0, wanted = 0;
+    };
+    virtual Marks Marked() const { return {}; }
+    // How many tickets the sheet in hand takes, bonus tickets counted in; 0 before somebody said so.
+    virtual int TicketsOnSheet() const = 0;
     // Whether the sheet may be written.
     virtual bool SheetIsFull() const = 0;
     // The writer of its shape.
