@@ -13,6 +13,7 @@
 #include <sstream>
 #include <string>
 
+#include "support/Mounted.h"
 #include "support/NoSuperuser.h"
 #include "support/OtherProgram.h"
 #include "windows/Road.h"
@@ -72,6 +73,9 @@ class BadFiles : public Road {
         ExpectUsable();
         global = Global{};
     }
+
+    // By another program, before this one has begun.
+    void Alter(const std::string& sql) const { PlainFile(path_.string()).Do(sql); }
 
     const fs::path path_ = folder.Path() / "data" / "sorvane.mdb";
 };
@@ -176,6 +180,76 @@ TEST_F(BadFiles, AFileThatMayNotBeTouchedIsToldUntilItMay) {
     ExpectLoop(3051, 2, [&] { fs::permissions(path_, fs::perms(0644)); });
     Start();
     EXPECT_EQ(Count("PlayedBC49"), "2");
+}
+
+TEST_F(BadFiles, AFileOnAReadOnlyFileSystemIsShownAndNotWritten) {
+    Mounted place(path_.parent_path());
+    if (!place) GTEST_SKIP() << "root alone may mount a file system";
+    MakeGoodFile();
+    ASSERT_TRUE(place.ReadOnly(true));
+    Start();
+    Buy(nullptr, [&] {
+        ExpectRefusal(3051);
+        ExpectRefusal(3051);
+        ExpectSaved();
+    });
+    ASSERT_TRUE(place.ReadOnly(false));
+    EXPECT_EQ(Count("PlayedBC49"), "2");
+    EXPECT_EQ(Count("Spent"), "1");
+}
+
+TEST_F(BadFiles, AReadOnlyFileSystemTakesNoFileUntilItMayBeWritten) {
+    Mounted place(path_.parent_path());
+    if (!place) GTEST_SKIP() << "root alone may mount a file system";
+    ASSERT_TRUE(place.ReadOnly(true));
+    ExpectRefusal(3051);
+    ExpectLoop(3024, 2, [&] {
+        EXPECT_TRUE(place.ReadOnly(false));
+        Write(path_, "");
+    });
+    Start();
+    ExpectUsable();
+}
+
+TEST_F(BadFiles, AViewInTheLedgersPlaceIsToldUntilItIsGone) {
+    MakeGoodFile();
+    Alter("ALTER TABLE Spent RENAME TO Kept");
+    Alter("CREATE VIEW Spent AS SELECT * FROM Kept");
+    ExpectRefusal(3010);
+    ExpectRefusal(3010, [&] {
+        Alter("DROP VIEW Spent");
+        Alter("ALTER TABLE Kept RENAME TO Spent");
+    });
+    Start();
+    EXPECT_EQ(Count("Spent"), "1");
+}
+
+TEST_F(BadFiles, ATableOfOtherTypesTakesItsRowsAndNoneOfItsCodeRuns) {
+    MakeGoodFile();
+    Alter("DROP TABLE PlayedBC49");
+    Alter(
+        "CREATE TABLE PlayedBC49 (ID1 TEXT(9), Date LONG, Ball_1 TEXT(9), Ball_2 CURRENCY, Ball_3 DATETIME, "
+        "Ball_4 whatever, Ball_5, Ball_6 LONG, Regular TEXT(9), EarlyBird INTEGER(16))");
+    Alter("CREATE TABLE Taken (ID1)");
+    Alter("CREATE TRIGGER steal AFTER INSERT ON PlayedBC49 BEGIN INSERT INTO Taken VALUES (new.ID1); END");
+    Start();
+    Buy(nullptr, [&] { ExpectSaved(); });
+    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedBC49"), (Texts{"1", "2"}));
+    EXPECT_EQ(Count("Taken"), "0");
+    EXPECT_EQ(Rows("PRAGMA integrity_check"), Texts{"ok"});
+}
+
+TEST_F(BadFiles, ALedgerThatLacksFieldsIsToldAndTheTicketsAreSavedAllTheSame) {
+    MakeGoodFile();
+    Alter("DROP TABLE Spent");
+    Alter("CREATE TABLE Spent (ID1 LONG)");
+    Start();
+    Buy(nullptr, [&] {
+        ExpectRefusal(3265);
+        ExpectSaved();
+    });
+    EXPECT_EQ(Count("PlayedBC49"), "4");
+    EXPECT_EQ(Count("Spent"), "0");
 }
 
 TEST_F(BadFiles, AFileThatAnotherProgramHoldsIsToldUntilItIsFree) {
