@@ -286,7 +286,7 @@ class RoutineFaults : public ::testing::TestWithParam<Routine> {
             else if (type == "BOOLEAN") values += "i % 2";
             else values += "i % 9 + 1";
         }
-        file.Do("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 60) INSERT INTO [" + table +
+        file.Do("WITH n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 40) INSERT INTO [" + table +
                 "] SELECT " + values + " FROM n");
     }
 
@@ -310,8 +310,8 @@ class RoutineFaults : public ::testing::TestWithParam<Routine> {
         g.AppPath = place;
         g.LottoFlag = routine_.LottoFlag;
         g.ExtraFlag = routine_.ExtraFlag;
-        g.NoOfTicketsOnSheet = 3;
-        g.NoOfExtra = 3;
+        g.NoOfTicketsOnSheet = 2;
+        g.NoOfExtra = 2;
         g.NoOfTickets = 1;
         g.WheelSize = 7;
         g.Dollars = "12.50";
@@ -409,6 +409,7 @@ class RoutineFaults : public ::testing::TestWithParam<Routine> {
             const auto done = after_.tables.find(table);
             ASSERT_NE(done, after_.tables.end()) << table;
             const auto was = before_.find(table);
+            if (rows == done->second || (was != before_.end() && rows == was->second)) continue;
             ExpectBetween(was == before_.end() ? Texts{} : was->second, rows, done->second, table);
         }
     }
@@ -428,8 +429,10 @@ class RoutineFaults : public ::testing::TestWithParam<Routine> {
             << table;
     }
 
-    // The program goes on, and the same can be done again.
+    // The program goes on, and the same can be done again. What was tried with one file need not be tried
+    // with another like it.
     void ExpectUsable(const Tables& now) {
+        if (!tried_.insert(now).second) return;
         const Outcome again = RunOnce();
         EXPECT_EQ(again.errors, Texts{});
         EXPECT_EQ(again.raised, 0);
@@ -454,6 +457,7 @@ class RoutineFaults : public ::testing::TestWithParam<Routine> {
     std::string path_, fresh_;
     Tables before_;
     Outcome after_;
+    std::set<Tables> tried_;
     int failures_ = 0;
     int told_ = 0;
 };
