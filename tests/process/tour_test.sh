@@ -17,6 +17,14 @@ echo "the tour comes to its end without anything unexpected"
 pictures=("$work"/out/[0-9][0-9]-*.png)
 ((${#pictures[@]} > 30)) || fail "only ${#pictures[@]} pictures"
 
+echo "so it does with large letters in high contrast, and dark on a screen of twice the scale"
+"$tour" --out "$work/large" --points 20 --contrast >/dev/null || fail "large letters"
+"$tour" --out "$work/doubled" --scale 200 --dark >/dev/null || fail "a scale of 200"
+for other in large doubled; do
+    made=("$work/$other"/[0-9][0-9]-*.png)
+    ((${#made[@]} == ${#pictures[@]})) || fail "${#made[@]} pictures in $other"
+done
+
 echo "its records lie in a folder of their own"
 [[ -s $work/out/evening/data/sorvane.mdb ]] || fail "no records"
 
@@ -39,4 +47,8 @@ for picture in "$source"/docs/pictures/*; do
 done
 
 echo "what it doesn't know it refuses"
+for wrong in "--points 40" "--points x" "--scale 10"; do
+    # shellcheck disable=SC2086  # two words
+    if "$tour" $wrong 2>/dev/null; then fail "it took $wrong"; fi
+done
 if "$tour" --bright "$work/other" 2>/dev/null || [[ -e $work/other ]]; then fail "it played"; fi
