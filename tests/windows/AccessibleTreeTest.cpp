@@ -170,7 +170,9 @@ TEST_F(AccessibleTree, OfTheOtherWindows) {
     SeeOtherWindows(*this, [](forms::Window& window) { ExpectTold(window, window.Name()); });
 }
 
-TEST_F(AccessibleTree, SaysWhichNumbersAreTicked) {
+class AccessibleState : public WindowWorld {};
+
+TEST_F(AccessibleState, SaysWhichNumbersAreTicked) {
     GameWindow& window = Show("mnuCANATLSuper7");
     Put("txtNoOfTickets(0)", "1");
     Click("chkNumb(6)");
@@ -181,7 +183,7 @@ TEST_F(AccessibleTree, SaysWhichNumbersAreTicked) {
     EXPECT_FALSE(tree.Of(Find("chkNumb(7)"))->state().checked);
 }
 
-TEST_F(AccessibleTree, SaysWhichLinesAreWinners) {
+TEST_F(AccessibleState, SaysWhichLinesAreWinners) {
     GameWindow& window = Show("mnuCANONTLotto649");
     window.SSTab1.SetTab(Tab::Check);
     window.Check.lstMessage.AddItem("Congratulations! You matched 3 Numbers!");
