@@ -7,7 +7,9 @@
 #include <QChartView>
 #include <QGraphicsLayout>
 #include <QGraphicsSimpleTextItem>
+#include <QGraphicsTextItem>
 #include <QLegend>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <QValueAxis>
@@ -117,6 +119,12 @@ std::string Chart::Title() const { return title_; }
 void Chart::SetAxes(std::string_view bars, std::string_view values) {
     barsCaption_ = bars;
     valuesCaption_ = values;
+    Changed();
+}
+
+void Chart::SetHint(std::string_view hint) {
+    hint_ = hint;
+    setAccessibleDescription(ToQt(hint));
     Changed();
 }
 
@@ -240,6 +248,7 @@ QChart* Chart::NewChart() {
     chart->setTitleBrush(ink);
     chart->addSeries(NewSeries());
     AddAxes(*chart, ink);
+    AddHint(*chart);
     const bool labelled =
         std::any_of(columns_.begin(), columns_.end(), [](auto& c) { return !c.label.empty(); });
     chart->legend()->setVisible(labelled);
@@ -247,6 +256,24 @@ QChart* Chart::NewChart() {
     chart->legend()->setLabelColor(ink);
     chart->legend()->setAlignment(Qt::AlignBottom);
     return chart;
+}
+
+void Chart::AddHint(QChart& chart) const {
+    const bool empty = std::all_of(columns_.begin(), columns_.end(), [](const Series& column) {
+        return std::all_of(column.values.begin(), column.values.end(),
+                           [](double value) { return value == 0; });
+    });
+    if (!empty || hint_.empty()) return;
+    auto* hint = new QGraphicsTextItem(ToQt(hint_), &chart);
+    hint->setFont(font());
+    hint->setDefaultTextColor(Look::Hint(palette()));
+    QTextOption centred(Qt::AlignHCenter);
+    centred.setWrapMode(QTextOption::WordWrap);
+    hint->document()->setDefaultTextOption(centred);
+    connect(&chart, &QChart::plotAreaChanged, hint, [hint](const QRectF& plot) {
+        hint->setTextWidth(plot.width());
+        hint->setPos(plot.left(), plot.center().y() - hint->boundingRect().height() / 2);
+    });
 }
 
 QAbstractBarSeries* Chart::NewSeries() {

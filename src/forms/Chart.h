@@ -28,6 +28,9 @@ class Chart : public QWidget, public Control {
     // The captions below the bars and beside them.
     void SetAxes(std::string_view bars, std::string_view values);
 
+    // What to do, painted over the plot while every cell is 0.
+    void SetHint(std::string_view hint);
+
     // New rows and columns hold 0, without labels.
     int RowCount() const { return static_cast<int>(rowLabels_.size()); }
     void SetRowCount(int count);
@@ -73,8 +76,9 @@ class Chart : public QWidget, public Control {
     QChart* NewChart();
     QAbstractBarSeries* NewSeries();
     void AddAxes(QChart& chart, const QColor& ink) const;
+    void AddHint(QChart& chart) const;
 
-    std::string title_, barsCaption_, valuesCaption_;
+    std::string title_, barsCaption_, valuesCaption_, hint_;
     std::vector<std::string> rowLabels_;
     std::vector<Series> columns_;
     int row_ = 1, column_ = 1;

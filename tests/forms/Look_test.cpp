@@ -8,6 +8,7 @@
 #include <QChart>
 #include <QChartView>
 #include <QGraphicsSimpleTextItem>
+#include <QGraphicsTextItem>
 #include <QGridLayout>
 #include <QToolTip>
 #include <set>
@@ -266,6 +267,30 @@ TEST_F(Bars, FollowsThePalette) {
     EXPECT_GE(Look::Contrast(View()->chart()->titleBrush().color(), DarkPalette().color(QPalette::Base)),
               4.5);
     EXPECT_GE(Look::Contrast(Set().color(), DarkPalette().color(QPalette::Base)), 3);
+}
+
+TEST_F(Bars, AnEmptyChartSaysWhatToDo) {
+    chart.SetHint("Press a button");
+    chart.SetRowCount(3);
+    Open(window);
+    const auto hints = [&] {
+        int seen = 0;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item);
+                text && text->toPlainText() == "Press a button") {
+                ++seen;
+                EXPECT_TRUE(View()->chart()->plotArea().contains(text->sceneBoundingRect().center()));
+            }
+        return seen;
+    };
+    EXPECT_EQ(1, hints());
+    chart.SetRow(2);
+    chart.SetData(3);
+    Person::Settle();
+    EXPECT_EQ(0, hints());
+    chart.Clear();
+    Person::Settle();
+    EXPECT_EQ(1, hints());
 }
 
 TEST_F(Bars, TwoColumnsDifferInLightnessToo) {

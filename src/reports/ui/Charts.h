@@ -24,6 +24,9 @@ class ChartCells final : public ChartFace {
     forms::Chart& chart_;
 };
 
+// What an empty chart says.
+inline constexpr std::string_view EmptyChartHint = "Nothing to see yet: press a button beside the chart";
+
 // The captions of a money chart. `bars` is the caption below the two columns, "" for none.
 struct MoneyCaptions {
     std::string_view title, bars, won;

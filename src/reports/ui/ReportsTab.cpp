@@ -29,6 +29,7 @@ ReportsTab::ReportsTab(GameWindow& window)
     window.cmdExit.Load(3, "E&xit");
     cmdPrintReport.SetEnabled(false);
     mscProfitLoss.SetVisible(false);
+    for (forms::Chart* chart : {&mscNumberFrequency, &mscProfitLoss}) chart->SetHint(EmptyChartHint);
     CaptionNumberChart();
     ClearCharts();
     cmdNumberFrequency.OnClick([this] { cmdNumberFrequency_Click(); });

@@ -26,6 +26,7 @@ void frmReport::LayOut() {
 void frmReport::Form_Load() {
     DbName_ = DatabasePath(run_.global.AppPath);
     mscProfitLoss.SetVisible(true);
+    mscProfitLoss.SetHint(EmptyChartHint);
     txtReport.SetVisible(false);
     EmptyMoneyChart(mscProfitLoss, {AllMoneyChartTitle, "", AllWonLegend});
 }
