@@ -13,6 +13,13 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT(bug
 
 namespace sorvane::test {
 
+// Whether everything takes several times as long as it would.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool Sanitized = true;
+#else
+inline constexpr bool Sanitized = false;
+#endif
+
 // Bytes that were asked for and not given back; 0 where nobody can tell. Qt's own store of painted pieces,
 // which fills up to a size of its own, is emptied first.
 inline std::size_t HeapInUse() {
