@@ -84,7 +84,7 @@ class Life : public MainWindow {
             if (std::exchange(seen, diary_.events) != diary_.events) return;
             if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
         });
-        boredom_.start(2000);
+        boredom_.start(5000);
     }
 
     void Live() {
@@ -199,9 +199,14 @@ class Life : public MainWindow {
         for (int tries = 0; tries < MostTries && QApplication::activePopupWidget(); ++tries)
             person.Key(Qt::Key_Escape);
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << diary_.now;
-        // Without a screen the focus stays on a popup that is gone.
+        ComeBack();
+    }
+    // Without a screen the focus stays on a popup that is gone.
+    void ComeBack() {
         const QWindow* focus = QGuiApplication::focusWindow();
-        if (!focus || !focus->isVisible()) person.Front().activateWindow();
+        if (focus && focus->isVisible()) return;
+        person.Front().activateWindow();
+        Person::Settle();
     }
 
     // One event, or a few that belong together.
@@ -213,6 +218,7 @@ class Life : public MainWindow {
                 WindowWorld::Do("DELETE FROM " + ledger + " WHERE abs(CAST(" + ledger + " AS REAL)) > 99999");
         const int way = Draw(100);
         if (QWidget* popup = QApplication::activePopupWidget()) return UsePopup(*popup);
+        ComeBack();
         if (way < 35) return Play(window);
         if (way < 65) return ClickAnything(window);
         if (way < 85) return PressKey();
