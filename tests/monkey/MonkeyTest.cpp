@@ -211,7 +211,7 @@ class Life : public MainWindow {
 
     // One event, or a few that belong together.
     void Do(QWidget& window) {
-        Person::Settle();
+        for (int turn = 0; turn < 3; ++turn) Person::Settle();
         // A ledger with an amount too long for its column never comes to an end of its report.
         if (Plain().One("SELECT name FROM sqlite_schema WHERE name = 'Winnings'") == "Winnings")
             for (const std::string ledger : {"Spent", "Winnings"})
@@ -226,12 +226,23 @@ class Life : public MainWindow {
         if (way < 95) return PasteOrCompose(window);
         if (way < 98) return DragAcross(window);
         Note("resize");
-        window.resize(window.minimumSizeHint() + QSize(Draw(400), Draw(300)));
+        // Not smaller: who touches a thing scrolls to it first, and it may be too large to be seen then.
+        window.resize(window.sizeHint() + QSize(Draw(400), Draw(300)));
     }
 
     static bool CanBeTouched(const QWidget& widget) {
         return widget.isVisible() && widget.isEnabled() &&
                widget.visibleRegion().contains(widget.rect().center());
+    }
+    // Waits until a page has stopped to lay itself out anew; who has moved out of sight by then is missed.
+    bool Touch(QWidget& widget, bool twice = false) {
+        const QPointer<QWidget> guard(&widget);
+        constexpr int Turns = 3;
+        for (int turn = 0; turn < Turns; ++turn) Person::Settle();
+        if (!guard || !CanBeTouched(*guard)) return false;
+        if (twice) person.DoubleClick(*guard);
+        else person.Click(*guard);
+        return true;
     }
     template <class Widget>
     static std::vector<Widget*> Touchable(QWidget& window, const QString& name = {}) {
@@ -248,8 +259,7 @@ class Life : public MainWindow {
         if (widgets.empty()) return PressKey();
         QWidget& widget = Chance(60) && !buttons.empty() ? *OneOf(buttons) : *OneOf(widgets);
         Note("click " + NameOf(widget));
-        if (Chance(10)) person.DoubleClick(widget);
-        else person.Click(widget);
+        Touch(widget, Chance(10));
     }
     static std::string NameOf(const QWidget& widget) {
         return widget.objectName().isEmpty() ? widget.metaObject()->className()
@@ -282,7 +292,7 @@ class Life : public MainWindow {
         Note("paste " + text.substr(0, 20));
         const auto fields = Touchable<QLineEdit>(window);
         if (fields.empty()) return;
-        person.Click(*OneOf(fields));
+        if (!Touch(*OneOf(fields))) return;
         if (QApplication::activeModalWidget() != &window || QApplication::activePopupWidget()) return;
         if (Chance(30) && window.focusWidget()) return person.Commit(text);
         QApplication::clipboard()->setText(forms::ToQt(text));
@@ -330,10 +340,8 @@ class Life : public MainWindow {
         if (!balls.empty()) {
             for (int i = 0; i < 4; ++i) {
                 QAbstractButton& ball = *OneOf(balls);
-                Person::Settle();
-                if (!CanBeTouched(ball)) return;
                 Note("tick " + NameOf(ball));
-                person.Click(ball);
+                if (!Touch(ball)) return;
             }
             return;
         }
@@ -341,7 +349,7 @@ class Life : public MainWindow {
         if (lists.empty()) return ClickAnything(window);
         QComboBox& list = *OneOf(lists);
         Note("choose in " + NameOf(list));
-        person.Click(list);
+        if (!Touch(list)) return;
         for (int i = Draw(10); i > 0 && QApplication::activePopupWidget(); --i) person.Key(Qt::Key_Down);
         if (QApplication::activePopupWidget()) person.Enter();
     }
@@ -349,13 +357,13 @@ class Life : public MainWindow {
         const auto buttons = Touchable<QAbstractButton>(window, name);
         if (buttons.empty() || !Chance(percent)) return false;
         Note(std::string("step ") + name);
-        person.Click(*buttons.front());
+        Touch(*buttons.front());
         return true;
     }
     bool Put(QWidget& window, QLineEdit& field, const std::string& text) {
         const QPointer<QLineEdit> guard(&field);
         Note("put " + text + " into " + NameOf(field));
-        person.Click(field);
+        if (!Touch(field)) return true;
         // The press may have brought something else to the front.
         if (!guard || !window.isVisible() || QApplication::focusWidget() != guard) return true;
         person.Key(Qt::Key_A, Qt::ControlModifier);
