@@ -13,9 +13,9 @@
 #include <sstream>
 #include <string>
 
-#include "support/Mounted.h"
 #include "support/NoSuperuser.h"
 #include "support/OtherProgram.h"
+#include "support/ReadOnlyPlace.h"
 #include "windows/Road.h"
 
 namespace sorvane::test {
@@ -183,8 +183,7 @@ TEST_F(BadFiles, AFileThatMayNotBeTouchedIsToldUntilItMay) {
 }
 
 TEST_F(BadFiles, AFileOnAReadOnlyFileSystemIsShownAndNotWritten) {
-    Mounted place(path_.parent_path());
-    if (!place) GTEST_SKIP() << "root alone may mount a file system";
+    ReadOnlyPlace place(path_.parent_path());
     MakeGoodFile();
     ASSERT_TRUE(place.ReadOnly(true));
     Start();
@@ -199,8 +198,7 @@ TEST_F(BadFiles, AFileOnAReadOnlyFileSystemIsShownAndNotWritten) {
 }
 
 TEST_F(BadFiles, AReadOnlyFileSystemTakesNoFileUntilItMayBeWritten) {
-    Mounted place(path_.parent_path());
-    if (!place) GTEST_SKIP() << "root alone may mount a file system";
+    ReadOnlyPlace place(path_.parent_path());
     ASSERT_TRUE(place.ReadOnly(true));
     ExpectRefusal(3051);
     ExpectLoop(3024, 2, [&] {
