@@ -1,0 +1,192 @@
+#include "records/Csv.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "platform/RunTimeError.h"
+
+namespace sorvane::Records {
+
+namespace {
+
+constexpr int End = -1;
+constexpr std::size_t BufferSize = 65'536;
+// More than any record has; what is longer has lost a quote.
+constexpr std::size_t MostInRecord = 65'536;
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
+
+bool IsContinuation(int byte) { return (byte & 0xC0) == 0x80; }
+
+// The bytes that the character at the start takes; 0 when it is none.
+std::size_t LengthOfCharacter(std::string_view text) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    if (byte(0) < 0x80) return 1;
+    const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : 2;
+    if (byte(0) < 0xC2 || byte(0) > 0xF4 || text.size() < length) return 0;
+    for (std::size_t i = 1; i < length; ++i)
+        if (!IsContinuation(byte(i))) return 0;
+    // Longer than needed, halves of a pair, beyond the last character.
+    const bool bad = (byte(0) == 0xE0 && byte(1) < 0xA0) || (byte(0) == 0xED && byte(1) > 0x9F) ||
+                     (byte(0) == 0xF0 && byte(1) < 0x90) || (byte(0) == 0xF4 && byte(1) > 0x8F);
+    return bad ? 0 : length;
+}
+
+void TrimEnd(std::string& text) {
+    const std::size_t last = text.find_last_not_of(" \t");
+    text.erase(last == std::string::npos ? 0 : last + 1);
+}
+
+}  // namespace
+
+bool IsUtf8(std::string_view text) {
+    while (!text.empty()) {
+        const std::size_t length = LengthOfCharacter(text);
+        if (length == 0) return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+CsvReader::CsvReader(const fs::path& path) {
+    std::error_code none;
+    const fs::file_type type = fs::status(path, none).type();
+    if (type == fs::file_type::not_found) Raise(ErrorNumber::StoreFileNotFound);
+    if (type != fs::file_type::regular) Raise(ErrorNumber::NoPermission);
+    file_.open(path, std::ios::binary);
+    if (!file_) Raise(ErrorNumber::NoPermission);
+    const auto size = fs::file_size(path, none);
+    size_ = none ? 0 : static_cast<double>(size);
+    Peek();
+    RefuseOtherEncodings();
+    if (std::string_view(buffer_).starts_with(Utf8Mark)) at_ = Utf8Mark.size();
+    FindSeparator();
+}
+
+void CsvReader::RefuseOtherEncodings() {
+    const std::string_view start(buffer_);
+    // Told by the first record that is read.
+    if (start.starts_with("\xFF\xFE") || start.starts_with("\xFE\xFF")) buffer_.assign(1, '\0');
+}
+
+void CsvReader::FindSeparator() {
+    const std::string_view all(buffer_);
+    const std::string_view line = all.substr(at_, all.find_first_of("\r\n", at_) - at_);
+    const auto count = [&](char letter) { return std::count(line.begin(), line.end(), letter); };
+    for (const char other : {';', '\t'})
+        if (count(other) > count(separator_)) separator_ = other;
+}
+
+int CsvReader::Peek() {
+    if (at_ == buffer_.size()) {
+        buffer_.resize(BufferSize);
+        file_.read(buffer_.data(), static_cast<std::streamsize>(BufferSize));
+        buffer_.resize(static_cast<std::size_t>(file_.gcount()));
+        at_ = 0;
+    }
+    return buffer_.empty() ? End : static_cast<unsigned char>(buffer_[at_]);
+}
+
+int CsvReader::Get() {
+    const int letter = Peek();
+    if (letter == End) return End;
+    ++at_;
+    ++done_;
+    if (!IsContinuation(letter)) ++column_;
+    return letter;
+}
+
+void CsvReader::Break(const CsvCell& cell, std::string what) const {
+    throw Broken{cell.line, cell.column, std::move(what)};
+}
+
+void CsvReader::Take(CsvCell& cell, int letter) {
+    if (letter == 0) Break(cell, "this is no text in UTF-8");
+    if (++inRecord_ > MostInRecord)
+        Break(cell, cell.quoted ? "the quote that opens here is not closed" : "this line is too long");
+    cell.text += static_cast<char>(letter);
+}
+
+bool CsvReader::AtLineEnd() {
+    const int letter = Peek();
+    return letter == End || letter == '\n' || letter == '\r';
+}
+
+void CsvReader::EndLine() {
+    const int letter = Get();
+    if (letter == '\r' && Peek() == '\n') Get();
+    if (letter == End) return;
+    ++line_;
+    column_ = 1;
+}
+
+void CsvReader::ReadQuoted(CsvCell& cell) {
+    Get();
+    cell.quoted = true;
+    for (;;) {
+        if (Peek() == End) Break(cell, "the quote that opens here is not closed");
+        if (Peek() == '\r' || Peek() == '\n') {
+            EndLine();
+            Take(cell, '\n');
+            continue;
+        }
+        const int letter = Get();
+        if (letter == '"') {
+            if (Peek() != '"') return;
+            Get();
+        }
+        Take(cell, letter);
+    }
+}
+
+void CsvReader::ReadCell(CsvCell& cell) {
+    while (Peek() == ' ' || (Peek() == '\t' && separator_ != '\t')) Get();
+    cell.line = line_;
+    cell.column = column_;
+    if (Peek() == '"') {
+        ReadQuoted(cell);
+        // Nothing but blanks belongs between the quote and the separator.
+        while (!AtLineEnd() && Peek() != separator_) {
+            const int letter = Get();
+            if (letter != ' ' && letter != '\t') Break(cell, "the quote that opens here closes too early");
+        }
+    } else {
+        while (!AtLineEnd() && Peek() != separator_) Take(cell, Get());
+        TrimEnd(cell.text);
+    }
+    if (!IsUtf8(cell.text)) Break(cell, "this is no text in UTF-8");
+}
+
+bool CsvReader::Next(std::vector<CsvCell>& record) {
+    while (Peek() == '\n' || Peek() == '\r') EndLine();
+    if (Peek() == End) return false;
+    inRecord_ = 0;
+    std::size_t count = 0;
+    for (bool more = true; more; ++count) {
+        if (record.size() == count) record.emplace_back();
+        CsvCell& cell = record[count];
+        cell.text.clear();
+        cell.quoted = false;
+        ReadCell(cell);
+        more = Peek() == separator_;
+        if (more) Get();
+        if (count > MostInRecord) Break(cell, "this line is too long");
+    }
+    record.resize(count);
+    EndLine();
+    return true;
+}
+
+std::string CsvText(std::string_view text) {
+    const bool plain = !text.empty() && text.find_first_of(",;\t\"\r\n") == std::string_view::npos &&
+                       text.front() != ' ' && text.back() != ' ';
+    if (plain) return std::string(text);
+    std::string quoted = "\"";
+    for (const char letter : text) {
+        if (letter == '"') quoted += '"';
+        quoted += letter;
+    }
+    return quoted + '"';
+}
+
+}  // namespace sorvane::Records

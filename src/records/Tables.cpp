@@ -1,0 +1,308 @@
+#include "records/Tables.h"
+
+#include <algorithm>
+#include <set>
+
+#include "platform/Text.h"
+#include "shell/Global.h"
+
+namespace sorvane::Records {
+
+namespace {
+
+using Type = Dao::FieldType;
+
+// clang-format off
+//                                       count low top drawn top  bonus  digits
+constexpr PerFamily<NumbersOf> NumberTable{{
+    /* 649 */                           { 6,   1,  49, 6,    49,  true,  false },
+    /* 749: its slip lacks 48 and 49 */ { 7,   1,  47, 7,    49,  true,  false },
+    /* 645 */                           { 6,   1,  45, 6,    45,  true,  false },
+    /* K70 */                           { 10,  1,  70, 20,   70,  false, false },
+    /* K80 */                           { 10,  1,  80, 20,   80,  false, false },
+    /* P3  */                           { 3,   0,  9,  3,    9,   false, true  },
+    /* P4  */                           { 4,   0,  9,  4,    9,   false, true  },
+}};
+// clang-format on
+
+struct Shapes {
+    const Creator* played;
+    const Creator* win;
+};
+
+Shapes ShapesOf(Family family) {
+    const PerFamily<Shapes> shapes{{{&CreatePlayed6Table, &CreateWin6Table},
+                                    {&CreatePlayed7Table, &CreateWin7Table},
+                                    {&CreatePlayed6Table, &CreateWin6Table},
+                                    {&CreatePlayedKenoTable, &CreateWinKenoTable},
+                                    {&CreatePlayedKenoTable, &CreateWinKenoTable},
+                                    {&CreatePlayedPick3Table, &CreateWinPick3Table},
+                                    {&CreatePlayedPick4Table, &CreateWinPick4Table}}};
+    return shapes[family];
+}
+
+constexpr int TopAddOnNumber = 99;
+constexpr int TopEarlyBird = 45;
+
+bool StartsWith(std::string_view text, std::string_view start) { return text.starts_with(start); }
+
+// What the numbers of a main game's row may be. In keno a ball not played is 0.
+void SetNumberRange(Field& field, const Table& table) {
+    const Family family = table.game->in;
+    const NumbersOf& numbers = Numbers(family);
+    const bool played = table.use == Use::Played;
+    field.low = IsKeno(family) && played ? 0 : numbers.low;
+    field.high = played ? numbers.top : numbers.drawnTop;
+}
+
+void SetRange(Field& field, const Table& table) {
+    if (field.name == "Wager" || field.name == "# of Balls") {
+        field.low = 0;
+    } else if (table.use == Use::EarlyBird) {
+        field.low = 1;
+        field.high = TopEarlyBird;
+        field.mayBeNull = field.name == "Ball_4";
+    } else if (table.use == Use::AddOnPlayed) {
+        field.low = 1;
+        field.high = TopAddOnNumber;
+    } else if (table.game != nullptr) {
+        SetNumberRange(field, table);
+    }
+}
+
+Means MeaningOf(const Field& field, const Table& table) {
+    if (field.name == "ID1") return Means::Key;
+    if (field.name == "Date") return Means::Day;
+    if (field.name == "Lottoflag") return table.use == Use::EarlyBird ? Means::DayAsText : Means::Game;
+    if (field.name == "Way Played") return Means::Way;
+    if (field.type == Type::Boolean) return Means::Mark;
+    if (field.type == Type::Currency) return Means::Amount;
+    return StartsWith(field.name, "Number ") ? Means::Digit : Means::Number;
+}
+
+void FinishField(Field& field, const Table& table) {
+    constexpr int TextSize = 30;
+    if (field.type == Type::Text) field.size = TextSize;
+    field.means = MeaningOf(field, table);
+    if (field.means == Means::Number) SetRange(field, table);
+    if (field.means == Means::Digit) {
+        field.low = 0;
+        field.high = 9;
+        field.mayBeNull = field.name == "Number 7" && table.addOn->Digits < 7;
+    }
+    // The four numbers of an Extra ticket have no way of being played.
+    if (field.means == Means::Way) field.mayBeNull = table.use == Use::AddOnPlayed;
+}
+
+void AddFields(Table& table) {
+    for (const ShapeField& shape : table.creator->fields)
+        for (int i = 1; i <= shape.count; ++i) {
+            Field field{std::string(shape.name) + (shape.count > 1 ? Str(i) : ""), shape.type};
+            FinishField(field, table);
+            table.fields.push_back(std::move(field));
+        }
+}
+
+std::vector<Table> AllTables() {
+    std::vector<Table> tables{{"Spent", Use::Spent, &CreateSpentTable},
+                              {"Winnings", Use::Winnings, &CreateWinningsTable}};
+    const auto add = [&](std::string_view name, Use use, const Creator* creator, const GameKey* game,
+                         const AddOn* addOn, std::string_view pair) {
+        tables.push_back({std::string(name), use, creator, game, addOn, pair});
+    };
+    for (const GameKey& key : GameKeys()) {
+        const Shapes shapes = ShapesOf(key.in);
+        add(key.Played, Use::Played, shapes.played, &key, nullptr, key.Win);
+        add(key.Win, Use::Win, shapes.win, &key, nullptr, key.Played);
+    }
+    for (const AddOn& addOn : AddOns()) {
+        const bool digits = addOn.Digits > 0;
+        add(addOn.Played, Use::AddOnPlayed, digits ? &CreatePlayedAddOnTable : &CreatePlayedPick4Table,
+            nullptr, &addOn, addOn.Win);
+        add(addOn.Win, Use::AddOnWin, digits ? &CreateWinAddOnTable : &CreateWinPick4Table, nullptr, &addOn,
+            addOn.Played);
+    }
+    add("WinEarlyBird", Use::EarlyBird, &CreateWinPick4Table, nullptr, nullptr, {});
+    add("Temp", Use::Scratch, &CreateTempTable, nullptr, nullptr, {});
+    for (Table& table : tables) AddFields(table);
+    return tables;
+}
+
+char Small(char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter | 0x20) : letter; }
+
+bool IsWay(std::string_view text) {
+    if (text.empty()) return true;  // none was chosen
+    return std::any_of(GameKeys().begin(), GameKeys().end(), [&](const GameKey& key) {
+        return std::find(key.Ways.begin(), key.Ways.end(), text) != key.Ways.end();
+    });
+}
+
+std::string RangeOf(const Field& field) {
+    return " is not from " + Str(field.low) + " to " + Str(field.high);
+}
+
+// A value that is nothing of its field's kind; shown as it stands.
+std::string Shown(const Dao::Value& value) {
+    constexpr std::size_t Most = 40;
+    std::string text = "?";
+    ErrorOf([&] { text = value.ToText(); });
+    return "\"" + (text.size() > Most ? text.substr(0, Most) + "..." : text) + "\"";
+}
+
+std::size_t CharactersOf(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
+}
+
+std::string JudgeText(const Field& field, const Table& table, const std::string& text) {
+    if (CharactersOf(text) > static_cast<std::size_t>(field.size)) return Shown(text) + " is too long";
+    if (field.means == Means::Way) return IsWay(text) ? "" : Shown(text) + " is no way of playing";
+    if (field.means == Means::DayAsText)
+        return ErrorOf([&] { Date::FromText(text); }) == 0 ? "" : Shown(text) + " is no date";
+    if (table.game != nullptr)
+        return text == table.game->LottoFlag
+                   ? ""
+                   : Shown(text) + " is not " + Shown(std::string(table.game->LottoFlag));
+    return FindGameKey(text) != nullptr ? "" : Shown(text) + " is the key of no game";
+}
+
+std::string JudgeWhole(const Field& field, const Table& table, const Dao::Value& value) {
+    const auto* number = std::get_if<std::int64_t>(&value.Get());
+    if (number == nullptr) return Shown(value) + " is no whole number";
+    if (field.means == Means::Key)
+        return *number >= 1 && *number <= 2'147'483'647 ? "" : Shown(value) + " is no key";
+    if (field.means == Means::Digit && table.use == Use::AddOnPlayed && *number == NotPlayed) return {};
+    return *number >= field.low && *number <= field.high ? "" : Shown(value) + RangeOf(field);
+}
+
+std::string JudgeDay(const Table& table, const Dao::Value& value) {
+    const auto* date = std::get_if<Date>(&value.Get());
+    if (date == nullptr) return Shown(value) + " is no date";
+    if (table.use != Use::EarlyBird) return {};
+    const long number = date->Day();
+    return number >= 1 && number <= TopEarlyBird ? "" : "holds no number from 1 to " + Str(TopEarlyBird);
+}
+
+// Empty when nothing is wrong.
+std::string JudgeValue(const Table& table, const Field& field, const Dao::Value& value) {
+    if (value.IsNull()) return field.mayBeNull ? "" : "is empty";
+    switch (field.type) {
+        case Type::Integer:
+        case Type::Long:
+            return JudgeWhole(field, table, value);
+        case Type::Date:
+            return JudgeDay(table, value);
+        case Type::Boolean:
+            return std::holds_alternative<bool>(value.Get()) ? ""
+                                                             : Shown(value) + " is neither true nor false";
+        case Type::Currency:
+            return std::holds_alternative<Currency>(value.Get()) ? "" : Shown(value) + " is no amount";
+        default:
+            break;
+    }
+    const auto* text = std::get_if<std::string>(&value.Get());
+    return text != nullptr ? JudgeText(field, table, *text) : Shown(value) + " is no text";
+}
+
+// A slip takes each number once; in keno the balls that were not played are 0 and come last.
+void JudgeSlip(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+    std::set<std::int64_t> seen;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const Field& field = table.fields[i];
+        if (!StartsWith(field.name, "Ball_")) continue;
+        const std::int64_t number = std::get<std::int64_t>(row[i].Get());
+        if (number == 0) seen.insert(0);
+        else if (seen.count(0) != 0) return complain(field, "stands behind a ball that was not played");
+        else if (!seen.insert(number).second) return complain(field, Shown(row[i]) + " stands there twice");
+    }
+}
+
+// "Not played" is told by all digits together.
+void JudgeDigits(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+    int digits = 0, sentinels = 0;
+    std::size_t last = 0;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        if (table.fields[i].means != Means::Digit || row[i].IsNull()) continue;
+        ++digits;
+        last = i;
+        if (std::get<std::int64_t>(row[i].Get()) == NotPlayed) ++sentinels;
+    }
+    if (sentinels != 0 && sentinels != digits)
+        complain(table.fields[last], "belongs to a number that is played in part");
+}
+
+}  // namespace
+
+int Table::At(std::string_view field) const {
+    const auto at = std::find_if(fields.begin(), fields.end(),
+                                 [&](const Field& one) { return SameWord(one.name, field); });
+    return at == fields.end() ? -1 : static_cast<int>(at - fields.begin());
+}
+
+int Table::DayAt() const { return At("Date"); }
+
+std::span<const Table> Tables() {
+    static const std::vector<Table> tables = AllTables();
+    return tables;
+}
+
+bool SameWord(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return Small(x) == Small(y); });
+}
+
+const Table* FindTable(std::string_view name) {
+    const auto tables = Tables();
+    const auto at = std::find_if(tables.begin(), tables.end(),
+                                 [&](const Table& table) { return SameWord(table.name, name); });
+    return at == tables.end() ? nullptr : &*at;
+}
+
+Dao::TableDef Define(const Table& table) {
+    Dao::TableDef made(table.name);
+    for (const Field& field : table.fields) made.AppendField(field.name, field.type, field.size);
+    return made;
+}
+
+Dao::FileTable AsInFile(const Table& table) {
+    Dao::FileTable made{table.name, {}, {}};
+    for (const Field& field : table.fields)
+        made.fields.push_back({field.name, Dao::DeclaredAs(field.type, field.size), field.type});
+    if (table.creator->indexed)
+        made.indexes = {{table.name + ".ID1", "ID1", true}, {table.name + ".Date", "Date", false}};
+    return made;
+}
+
+const NumbersOf& Numbers(Family family) {
+    static constexpr PerFamily<NumbersOf> numbers = NumberTable;
+    return numbers[family];
+}
+
+void JudgeRow(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+    bool sound = true;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        const std::string what = JudgeValue(table, table.fields[i], row[i]);
+        if (what.empty()) continue;
+        sound = false;
+        complain(table.fields[i], what);
+    }
+    if (!sound) return;
+    if (table.use == Use::Played && !Numbers(table.game->in).digits) JudgeSlip(table, row, complain);
+    if (table.use == Use::AddOnPlayed && table.addOn->Digits > 0) JudgeDigits(table, row, complain);
+}
+
+const GameKey* FindGameKey(std::string_view LottoFlag) {
+    const auto keys = GameKeys();
+    const auto at = std::find_if(keys.begin(), keys.end(),
+                                 [&](const GameKey& key) { return key.LottoFlag == LottoFlag; });
+    return at == keys.end() ? nullptr : &*at;
+}
+
+std::string TitleOf(const GameKey& key) {
+    const auto games = Games();
+    const auto at = std::find_if(games.begin(), games.end(),
+                                 [&](const Game& game) { return game.LottoFlag == key.LottoFlag; });
+    return std::string(at == games.end() ? key.LottoFlag : at->title);
+}
+
+}  // namespace sorvane::Records

@@ -1,0 +1,180 @@
+#include "records/RecordsWorld.h"
+
+namespace sorvane {
+namespace {
+
+using testing::LinesOf;
+using testing::Tells;
+
+class Check : public testing::RecordsWorld {
+  public:
+    // The findings and notes, with the status that goes with them.
+    std::vector<std::string> Findings(int status) {
+        const Answer answer = Run({"check"});
+        EXPECT_EQ(answer.status, status) << answer.data << answer.words;
+        return LinesOf(answer.data);
+    }
+    std::string Finding() {
+        const auto findings = Findings(1);
+        EXPECT_EQ(findings.size(), 1U);
+        return findings.empty() ? std::string() : findings.front();
+    }
+};
+
+using Lines = std::vector<std::string>;
+
+TEST_F(Check, FindsNothingInAFileOfEveryTable) {
+    for (const Records::Table& table : Records::Tables()) Make(table.name);
+    const Answer answer = Do({"check"});
+    EXPECT_EQ(answer.data, "");
+    EXPECT_EQ(answer.words, File().string() + ": sound\n");
+}
+
+TEST_F(Check, FindsNumbersThatTheGameLacks) {
+    Make("PlayedSuper7");
+    Sql("INSERT INTO PlayedSuper7 VALUES (1, 46347, 1,2,3,4,5,6,48, 0)");
+    const Lines findings = Findings(1);
+    EXPECT_EQ(findings[0], "PlayedSuper7 ID1 1: Ball_7 \"48\" is not from 1 to 47");
+    Sql("DELETE FROM PlayedSuper7");
+    Make("WinSuper7");
+    Sql("INSERT INTO WinSuper7 VALUES (1, 46347, 1,2,3,4,5,6,48, 49)");
+    EXPECT_EQ(Findings(0), Lines());
+}
+
+TEST_F(Check, FindsATicketWithANumberTwice) {
+    Make("PlayedLottario");
+    Sql("INSERT INTO PlayedLottario VALUES (1, 46347, 1,2,3,4,5,5, 0,1)");
+    EXPECT_EQ(Findings(1)[0], "PlayedLottario ID1 1: Ball_6 \"5\" stands there twice");
+}
+
+TEST_F(Check, TakesKenoTicketsWithFewerBallsAndFindsAGapAmongThem) {
+    Make("PlayedONTKeno");
+    Sql("INSERT INTO PlayedONTKeno VALUES (1, 46347, 'ONTKeno', 5,9,0,0,0,0,0,0,0,0, 2, 2, 0),"
+        "(2, 46347, 'ONTKeno', 5,0,9,0,0,0,0,0,0,0, 0, 12, 0)");
+    EXPECT_EQ(Findings(1)[0], "PlayedONTKeno ID1 2: Ball_3 stands behind a ball that was not played");
+}
+
+TEST_F(Check, TakesAnAddOnThatWasNotPlayedButNotInPart) {
+    Make("PlayedEncore");
+    Sql("INSERT INTO PlayedEncore VALUES (1, 'Lotto649', 46347, 99,99,99,99,99,99, NULL),"
+        "(2, 'Lotto649', 46347, 99,99,99,99,99,1, NULL), (3, 'Lotto649', 46347, 0,1,2,3,4,10, NULL)");
+    EXPECT_EQ(Findings(1), Lines({"PlayedEncore ID1 2: Number 6 belongs to a number that is played in part",
+                                  "PlayedEncore ID1 3: Number 6 \"10\" is not from 0 to 9"}));
+}
+
+TEST_F(Check, WesternExtraNeedsItsSeventhDigit) {
+    Make("PlayedWESTExtra");
+    Sql("INSERT INTO PlayedWESTExtra VALUES (1, 'Super 7', 46347, 1,2,3,4,5,6, NULL)");
+    EXPECT_EQ(Finding(), "PlayedWESTExtra ID1 1: Number 7 is empty");
+}
+
+TEST_F(Check, KnowsTheOddPlaceOfTheEarlyBirdDraw) {
+    Make("WinEarlyBird");
+    Sql("INSERT INTO WinEarlyBird VALUES (1, '2006-03-11', 7, 8, 9, 45, NULL)");
+    EXPECT_EQ(Findings(0), Lines());
+    Sql("UPDATE WinEarlyBird SET Date = 46, Lottoflag = 'Lottario'");
+    EXPECT_EQ(Findings(1), Lines({"WinEarlyBird ID1 1: Lottoflag \"Lottario\" is no date",
+                                  "WinEarlyBird ID1 1: Date holds no number from 1 to 45"}));
+}
+
+TEST_F(Check, FindsWaysDatesAmountsMarksAndGamesThatAreNone) {
+    Make("PlayedONTPick3");
+    Make("Spent");
+    Sql("INSERT INTO PlayedONTPick3 VALUES (1, 'Quote3', 'soon', 0,1,2, 'Sideways', 'maybe')");
+    Sql("INSERT INTO Spent VALUES (1, 'Bingo', 46347, 'much'), (2, NULL, 1e9, 1)");
+    const Lines findings = Findings(1);
+    EXPECT_EQ(findings, Lines({"PlayedONTPick3 ID1 1: Lottoflag \"Quote3\" is not \"ONTPick3\"",
+                               "PlayedONTPick3 ID1 1: Date \"soon\" is no date",
+                               "PlayedONTPick3 ID1 1: Way Played \"Sideways\" is no way of playing",
+                               "PlayedONTPick3 ID1 1: Regular \"maybe\" is neither true nor false",
+                               "PlayedONTPick3 ID1 1: Regular is stored as another type",
+                               "Spent ID1 1: Lottoflag \"Bingo\" is the key of no game",
+                               "Spent ID1 1: Spent \"much\" is no amount", "Spent ID1 2: Lottoflag is empty",
+                               "Spent ID1 2: Date \"1000000000\" is no date",
+                               "note: Bingo 2026-11-21: a row in Spent, but no tickets"}));
+}
+
+TEST_F(Check, TellsWhereTheKeysHaveHoles) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 SELECT value, 46000 + value, 1,2,3,4,5,6,7 FROM json_each('[2,3,7,9]')");
+    EXPECT_EQ(Finding(),
+              "WinBC49: no row has the ID1 1, 4 to 6, 8, so that rows to come may be refused (3022); "
+              "\"sorvane-records renumber\" mends it");
+}
+
+TEST_F(Check, FindsKeysThatAreNoneAndKeysThatTwoRowsHave) {
+    Make("WinBC49");
+    Sql("DROP INDEX \"WinBC49.ID1\"");
+    Sql("INSERT INTO WinBC49 VALUES (NULL,46000,1,2,3,4,5,6,7), (1,46001,1,2,3,4,5,6,7),"
+        "(1,46002,1,2,3,4,5,6,7), ('x',46003,1,2,3,4,5,6,7)");
+    EXPECT_EQ(Findings(1),
+              Lines({"WinBC49: the index over ID1 is missing or another", "WinBC49 row 1: ID1 is empty",
+                     "WinBC49 ID1 1: two rows have it", "WinBC49 row 4: ID1 \"x\" is no whole number"}));
+}
+
+TEST_F(Check, FindsTablesThatAreNotAsTheProgramMakesThem) {
+    world.WithDatabase();
+    Sql("CREATE TABLE Spent (ID1 LONG, Lottoflag TEXT(30), Date DATETIME, Spent VARCHAR, Extra LONG);"
+        "CREATE TABLE Winnings (ID1 LONG, Date DATETIME);"
+        "CREATE TABLE Mine (a); CREATE VIEW Seen AS SELECT * FROM Mine;"
+        "CREATE TRIGGER t AFTER INSERT ON Mine BEGIN SELECT 1; END");
+    EXPECT_EQ(Findings(1),
+              Lines({"Spent: field 4 Spent is of the type VARCHAR instead of CURRENCY",
+                     "Spent: the field Extra is none of the program's",
+                     "Winnings: field 2 is Date instead of Lottoflag", "Winnings: the field Date is missing",
+                     "Winnings: the field Winnings is missing",
+                     "note: Mine: not made by Sorvane, which leaves it alone",
+                     "note: view Seen: not made by Sorvane, which leaves it alone",
+                     "note: trigger t: not made by Sorvane, which leaves it alone"}));
+}
+
+TEST_F(Check, AnIndexOverAnotherFieldIsNotTheIndex) {
+    Make("WinBC49");
+    Sql("DROP INDEX \"WinBC49.Date\"; CREATE INDEX \"WinBC49.Date\" ON WinBC49 (Ball_1)");
+    EXPECT_EQ(Finding(), "WinBC49: the index over Date is missing or another");
+}
+
+TEST_F(Check, NotesWhatIsOddButCanBeRead) {
+    for (const char* table : {"PlayedBC49", "WinBC49", "Spent", "Winnings"}) Make(table);
+    Sql("INSERT INTO PlayedBC49 VALUES (1, 46347, 1,2,3,4,5,6, 0,0);"
+        "INSERT INTO WinBC49 VALUES (1, 46347.5, 1,1,3,4,5,6,7);"
+        "INSERT INTO Spent VALUES (1, 'BC49', 46348, 1);"
+        "INSERT INTO Winnings VALUES (1, 'BC49', 46349, 1)");
+    const Answer answer = Do({"check"});
+    EXPECT_EQ(LinesOf(answer.data),
+              Lines({"note: WinBC49 ID1 1: Date has a time of day", "note: WinBC49 ID1 1: 1 is drawn twice",
+                     "note: BC49 2026-11-21: tickets, but no row in Spent",
+                     "note: BC49 2026-11-22: a row in Spent, but no tickets",
+                     "note: BC49 2026-11-23: a row in Winnings, but no tickets"}));
+    EXPECT_EQ(answer.words, File().string() + ": sound, 5 notes\n");
+}
+
+TEST_F(Check, FindsAFileThatIsNotWhole) {
+    Make("WinBC49");
+    Sql("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000)"
+        "INSERT INTO WinBC49 SELECT i, 40000 + i, 1,2,3,4,5,6,7 FROM n");
+    // An index that has lost a row is nothing that opening the file would show.
+    Sql("PRAGMA writable_schema = ON;"
+        "UPDATE sqlite_schema SET sql = 'CREATE INDEX \"WinBC49.Date\" ON \"WinBC49\" (\"Ball_1\")' "
+        "WHERE name = 'WinBC49.Date'");
+    const Lines findings = Findings(1);
+    ASSERT_GE(findings.size(), 2U);
+    EXPECT_TRUE(Tells(findings.front(), "WinBC49.Date")) << findings.front();
+}
+
+TEST_F(Check, ShowsABarOnATerminalOnceASecondHasPassed) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (1, 46347, 1,2,3,4,5,6,7), (2, 46348, 1,2,3,4,5,6,7)");
+    tick = 600;
+    EXPECT_FALSE(Tells(Do({"check"}).words, "Checking"));
+    terminal = true;
+    const Answer slow = Do({"check"});
+    EXPECT_TRUE(Tells(slow.words, "\r\x1b[KChecking [##############################] 100 %\r\x1b[K"))
+        << slow.words;
+    EXPECT_FALSE(Tells(slow.words, " 50 %"));
+    tick = 0;
+    EXPECT_FALSE(Tells(Do({"check"}).words, "Checking"));
+}
+
+}  // namespace
+}  // namespace sorvane
