@@ -32,6 +32,7 @@
 #include "forms/Application.h"
 #include "forms/MessageBoxes.h"
 #include "forms/Utf8.h"
+#include "reports/ui/frmReport.h"
 #include "shell/ui/Windows.h"
 #include "shell/ui/frmMain.h"
 #include "support/Scripted.h"
@@ -150,7 +151,7 @@ struct Program {
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
     Run run{global, services};
-    Windows windows{run};
+    Windows windows{run, {GameWindow::Make, frmReport::Make}};
     frmMain main{run, windows, folder.Path().string(), [] { QCoreApplication::quit(); }};
 };
 

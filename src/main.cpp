@@ -5,10 +5,12 @@
 #include <QTimer>
 #include <chrono>
 
+#include "entry/ui/GameWindow.h"
 #include "forms/Application.h"
 #include "forms/MessageBoxes.h"
 #include "forms/PrinterDialog.h"
 #include "platform/SystemServices.h"
+#include "reports/ui/frmReport.h"
 #include "shell/Global.h"
 #include "shell/ui/Windows.h"
 #include "shell/ui/frmMain.h"
@@ -34,7 +36,7 @@ int main(int, char** argv) {
     Services services{dialogs, printer, clock, random, tools, engine};
     Global global;
     Run run{global, services};
-    Windows windows(run);
+    Windows windows(run, {GameWindow::Make, frmReport::Make});
 
     const std::string folder = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
     frmMain window(run, windows, folder, [] { QCoreApplication::exit(); });

@@ -118,9 +118,7 @@ inline constexpr std::string_view UpdatedText = "Database Updated.";
 inline constexpr std::string_view UpdatedTitle = "Database Updated";
 inline constexpr std::string_view SavedText = "Winning data saved.";
 inline constexpr std::string_view SavedTitle = "SAVED";
-// The guards; their boxes have the exclamation icon, but the last one and that of txtDollarsWon.
-inline constexpr std::string_view KeyText = "Please enter a valid number greater than or equal to 1.";
-inline constexpr std::string_view KeyTitle = "Error!";
+// The guards; their boxes have the exclamation icon, but the last one.
 inline constexpr std::string_view RangeTitle = "Error - Number out of Range!";
 inline constexpr std::string_view EncoreExitText =
     "Encore Number is too short. Please check the number and try again.";

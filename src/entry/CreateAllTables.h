@@ -1,9 +1,9 @@
 // The tables a window needs: made on first use, one probing loop a table.
 #pragma once
 
-#include "entry/WindowState.h"
 #include "shell/Family.h"
 #include "shell/Global.h"
+#include "shell/WindowState.h"
 
 namespace sorvane {
 

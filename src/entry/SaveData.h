@@ -1,5 +1,4 @@
-// The writers: the tickets of one sheet from the global arrays into a table, and the one writer of both
-// ledgers.
+// The writers: the tickets of one sheet from the global arrays into a table.
 #pragma once
 
 #include "store/StoreRoutine.h"
@@ -20,10 +19,5 @@ void SavePick4Tickets(Run& run, const StoreArgs& at);
 void SaveAddOnTickets(Run& run,
                       const StoreArgs& at);  // NoOfExtra rows; the seventh digit for "WESTExtra" alone
 void SaveExtraTickets(Run& run, const StoreArgs& at);  // NoOfExtra rows
-
-// Adds a row with `Dollars` to the ledger named in `at`. While EnteringWinnings is On and the first row of
-// the date belongs to the game, asks whether to amend it instead (title "Correct Winnings?"). An amount that
-// does not convert shows "Please enter a valid amount and try again." and writes nothing.
-void StoreLedgerAmount(Run& run, const StoreArgs& at);
 
 }  // namespace sorvane

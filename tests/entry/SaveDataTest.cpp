@@ -1,9 +1,10 @@
-// The writers of the sheets and of the ledgers, read back with plain SQLite.
+// The writers of the sheets, read back with plain SQLite.
 #include "entry/SaveData.h"
 
 #include <gtest/gtest.h>
 
 #include "entry/CreateAllTables.h"
+#include "store/StoreLedger.h"
 #include "support/World.h"
 
 namespace sorvane {
@@ -190,95 +191,6 @@ TEST_F(WritersTest, AnArrayNeverSizedIsAnUnexpectedErrorInTheBox) {
     world.ExpectUnexpected(9);
     SaveLotto6Tickets(world.run, At("PlayedBC49"));
     EXPECT_TRUE(All("PlayedBC49").empty());
-}
-
-class LedgerTest : public WritersTest {
-  protected:
-    void SetUp() override { Open(Family::frm649, "Lotto649", "Encore"); }
-    void Record(std::string_view table, std::string_view amount) {
-        g.Dollars = amount;
-        StoreLedgerAmount(world.run, At(table));
-    }
-    Names Spent() { return world.Plain().Rows("SELECT ID1, Lottoflag, Spent FROM Spent ORDER BY rowid"); }
-    Names Winnings() {
-        return world.Plain().Rows("SELECT ID1, Lottoflag, Winnings FROM Winnings ORDER BY rowid");
-    }
-    void ExpectQuestion(Answer answer) {
-        world.dialogs.Expect("Correct Winnings?",
-                             "You have already entered a Winning amount for this\r\n"
-                             "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                             answer, BoxStyle::YesNo);
-    }
-};
-
-TEST_F(LedgerTest, TwoEntriesOfOneDateAreTwoRowsWithDifferentKeys) {
-    Record("Spent", "5.00");
-    Record("Spent", "2.50");
-    EXPECT_EQ(Spent(), (Names{"1|Lotto649|5", "2|Lotto649|2.5"}));
-}
-
-TEST_F(LedgerTest, SuperSevenKeepsItsBlank) {
-    g.LottoFlag = "Super 7";
-    Record("Spent", "2.00");
-    EXPECT_EQ(Spent(), Names{"1|Super 7|2"});
-}
-
-TEST_F(LedgerTest, AmountsConvertWithBlanksAndCommasAndNothingIsARowToo) {
-    Record("Spent", " 5.00");
-    Record("Spent", "1,000.50");
-    Record("Spent", "0.00");
-    EXPECT_EQ(Spent(), (Names{"1|Lotto649|5", "2|Lotto649|1000.5", "3|Lotto649|0"}));
-}
-
-TEST_F(LedgerTest, ABadAmountIsRefusedAndWritesNothing) {
-    for (const char* bad : {".", "", "12abc", "abc"}) {
-        world.ExpectStoreError(3421, "Please enter a valid amount and try again.");
-        Record("Spent", bad);
-    }
-    EXPECT_TRUE(Spent().empty());
-}
-
-TEST_F(LedgerTest, WhileWinningsAreEnteredTheFirstRowOfTheDateIsAmendedOnYes) {
-    g.EnteringWinnings = On;
-    Record("Winnings", "10.00");
-    ExpectQuestion(Answer::No);
-    Record("Winnings", "25.00");
-    EXPECT_EQ(Winnings(), Names{"1|Lotto649|10"});
-    ExpectQuestion(Answer::Yes);
-    Record("Winnings", "25.00");
-    EXPECT_EQ(Winnings(), Names{"1|Lotto649|25"});
-}
-
-TEST_F(LedgerTest, AnotherGameOnTheDateIsOnlyFoundWhenItStandsFirst) {
-    g.EnteringWinnings = On;
-    Record("Winnings", "10.00");
-    g.LottoFlag = "Super 7";
-    Record("Winnings", "20.00");
-    Record("Winnings", "30.00");
-    EXPECT_EQ(Winnings(), (Names{"1|Lotto649|10", "2|Super 7|20", "3|Super 7|30"}));
-}
-
-TEST_F(LedgerTest, BetweenEnterWinningsAndTheNextCheckSpendingMeetsTheSameQuestion) {
-    Record("Spent", "5.00");
-    g.EnteringWinnings = On;
-    ExpectQuestion(Answer::Yes);
-    Record("Spent", "7.00");
-    EXPECT_EQ(Spent(), Names{"1|Lotto649|7"});
-}
-
-TEST_F(LedgerTest, ABadAmountInAnAmendedRowLeavesTheOldOne) {
-    g.EnteringWinnings = On;
-    Record("Winnings", "10.00");
-    ExpectQuestion(Answer::Yes);
-    world.ExpectStoreError(3421, "Please enter a valid amount and try again.");
-    Record("Winnings", "ten");
-    EXPECT_EQ(Winnings(), Names{"1|Lotto649|10"});
-}
-
-TEST_F(LedgerTest, AMissingLedgerIsNamed) {
-    world.Plain().Do("DROP TABLE Spent");
-    world.ExpectStoreError(3011, "Unable to open Spent table. Please advise error number to support.");
-    Record("Spent", "5.00");
 }
 
 }  // namespace

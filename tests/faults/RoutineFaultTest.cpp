@@ -21,6 +21,7 @@
 #include "reports/FrequencyReport.h"
 #include "reports/MoneyReport.h"
 #include "store/DeleteData.h"
+#include "store/StoreLedger.h"
 #include "support/FaultVfs.h"
 #include "support/RecordingChart.h"
 #include "support/World.h"

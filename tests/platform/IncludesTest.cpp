@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -16,59 +16,77 @@ namespace {
 
 namespace fs = std::filesystem;
 
-enum class Place { Platform, Dao, Forms, Rules, Ui, Main, RecordsMain, Unknown };
+// A floor, or a room with or without its `ui`: "platform", "store/dao", "forms", "entry", "entry/ui", "main".
+using Place = std::string;
 
-constexpr std::array<std::string_view, 7> Rooms = {"shell",     "store",   "entry",  "checking",
-                                                   "quickpick", "reports", "records"};
-
-// Where a file below the source folder stands.
-Place PlaceOf(const std::string& file) {
-    const auto in = [&](const std::string& folder) { return file.rfind(folder + "/", 0) == 0; };
-    if (file == "main.cpp") return Place::Main;
-    if (file == "records_main.cpp") return Place::RecordsMain;
-    if (in("platform")) return Place::Platform;
-    if (in("store/dao")) return Place::Dao;
-    if (in("forms")) return Place::Forms;
-    for (const std::string_view room : Rooms) {
-        if (in(std::string(room) + "/ui")) return Place::Ui;
-        if (in(std::string(room))) return Place::Rules;
-    }
-    return Place::Unknown;
-}
-
+// Each place and what it sees besides itself, from below upwards.
 struct Sight {
     Place from;
     std::set<Place> sees;
-    bool qt;
 };
 
-const std::array<Sight, 7>& Sights() {
-    static const std::array<Sight, 7> Table = {{
-        {Place::Platform, {Place::Platform}, false},
-        {Place::Dao, {Place::Platform, Place::Dao}, false},
-        {Place::Forms, {Place::Platform, Place::Forms}, true},
-        {Place::Rules, {Place::Platform, Place::Dao, Place::Rules}, false},
-        {Place::Ui, {Place::Platform, Place::Dao, Place::Forms, Place::Rules, Place::Ui}, true},
-        {Place::Main, {Place::Platform, Place::Dao, Place::Forms, Place::Rules, Place::Ui}, true},
-        {Place::RecordsMain, {Place::Platform, Place::Dao, Place::Rules}, false},
-    }};
+std::set<Place> With(std::set<Place> places, const std::set<Place>& more) {
+    places.insert(more.begin(), more.end());
+    return places;
+}
+
+const std::vector<Sight>& Sights() {
+    static const std::vector<Sight> Table = [] {
+        const std::set<Place> Shell = {"platform", "store/dao", "shell"};
+        const std::set<Place> Store = With(Shell, {"store"});
+        const std::set<Place> Frame = With(Store, {"forms", "shell/ui"});
+        return std::vector<Sight>{
+            {"platform", {}},
+            {"store/dao", {"platform"}},
+            {"forms", {"platform"}},
+            {"shell", {"platform", "store/dao"}},
+            {"store", Shell},
+            {"entry", Store},
+            {"checking", Store},
+            {"reports", Store},
+            {"quickpick", With(Store, {"entry", "checking", "reports"})},
+            {"records", With(Store, {"entry", "checking", "reports", "quickpick"})},
+            {"shell/ui", With(Store, {"forms"})},
+            {"checking/ui", With(Frame, {"checking"})},
+            {"reports/ui", With(Frame, {"reports"})},
+            {"quickpick/ui", With(Frame, {"quickpick", "reports"})},
+            {"entry/ui", With(Frame, {"entry", "checking/ui", "reports/ui", "quickpick/ui"})},
+            {"main", With(Frame, {"entry/ui", "reports/ui"})},
+            {"records main", With(Store, {"records"})},
+        };
+    }();
     return Table;
+}
+
+const Sight* SightOf(const Place& place) {
+    const auto found = std::find_if(Sights().begin(), Sights().end(),
+                                    [&](const Sight& sight) { return sight.from == place; });
+    return found == Sights().end() ? nullptr : &*found;
+}
+
+bool KnowsQt(const Place& place) { return place == "forms" || place == "main" || place.ends_with("/ui"); }
+
+// Where a file below the source folder stands; empty: nowhere.
+Place PlaceOf(const std::string& file) {
+    if (file == "main.cpp") return "main";
+    if (file == "records_main.cpp") return "records main";
+    Place place = fs::path(file).parent_path().generic_string();
+    return SightOf(place) ? place : Place();
 }
 
 // What is wrong with an include between the given quotes; empty when nothing is.
 std::string Complaint(const std::string& file, char quote, const std::string& included) {
     const Place from = PlaceOf(file);
-    const auto sight =
-        std::find_if(Sights().begin(), Sights().end(), [&](const Sight& s) { return s.from == from; });
-    if (sight == Sights().end()) return "stands on no floor and in no room";
+    if (from.empty()) return "stands on no floor and in no room";
     if (quote == '"') {
-        if (PlaceOf(included) == Place::Unknown) return "isn't written as a path from the source folder";
-        return sight->sees.count(PlaceOf(included)) != 0 ? "" : "lies out of sight";
+        const Place to = PlaceOf(included);
+        if (to.empty()) return "isn't written as a path from the source folder";
+        return to == from || SightOf(from)->sees.count(to) != 0 ? "" : "lies out of sight";
     }
-    if (included == "sqlite3.h") return from == Place::Dao ? "" : "only store/dao knows the database engine";
-    if (included.front() == 'Q') return sight->qt ? "" : "no Qt on this floor";
+    if (included == "sqlite3.h") return from == "store/dao" ? "" : "only store/dao knows the database engine";
+    if (included.front() == 'Q') return KnowsQt(from) ? "" : "no Qt on this floor";
     if (included == "CLI/CLI.hpp" || included == "nlohmann/json.hpp")
-        return file.starts_with("records/") ? "" : "only the records command reads arguments and writes JSON";
+        return from == "records" ? "" : "only the records command reads arguments and writes JSON";
     // Headers of the C++ library bear no ending; all others belong to some system.
     if (included.find('.') != std::string::npos && file != "platform/StartProgram.cpp" &&
         file != "platform/SystemFiles.cpp")
@@ -112,6 +130,42 @@ std::vector<Include> ReadIncludes(const fs::path& folder) {
     return includes;
 }
 
+// Who includes whom.
+using Graph = std::map<Place, std::set<Place>>;
+
+Graph GraphOf(const std::vector<Include>& includes) {
+    Graph graph;
+    for (const auto& [file, quote, included] : includes)
+        if (quote == '"' && PlaceOf(file) != PlaceOf(included))
+            graph[PlaceOf(file)].insert(PlaceOf(included));
+    return graph;
+}
+
+// A way from the last place of `path` back to a place on it, "a -> b -> a"; empty when there is none.
+std::string RingBehind(const Graph& graph, std::vector<Place> path) {
+    const auto from = graph.find(path.back());
+    if (from == graph.end()) return {};
+    for (const Place& next : from->second) {
+        const auto start = std::find(path.begin(), path.end(), next);
+        if (start != path.end()) {
+            std::string ring;
+            for (auto place = start; place != path.end(); ++place) ring += *place + " -> ";
+            return ring + next;
+        }
+        path.push_back(next);
+        if (std::string ring = RingBehind(graph, path); !ring.empty()) return ring;
+        path.pop_back();
+    }
+    return {};
+}
+
+// A ring of places that know each other; empty when there is none.
+std::string RingIn(const Graph& graph) {
+    for (const auto& [place, sees] : graph)
+        if (std::string ring = RingBehind(graph, {place}); !ring.empty()) return ring;
+    return {};
+}
+
 TEST(IncludesTest, EachFileSeesOnlyTheFloorsBelowIt) {
     const fs::path folder = fs::path(SORVANE_SOURCE_FOLDER) / "src";
     const std::vector<Include> includes = ReadIncludes(folder);
@@ -120,6 +174,48 @@ TEST(IncludesTest, EachFileSeesOnlyTheFloorsBelowIt) {
         EXPECT_EQ(Complaint(file, quote, included), "") << file << " includes " << included;
         EXPECT_TRUE(quote == '<' || fs::exists(folder / included)) << file << " includes " << included;
     }
+}
+
+TEST(IncludesTest, NoRoomsStandInARing) {
+    const Graph graph = GraphOf(ReadIncludes(fs::path(SORVANE_SOURCE_FOLDER) / "src"));
+    EXPECT_GT(graph.size(), 10U) << "includes of most places are missing";
+    EXPECT_EQ(RingIn(graph), "");
+}
+
+TEST(IncludesTest, ARingIsFoundHoweverLongItIs) {
+    const auto ring = [](std::vector<Include> includes) { return RingIn(GraphOf(includes)); };
+    const Include Down = {"entry/ui/SheetFlow.cpp", '"', "shell/ui/Windows.h"};
+    EXPECT_EQ(ring({Down, {"shell/ui/Windows.cpp", '"', "entry/ui/GameWindow.h"}}),
+              "entry/ui -> shell/ui -> entry/ui");
+    EXPECT_EQ(ring({Down,
+                    {"shell/ui/frmMain.cpp", '"', "reports/ui/frmReport.h"},
+                    {"reports/ui/frmReport.cpp", '"', "entry/ui/GameWindow.h"}}),
+              "entry/ui -> shell/ui -> reports/ui -> entry/ui");
+    EXPECT_EQ(ring({{"shell/SelectGame.cpp", '"', "store/StoreRoutine.h"},
+                    {"store/StoreRoutine.h", '"', "shell/Global.h"}}),
+              "shell -> store -> shell");
+    EXPECT_EQ(ring({{"main.cpp", '"', "shell/ui/Windows.h"},
+                    {"store/CreateTables.cpp", '"', "store/dao/Dao.h"},
+                    {"store/dao/Dao.cpp", '"', "store/CreateTables.h"}}),
+              "store -> store/dao -> store");
+}
+
+// A room and its ui are two: the ui of a room below may know the rules of one above.
+TEST(IncludesTest, WhatMerelyMeetsAgainIsNoRing) {
+    EXPECT_EQ(RingIn(GraphOf({{"entry/ui/SheetFlow.cpp", '"', "entry/ui/GameWindow.h"},
+                              {"entry/ui/SheetFlow.cpp", '"', "shell/ui/Windows.h"},
+                              {"entry/ui/SheetFlow.cpp", '"', "checking/ui/CheckTicketsTab.h"},
+                              {"checking/ui/CheckTicketsTab.cpp", '"', "shell/ui/Windows.h"},
+                              {"shell/ui/frmMain.cpp", '"', "store/CreateTables.h"},
+                              {"store/CreateTables.cpp", '"', "shell/Catalogue.h"},
+                              {"shell/ui/frmMain.cpp", '<', "QWidget"}})),
+              "");
+}
+
+TEST(IncludesTest, TheTableAllowsNoRingEither) {
+    Graph graph;
+    for (const Sight& sight : Sights()) graph[sight.from] = sight.sees;
+    EXPECT_EQ(RingIn(graph), "");
 }
 
 TEST(IncludesTest, IncludesAreReadHoweverTheyAreSetOut) {
@@ -154,6 +250,16 @@ TEST(IncludesTest, UpwardAndSidewardIncludesAreRefused) {
         {"entry/SaveData.cpp", '"', "entry/ui/SheetFlow.h"},
         {"entry/SaveData.cpp", '<', "QWidget"},
         {"shell/ui/frmMain.cpp", '<', "sqlite3.h"},
+        {"shell/ui/frmMain.cpp", '"', "entry/ui/GameWindow.h"},
+        {"shell/ui/frmMain.cpp", '"', "reports/ui/frmReport.h"},
+        {"shell/Global.h", '"', "store/StoreRoutine.h"},
+        {"store/CreateTables.cpp", '"', "entry/EntryFacts.h"},
+        {"checking/StoreData.cpp", '"', "entry/EntryFacts.h"},
+        {"reports/MoneyReport.cpp", '"', "quickpick/Wheel.h"},
+        {"checking/ui/CheckTicketsTab.cpp", '"', "entry/ui/GameWindow.h"},
+        {"checking/ui/CheckTicketsTab.cpp", '"', "entry/EntryFacts.h"},
+        {"quickpick/ui/QuickPickTab.cpp", '"', "reports/ui/Charts.h"},
+        {"entry/ui/GameWindow.cpp", '"', "main.cpp"},
         {"main.cpp", '<', "sqlite3.h"},
         {"other/File.cpp", '<', "vector"},
         {"records/Check.cpp", '<', "sqlite3.h"},
@@ -162,6 +268,7 @@ TEST(IncludesTest, UpwardAndSidewardIncludesAreRefused) {
         {"records_main.cpp", '<', "QApplication"},
         {"entry/SaveData.cpp", '<', "nlohmann/json.hpp"},
         {"store/dao/Dao.cpp", '"', "records/Check.h"},
+        {"quickpick/Wheel.cpp", '"', "records/Check.h"},
     };
     for (const auto& [file, quote, included] : Refused)
         EXPECT_NE(Complaint(file, quote, included), "") << file << " includes " << included;
@@ -179,6 +286,10 @@ TEST(IncludesTest, IncludesOfTheFloorsBelowAreFine) {
         {"entry/ui/SheetFlow.cpp", '"', "forms/Window.h"},
         {"entry/ui/SheetFlow.cpp", '"', "shell/ui/Windows.h"},
         {"main.cpp", '<', "QApplication"},
+        {"main.cpp", '"', "entry/ui/GameWindow.h"},
+        {"entry/ui/GameWindow.h", '"', "checking/ui/CheckTicketsTab.h"},
+        {"quickpick/Wheel.cpp", '"', "reports/DisplayData.h"},
+        {"shell/ui/frmMain.cpp", '"', "store/CreateTables.h"},
         {"reports/MoneyReport.cpp", '<', "vector"},
         {"records/Show.cpp", '<', "nlohmann/json.hpp"},
         {"records/Check.cpp", '"', "store/dao/RecordFile.h"},

@@ -37,10 +37,12 @@ void WindowWorld::Select(Family family, std::string_view LottoFlag, std::string_
     sorvane::Select(global, {"", LottoFlag, ExtraFlag, family, ""});
 }
 
+GameWindow& WindowWorld::Load(Family family) { return static_cast<GameWindow&>(windows.Load(family)); }
+
 // The steps of frmMain's menu.
 GameWindow& WindowWorld::LoadDressed(const Game& game) {
     windows.Load(game.titleGoesTo.value_or(game.opens)).SetCaption(game.title);
-    window_ = &windows.Load(game.opens);
+    window_ = &Load(game.opens);
     Dress(*window_, DressingOf(game));
     return *window_;
 }
@@ -57,7 +59,7 @@ GameWindow& WindowWorld::Show(std::string_view menu) { return Front(LoadDressed(
 
 GameWindow& WindowWorld::Show(Family family, std::string_view LottoFlag, std::string_view ExtraFlag) {
     Select(family, LottoFlag, ExtraFlag);
-    return Front(windows.Load(family));
+    return Front(Load(family));
 }
 
 void WindowWorld::ShowModal(std::string_view menu, const std::function<void(GameWindow&)>& act) {

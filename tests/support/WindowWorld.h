@@ -12,6 +12,7 @@
 
 #include "entry/ui/GameWindow.h"
 #include "forms/MessageBoxes.h"
+#include "reports/ui/frmReport.h"
 #include "shell/Catalogue.h"
 #include "shell/Global.h"
 #include "shell/ui/Windows.h"
@@ -25,6 +26,9 @@ namespace sorvane::test {
 
 using testing::PlainFile;
 using Texts = std::vector<std::string>;
+
+// The windows of the program, as its main puts them together.
+inline constexpr WindowMakers Makers{GameWindow::Make, frmReport::Make};
 
 // Boxes are real ones, answered by `person`: tell them before the action that brings them up.
 //
@@ -49,7 +53,7 @@ class WindowWorld : public ::testing::Test {
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
     sorvane::Run run{global, services};
-    Windows windows{run};
+    Windows windows{run, Makers};
     Person person;
 
     WindowWorld();
@@ -115,6 +119,7 @@ class WindowWorld : public ::testing::Test {
     void Do(const std::string& sql) const { Plain().Do(sql); }
 
   private:
+    GameWindow& Load(Family family);
     GameWindow& LoadDressed(const Game& game);
     GameWindow& Front(GameWindow& window);
 

@@ -249,7 +249,7 @@ int Ending(void (*act)(frmMain&, Windows&)) {
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
     Run run{global, services};
-    Windows windows{run};
+    Windows windows{run, Makers};
     frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
     main.Load();
     main.Show();

@@ -22,11 +22,11 @@ class ReportsPrintTest : public ReportsWorld {
     }};
     Services paper{boxes, pdf, clock, random, tools, engine};
     sorvane::Run paperRun{global, paper};
-    Windows paperWindows{paperRun};
+    Windows paperWindows{paperRun, Makers};
 
     GameWindow& OpenOnPaper(const GameCase& game, std::string_view tab) {
         Select(game.family, game.LottoFlag, game.ExtraFlag);
-        GameWindow& window = paperWindows.Load(game.family);
+        auto& window = static_cast<GameWindow&>(paperWindows.Load(game.family));
         window.SetCaption("Lottario");
         window.Show();
         Person::Await(window);

@@ -100,7 +100,7 @@ class Evening : public test::WindowWorld {
     forms::PrinterDialog paper_;
     Services services_{boxes, paper_, clock, random, tools, engine};
     sorvane::Run run_{global, services_};
-    Windows windows_{run_};
+    Windows windows_{run_, test::Makers};
     frmMain frmMain_;
     bool ended_ = false;
 };

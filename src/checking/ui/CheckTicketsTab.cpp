@@ -5,13 +5,14 @@
 #include <QVBoxLayout>
 
 #include "checking/CheckFacts.h"
-#include "entry/SaveData.h"
-#include "entry/ui/GameWindow.h"
 #include "forms/BusyPointer.h"
+#include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "shell/ui/GameFrame.h"
 #include "store/CheckTB_DBExists.h"
 #include "store/CreateTables.h"
+#include "store/StoreLedger.h"
 
 namespace sorvane {
 
@@ -22,19 +23,12 @@ using namespace CheckFacts;
 constexpr int BoxesARow = 10;
 constexpr int FourBoxes = 4;
 
-void RefuseAndKeep(forms::KeyPress& key, int style) {
-    forms::Window::MsgBox(KeyText, style, KeyTitle);
-    key.Swallow();
-}
-
-bool IsRowKey(int key) { return IsDigit(key) || key == Backspace; }
-
 // A value outside 1 to `top` empties the box and keeps it in hand; an empty box is no such value.
-void GuardRange(forms::TextBox& box, int top, std::string_view text) {
+void GuardRange(GameFrame& window, forms::TextBox& box, int top, std::string_view text) {
     if (top == 0 || box.Text().empty()) return;
     const double value = Val(box.Text());
     if (value >= 1 && value <= top) return;
-    forms::Window::MsgBox(text, BoxStyle::Exclamation, RangeTitle);
+    window.MsgBox(text, BoxStyle::Exclamation, RangeTitle);
     box.SetText("");
     box.SetFocus();
 }
@@ -55,7 +49,7 @@ StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.
 
 }  // namespace
 
-CheckTicketsTab::CheckTicketsTab(GameWindow& window)
+CheckTicketsTab::CheckTicketsTab(GameFrame& window)
     : txtWin(BoxStem[window.Which]), cboWin(BoxStem[window.Which]), window_(window) {
     window.dtpEnterTickets.Load(2).SetAccessibleName("Draw Date");
     window.cmdExit.Load(2, "E&xit");
@@ -107,10 +101,11 @@ void CheckTicketsTab::AttachHandlers() {
     const Family family = window_.Which;
     txtWin.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin_KeyPress(Index, key); });
     txtWin.OnLostFocus(
-        [this, family](int Index) { GuardRange(txtWin(Index), Top[family], RangeText[family]); });
+        [this, family](int Index) { GuardRange(window_, txtWin(Index), Top[family], RangeText[family]); });
     txtWin4.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin4_KeyPress(Index, key); });
-    txtWin4.OnLostFocus(
-        [this, family](int Index) { GuardRange(txtWin4(Index), FourTop[family], FourRangeText[family]); });
+    txtWin4.OnLostFocus([this, family](int Index) {
+        GuardRange(window_, txtWin4(Index), FourTop[family], FourRangeText[family]);
+    });
     if (txtWinEncore && GuardsEncoreKeys[family])
         txtWinEncore->OnKeyPress([this](forms::KeyPress& key) { txtWinEncore_KeyPress(key); });
     if (txtWinEncore && GuardsEncoreExit[family])
@@ -345,13 +340,13 @@ bool CheckTicketsTab::DateHasCome() {
     Run& run = window_.run;
     if (window_.State.WindowDate <= run.services.clock.Today()) return true;
     run.global.Msg = FutureText;
-    forms::Window::MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
+    window_.MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
     return false;
 }
 
 bool CheckTicketsTab::Missing(std::string_view text, std::string_view title, forms::Control& box) {
     window_.run.global.Msg = text;
-    forms::Window::MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
+    window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
     box.SetFocus();
     return false;
 }
@@ -413,7 +408,7 @@ bool CheckTicketsTab::GoesOnToJudging() {
         return false;
     }
     g.Msg = UpdatedText;
-    forms::Window::MsgBox(g.Msg, BoxStyle::Ok, UpdatedTitle);
+    window_.MsgBox(g.Msg, BoxStyle::Ok, UpdatedTitle);
     if (UpdateEmptiesBoxes[window_.Which]) EmptyMainBoxes();
     return false;
 }
@@ -454,10 +449,15 @@ void CheckTicketsTab::CheckAddOn(const WinningBoxes& boxes) {
     }
 }
 
+void CheckTicketsTab::RefuseAndKeep(forms::KeyPress& key, int style) {
+    window_.MsgBox(forms::NotANumber, style, forms::KeyErrorTitle);
+    key.Swallow();
+}
+
 void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
-    if (IsRowKey(key.KeyAscii)) return;
-    if (key.KeyAscii != sorvane::EnterKey || EnterInBox[window_.Which] != CheckFacts::EnterKey::Moves) {
-        RefuseKey(txtWin(Index), key);
+    if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
+    if (key.KeyAscii != forms::EnterKey || EnterInBox[window_.Which] != CheckFacts::EnterKey::Moves) {
+        forms::RefuseKey(window_.run.services.dialogs, txtWin(Index), key);
         return;
     }
     if (txtWin.IsLoaded(Index + 1)) txtWin(Index + 1).SetFocus();
@@ -465,28 +465,29 @@ void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
 }
 
 void CheckTicketsTab::txtWin4_KeyPress(int Index, forms::KeyPress& key) {
-    if (IsRowKey(key.KeyAscii)) return;
+    if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
     const bool moves = EnterInFour[window_.Which] == CheckFacts::EnterKey::Moves;
-    if (key.KeyAscii == sorvane::EnterKey && moves) {
+    if (key.KeyAscii == forms::EnterKey && moves) {
         if (Index + 1 < FourBoxes) txtWin4(Index + 1).SetFocus();
         else cmdCheck.SetFocus();
         return;
     }
-    if (RefusalEmptiesFour[window_.Which]) RefuseKey(txtWin4(Index), key);
+    if (RefusalEmptiesFour[window_.Which])
+        forms::RefuseKey(window_.run.services.dialogs, txtWin4(Index), key);
     else RefuseAndKeep(key, BoxStyle::Exclamation);
 }
 
 void CheckTicketsTab::txtWinEncore_KeyPress(forms::KeyPress& key) {
     // Backspace, too, moves on: meant.
-    if (key.KeyAscii == Backspace || key.KeyAscii == sorvane::EnterKey) cmdCheck.SetFocus();
-    else if (!IsDigit(key.KeyAscii)) RefuseAndKeep(key, BoxStyle::Exclamation);
+    if (key.KeyAscii == forms::Backspace || key.KeyAscii == forms::EnterKey) cmdCheck.SetFocus();
+    else if (!forms::IsDigit(key.KeyAscii)) RefuseAndKeep(key, BoxStyle::Exclamation);
 }
 
 void CheckTicketsTab::txtWinEncore_LostFocus() {
     const int length = Len(txtWinEncore->Text());
     if (length < 6) {
         window_.run.global.Msg = EncoreExitText;
-        forms::Window::MsgBox(window_.run.global.Msg, BoxStyle::Ok, EncoreExitTitle);
+        window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, EncoreExitTitle);
         txtWinEncore->SetFocus();
     } else if (length == 6) {
         cmdCheck.SetFocus();
@@ -495,7 +496,8 @@ void CheckTicketsTab::txtWinEncore_LostFocus() {
 
 void CheckTicketsTab::txtDollarsWon_KeyPress(forms::KeyPress& key) {
     const int k = key.KeyAscii;
-    if (!IsRowKey(k) && k != ',' && k != '.' && k != sorvane::EnterKey) RefuseAndKeep(key, BoxStyle::Ok);
+    if (!forms::IsDigitOrBackspace(k) && k != ',' && k != '.' && k != forms::EnterKey)
+        RefuseAndKeep(key, BoxStyle::Ok);
 }
 
 void CheckTicketsTab::chkStatUpdate_Click() {
@@ -543,7 +545,7 @@ void CheckTicketsTab::cmdEnterWinnings_Click() {
     StoreLedgerAmount(run, At(state));
     // The box comes in every case, also when nothing was stored: meant.
     run.global.Msg = SavedText;
-    forms::Window::MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
+    window_.MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
 }
 
 void CheckTicketsTab::MakeSureOfTable() {

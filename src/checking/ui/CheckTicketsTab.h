@@ -19,11 +19,11 @@ class QLayout;
 
 namespace sorvane {
 
-class GameWindow;
+class GameFrame;
 
 class CheckTicketsTab {
   public:
-    explicit CheckTicketsTab(GameWindow& window);
+    explicit CheckTicketsTab(GameFrame& window);
 
     // Containers before their contents.
     forms::LabelFrame frmWinner{"frmWinner", "Winner"};
@@ -82,6 +82,8 @@ class CheckTicketsTab {
     forms::Control& MainBox(int index);
     WinningBoxes Boxes() const;
 
+    // Refuses a key; the text stays as it is.
+    void RefuseAndKeep(forms::KeyPress& key, int style);
     void txtWin_KeyPress(int Index, forms::KeyPress& key);
     void txtWin4_KeyPress(int Index, forms::KeyPress& key);
     void txtWinEncore_KeyPress(forms::KeyPress& key);
@@ -93,7 +95,7 @@ class CheckTicketsTab {
     void cmdEnterWinnings_Click();
     void MakeSureOfTable();
 
-    GameWindow& window_;
+    GameFrame& window_;
 };
 
 }  // namespace sorvane

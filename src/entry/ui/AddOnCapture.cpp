@@ -3,6 +3,7 @@
 #include "entry/EntryFacts.h"
 #include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
+#include "forms/Keys.h"
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
 
@@ -104,9 +105,9 @@ void AddOnCapture::FocusCount() {
 }
 
 void AddOnCapture::txtNoOfExtra_KeyPress(forms::KeyPress& key) {
-    if (!IsDigit(key.KeyAscii) && key.KeyAscii != Backspace && key.KeyAscii != EnterKey)
-        RefuseKey(*txtNoOfExtra, key);
-    else if (key.KeyAscii == EnterKey && EnterInExtra[window_.Which] != Go::Stay)
+    if (!forms::IsDigitOrBackspace(key.KeyAscii) && key.KeyAscii != forms::EnterKey)
+        forms::RefuseKey(window_.run.services.dialogs, *txtNoOfExtra, key);
+    else if (key.KeyAscii == forms::EnterKey && EnterInExtra[window_.Which] != Go::Stay)
         window_.Enter.Capture().FocusFirst();
 }
 
@@ -125,7 +126,7 @@ void AddOnCapture::TakeCount() {
     if (g_.ExtraFlag == "Extra" && !text.empty() && CDbl(text) > g_.NoOfTicketsOnSheet) {
         g_.Msg = "Too many Extra tickets entered. Please enter a value less than" + g_.NL +
                  "or equal to the number of Tickets on this sheet.";
-        forms::Window::MsgBox(g_.Msg, BoxStyle::Ok, ErrorTitle);
+        window_.MsgBox(g_.Msg, BoxStyle::Ok, ErrorTitle);
         txtNoOfExtra->SetText("");
         txtNoOfExtra->SetFocus();
     }
@@ -138,8 +139,8 @@ void AddOnCapture::TakeLottarioCount() {
     if (g_.LottoFlag != "Lottario") return;
     if (txtNoOfExtra->Text().empty()) EmptyCount();
     if (CDbl(txtNoOfExtra->Text()) > MostLottarioEncores) {
-        forms::Window::MsgBox("Maximum number of 10 Encore Tickets per Sheet. Please try again.",
-                              BoxStyle::Ok, "Too Many Encore Tickets Entered");
+        window_.MsgBox("Maximum number of 10 Encore Tickets per Sheet. Please try again.", BoxStyle::Ok,
+                       "Too Many Encore Tickets Entered");
         EmptyCount();  // NoOfExtra keeps its old value
         txtNoOfExtra->SelectAll();
         txtNoOfExtra->SetFocus();
@@ -160,8 +161,8 @@ void AddOnCapture::chkEncore_Click() {
 }
 
 void AddOnCapture::DigitsOnly(forms::TextBox& field, forms::KeyPress& key) {
-    if (IsDigit(key.KeyAscii) || key.KeyAscii == Backspace) return;
-    forms::Window::MsgBox(NotANumber, BoxStyle::Exclamation, KeyErrorTitle);
+    if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
+    window_.MsgBox(forms::NotANumber, BoxStyle::Exclamation, forms::KeyErrorTitle);
     key.Swallow();
     field.SetFocus();
 }
@@ -169,7 +170,7 @@ void AddOnCapture::DigitsOnly(forms::TextBox& field, forms::KeyPress& key) {
 void AddOnCapture::txtEncore_LostFocus() {
     if (Len(txtEncore->Text()) < ShortestEncore) {
         g_.Msg = "Encore number too short. Please check the number and try again.";
-        forms::Window::MsgBox(g_.Msg, BoxStyle::OkCancel, "Encore Too Short!");  // both answers are alike
+        window_.MsgBox(g_.Msg, BoxStyle::OkCancel, "Encore Too Short!");  // both answers are alike
         txtEncore->SetFocus();
         return;
     }
@@ -181,8 +182,8 @@ void AddOnCapture::txtPlay4_LostFocus(int Index) {
     forms::TextBox& box = txtPlay4(Index);
     const double number = box.Text().empty() ? LowestPlay4 : CDbl(box.Text());
     if (number < LowestPlay4 || number > HighestPlay4) {
-        forms::Window::MsgBox("Please enter a number between 1 and 99.", BoxStyle::Exclamation,
-                              "Error - Number out of Range!");
+        window_.MsgBox("Please enter a number between 1 and 99.", BoxStyle::Exclamation,
+                       "Error - Number out of Range!");
         box.SetText("");
         box.SetFocus();
     } else if (Index == Play4Boxes - 1) {

@@ -3,9 +3,10 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "entry/ui/GameWindow.h"
+#include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "store/StoreRoutine.h"
 
 namespace sorvane {
 
@@ -45,12 +46,12 @@ void CountDialog::LayOut() {
 }
 
 void CountDialog::KeyPressed(forms::KeyPress& key) {
-    if (key.KeyAscii == EnterKey) cmdOk.SetFocus();
-    else if (!IsDigit(key.KeyAscii) && key.KeyAscii != Backspace) RefuseKey(field_, key);
+    if (key.KeyAscii == forms::EnterKey) cmdOk.SetFocus();
+    else if (!forms::IsDigitOrBackspace(key.KeyAscii)) forms::RefuseKey(run_.services.dialogs, field_, key);
 }
 
 void CountDialog::Refuse(std::string_view title) {
-    MsgBox(run_.global.Msg, BoxStyle::Ok, title);
+    run_.services.dialogs.MsgBox(run_.global.Msg, BoxStyle::Ok, title);
     field_.SetFocus();
 }
 

@@ -8,6 +8,7 @@
 
 #include "entry/EntryFacts.h"
 #include "entry/ui/GameWindow.h"
+#include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
 
@@ -217,10 +218,10 @@ void EnterTicketsTab::EmptyFields() {
 }
 
 void EnterTicketsTab::txtDollars_KeyPress(forms::KeyPress& key) {
-    if (IsDigit(key.KeyAscii) || key.KeyAscii == Backspace || key.KeyAscii == EnterKey || key.KeyAscii == '.')
+    if (forms::IsDigitOrBackspace(key.KeyAscii) || key.KeyAscii == forms::EnterKey || key.KeyAscii == '.')
         return;
-    forms::Window::MsgBox("Please enter a valid dollar amount. (Even if it is 0.00)", BoxStyle::Exclamation,
-                          KeyErrorTitle);
+    window_.MsgBox("Please enter a valid dollar amount. (Even if it is 0.00)", BoxStyle::Exclamation,
+                   forms::KeyErrorTitle);
     txtDollars.SetText(NoDollars);
     window_.State.DecimalCount = 1;
     txtDollars.SetCaret(0);
@@ -253,7 +254,7 @@ void EnterTicketsTab::txtDollars_LostFocus() {
         Global& g = window_.run.global;
         g.Msg = "Only one decimal point may be used in this field." + g.NL +
                 "Please enter a valid Dollar amount.";
-        forms::Window::MsgBox(g.Msg, BoxStyle::Ok, "ERROR");
+        window_.MsgBox(g.Msg, BoxStyle::Ok, "ERROR");
         txtDollars.SetText(NoDollars);
         txtDollars.SetFocus();
     }

@@ -4,21 +4,18 @@
 
 #include "entry/CreateAllTables.h"
 #include "entry/EntryFacts.h"
+#include "forms/Keys.h"
 #include "shell/Catalogue.h"
-#include "shell/ui/Windows.h"
 #include "store/CreateTables.h"
 
 namespace sorvane {
 
 GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
-    : Window(NameOf(family)),
-      Which(family),
-      run(run_),
-      windows(windows_),
+    : GameFrame(family, run_, windows_),
       Enter(*this),
       Check(*this),
       Reports(*this),
-      QuickPick(*this),
+      QuickPick(*this, Reports.Frequencies),
       Sheets(*this) {
     constexpr std::string_view captions[] = {"&Enter Tickets", "&Check Tickets", Tab::ReportsCaption,
                                              Tab::QuickPickCaption};
@@ -31,13 +28,13 @@ GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
     AttachSharedHandlers();
 }
 
-// Elements of the shared arrays stand in frames of the tabs, which are destroyed before the arrays.
 GameWindow::~GameWindow() {
     Unload();  // no events any more
-    const auto take = [](auto& element, int) { element.setParent(nullptr); };
-    txtNoOfTickets.ForEach(take);
-    dtpEnterTickets.ForEach(take);
-    cmdExit.ForEach(take);
+    TakeArraysOut();
+}
+
+std::unique_ptr<GameFrame> GameWindow::Make(Family family, Run& run, Windows& windows) {
+    return std::make_unique<GameWindow>(family, run, windows);
 }
 
 void GameWindow::AttachSharedHandlers() {
@@ -92,8 +89,6 @@ void GameWindow::cmdExit_Click() {
     Sheets.OfferCleanUp("Exiting before completion...");
     Leave();
 }
-
-void GameWindow::Leave() { windows.Unload(*this); }
 
 void GameWindow::ForgetSaves() {
     run.global.TicketsSaved = Off;
@@ -156,22 +151,14 @@ void GameWindow::dtpEnterTickets_Change(int Index) {
 }
 
 void GameWindow::txtNoOfTickets_KeyPress(int Index, forms::KeyPress& key) {
-    if (!IsDigit(key.KeyAscii) && key.KeyAscii != Backspace && key.KeyAscii != EnterKey) {
-        RefuseKey(txtNoOfTickets(Index), key);
+    if (!forms::IsDigitOrBackspace(key.KeyAscii) && key.KeyAscii != forms::EnterKey) {
+        forms::RefuseKey(run.services.dialogs, txtNoOfTickets(Index), key);
         return;
     }
-    if (key.KeyAscii != EnterKey || Index > 1) return;
+    if (key.KeyAscii != forms::EnterKey || Index > 1) return;
     const Go go = (Index == 0 ? EnterInCount0 : EnterInCount1)[Which];
     if (go == Go::Extra) Enter.AddOns.FocusCount();
     else if (go == Go::Make) QuickPick.cmdGenerate.SetFocus();
-}
-
-void RefuseKey(forms::TextBox& field, forms::KeyPress& key) {
-    forms::Window::MsgBox(NotANumber, BoxStyle::Exclamation, KeyErrorTitle);
-    field.SetText("");
-    field.SetCaret(0);
-    key.Swallow();
-    field.SetFocus();
 }
 
 }  // namespace sorvane

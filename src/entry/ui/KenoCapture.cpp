@@ -91,7 +91,7 @@ void KenoCapture::cboNoOfBallsPerTicket_LostFocus() {
 void KenoCapture::cboWager_LostFocus() {
     if (cboWager.Text().empty()) {
         g_.Msg = "Please select a valid Wager from the options provided and try again.";
-        forms::Window::MsgBox(g_.Msg, BoxStyle::Ok, "Please Select Wager...");
+        window_.MsgBox(g_.Msg, BoxStyle::Ok, "Please Select Wager...");
         cboWager.SetFocus();
         return;
     }

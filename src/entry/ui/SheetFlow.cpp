@@ -11,6 +11,7 @@
 #include "store/CheckTB_DBExists.h"
 #include "store/CreateTables.h"
 #include "store/DeleteData.h"
+#include "store/StoreLedger.h"
 
 namespace sorvane {
 
@@ -63,7 +64,7 @@ void SheetFlow::TakeCount(int Index, const std::string& text) {
 void SheetFlow::AskForCount(forms::TextBox& count) {
     Global& g = window_.run.global;
     g.Msg = "# of Tickets required. Please enter a number.";
-    forms::Window::MsgBox(g.Msg, BoxStyle::Ok, "# of Tickets required");
+    window_.MsgBox(g.Msg, BoxStyle::Ok, "# of Tickets required");
     count.SetText("0");
     count.SelectAll();
     count.SetFocus();
@@ -113,8 +114,7 @@ void SheetFlow::cmdSave_Click() {
     w.State.WindowDate = w.dtpEnterTickets(0).Value();
     if (ProbesAtSave[w.Which]) MakePlayedTable();
     if (StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
-    if (forms::Window::MsgBox("Save this sheet of tickets?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes)
-        NotSaved();
+    if (window_.MsgBox("Save this sheet of tickets?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes) NotSaved();
     else if (w.Enter.Capture().SheetIsFull()) SaveSheet();
     w.State.SavingSheet = false;
     if (TablesAfterSave[w.Which]) CreateAllTables(w.run, w.Which, w.State);
@@ -130,7 +130,7 @@ void SheetFlow::MakePlayedTable() {
 }
 
 void SheetFlow::NotSaved() {
-    forms::Window::MsgBox("Tickets NOT Saved", BoxStyle::Ok, Confirmed);
+    window_.MsgBox("Tickets NOT Saved", BoxStyle::Ok, Confirmed);
     if (!NotSavedReloads[window_.Which]) return;
     window_.Form_Load();
     window_.txtNoOfTickets(0).SetFocus();
@@ -153,7 +153,7 @@ void SheetFlow::SaveSheet() {
 void SheetFlow::BeginNextSheet() {
     GameWindow& w = window_;
     Global& g = w.run.global;
-    forms::Window::MsgBox("Tickets Saved - Enter Next Sheet", BoxStyle::Ok, Confirmed);
+    window_.MsgBox("Tickets Saved - Enter Next Sheet", BoxStyle::Ok, Confirmed);
     if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
     g.NoOfTickets -= g.NoOfTicketsOnSheet;
     // The last sheet takes all that is left.
@@ -185,7 +185,7 @@ void SheetFlow::FinishEntry() {
     GameWindow& w = window_;
     Global& g = w.run.global;
     if (!SpentAfterBox[w.Which]) RecordSpending();
-    forms::Window::MsgBox("Tickets Saved", BoxStyle::Ok, Confirmed);
+    window_.MsgBox("Tickets Saved", BoxStyle::Ok, Confirmed);
     if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
     if (SpentAfterBox[w.Which]) RecordSpending();
     for (forms::CommandButton* button : {&w.Enter.cmdSave, &w.Enter.cmdCorrection, &w.Enter.cmdCancel})
@@ -211,7 +211,7 @@ void SheetFlow::OfferCleanUp(std::string_view title) {
             "Would you like to clean up your database?" + g.NL +
             "(NOTE: This will delete ALL records with the same Draw Date as indicated" + g.NL +
             "in the Draw Date box above.)";
-    if (forms::Window::MsgBox(g.Msg, BoxStyle::YesNoCancel, title) != Answer::Yes) return;
+    if (window_.MsgBox(g.Msg, BoxStyle::YesNoCancel, title) != Answer::Yes) return;
     window_.NameTables();
     DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
     const AddOn* addOn = FindAddOn(g.ExtraFlag);
@@ -219,7 +219,7 @@ void SheetFlow::OfferCleanUp(std::string_view title) {
         state.TableName = addOn->Played;
         DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
     }
-    forms::Window::MsgBox("Database cleaned!", BoxStyle::Ok, "Database Cleaned");
+    window_.MsgBox("Database cleaned!", BoxStyle::Ok, "Database Cleaned");
 }
 
 }  // namespace sorvane

@@ -5,14 +5,13 @@
 #include <chrono>
 #include <vector>
 
-#include "entry/ui/GameWindow.h"
 #include "forms/BusyPointer.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
 #include "quickpick/GenerateQuickPicks.h"
 #include "quickpick/QuickPickFacts.h"
 #include "quickpick/QuickPickPages.h"
-#include "reports/ui/Charts.h"
+#include "shell/ui/GameFrame.h"
 
 namespace sorvane {
 
@@ -38,7 +37,8 @@ QLayout* Above(forms::Label& label, forms::Control& field) {
 
 }  // namespace
 
-QuickPickTab::QuickPickTab(GameWindow& window) : window_(window) {
+QuickPickTab::QuickPickTab(GameFrame& window, ChartFace& frequencies)
+    : window_(window), frequencies_(frequencies) {
     window.dtpEnterTickets.Load(1).SetAccessibleName("Draw Date");
     window.txtNoOfTickets.Load(1).SetText("0");
     window.cmdExit.Load(1, "E&xit");
@@ -47,7 +47,7 @@ QuickPickTab::QuickPickTab(GameWindow& window) : window_(window) {
         cboNoOfQPs.emplace("cboNoOfQPs");
     }
     if (window.Which == Family::frmKeno70) cboNoOfQPs->OnLostFocus([this] { cboNoOfQPs_LostFocus(); });
-    if (WheelFrame[window.Which]) Wheel.emplace(window);
+    if (WheelFrame[window.Which]) Wheel.emplace(window, cmdGenerate);
     lstDisplay.SetFixedPitch();
     lstDisplay.SetHint("The numbers of each ticket, once they are generated");
     cmdGenerate.OnClick([this] { cmdGenerate_Click(); });
@@ -131,11 +131,10 @@ void QuickPickTab::cmdGenerate_Click() {
         GenerateQuickPicks(run, state.NumbersPerTicket, run.global.NoOfTickets, state.QuickPicks, lstDisplay);
         return;
     }
-    ChartCells chart(window_.Reports.mscNumberFrequency);
     GenerateByWheelType(run,
                         {Wheel->Chosen(), state.HowManyToWheel, state.NumbersPerTicket, state.DbName,
                          state.TableName, state.mode, state.QuickPicks},
-                        {*Wheel, lstDisplay, chart});
+                        {*Wheel, lstDisplay, frequencies_});
 }
 
 void QuickPickTab::cmdPrint_Click() {

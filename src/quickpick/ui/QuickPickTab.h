@@ -13,11 +13,12 @@ class QLayout;
 
 namespace sorvane {
 
-class GameWindow;
+class GameFrame;
 
 class QuickPickTab {
   public:
-    explicit QuickPickTab(GameWindow& window);
+    // `frequencies`: the chart of number frequency, which a wheel of hot or cold numbers fills.
+    QuickPickTab(GameFrame& window, ChartFace& frequencies);
 
     forms::Label lblDrawDate{"lblDrawDate", "Draw Date:"};
     forms::Label lblNoOfTickets{"lblNoOfTickets", "Number of Tickets:"};
@@ -43,7 +44,8 @@ class QuickPickTab {
     void cmdPrint_Click();
     void cboNoOfQPs_LostFocus();
 
-    GameWindow& window_;
+    GameFrame& window_;
+    ChartFace& frequencies_;
 };
 
 }  // namespace sorvane

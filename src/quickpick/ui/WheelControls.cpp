@@ -5,10 +5,11 @@
 #include <QVBoxLayout>
 #include <vector>
 
-#include "entry/ui/GameWindow.h"
+#include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
 #include "quickpick/QuickPickFacts.h"
+#include "shell/ui/GameFrame.h"
 
 namespace sorvane {
 
@@ -30,11 +31,12 @@ int NumberIn(const forms::TextBox& box) {
     return text.empty() ? 0 : int{CInt(text)};
 }
 
-bool IsNumberKey(int key) { return IsDigit(key) || key == Backspace || key == EnterKey; }
+bool IsNumberKey(int key) { return forms::IsDigitOrBackspace(key) || key == forms::EnterKey; }
 
 }  // namespace
 
-WheelControls::WheelControls(GameWindow& window) : window_(window) {
+WheelControls::WheelControls(GameFrame& window, forms::Control& generate)
+    : window_(window), generate_(generate) {
     MakeControls();
     AttachHandlers();
     LayOut();
@@ -132,10 +134,10 @@ void WheelControls::optWheelType_Click(int Index) {
 
 void WheelControls::txtHowMany_KeyPress(forms::KeyPress& key) {
     if (!IsNumberKey(key.KeyAscii)) {
-        RefuseKey(txtHowMany, key);
+        forms::RefuseKey(window_.run.services.dialogs, txtHowMany, key);
         txtHowMany.SetText("0");
         txtHowMany.SetCaret(0);
-    } else if (key.KeyAscii == EnterKey) {
+    } else if (key.KeyAscii == forms::EnterKey) {
         txtFavs(0).SetFocus();
     }
 }
@@ -162,12 +164,12 @@ void WheelControls::TakeHowMany() {
     HowManyKept() = howMany;
     if (!WheelLive[window_.Which] || optWheelType(static_cast<int>(WheelType::Favourites)).Value())
         OpenFavourites(howMany);
-    else window_.QuickPick.cmdGenerate.SetFocus();
+    else generate_.SetFocus();
 }
 
 void WheelControls::RefuseHowMany(std::string_view text, std::string_view title, bool toZero) {
     if (toZero) txtHowMany.SetText("0");
-    forms::Window::MsgBox(text, BoxStyle::Ok, title);
+    window_.MsgBox(text, BoxStyle::Ok, title);
     txtHowMany.SelectAll();
     txtHowMany.SetFocus();
 }
@@ -185,7 +187,7 @@ void WheelControls::CompareWithWheelSize() {
     g.Msg =
         "Number of Tickets selected exceeds the number of possible combinations. Please either increase the" +
         g.NL + "number of numbers you wish to Wheel, or decrease the number of Tickets.";
-    forms::Window::MsgBox(g.Msg, BoxStyle::Ok, "Not Enough Combinations Available!");
+    window_.MsgBox(g.Msg, BoxStyle::Ok, "Not Enough Combinations Available!");
     count.SelectAll();
     count.SetFocus();
 }
@@ -193,15 +195,15 @@ void WheelControls::CompareWithWheelSize() {
 void WheelControls::txtFavs_KeyPress(int Index, forms::KeyPress& key) {
     forms::TextBox& box = txtFavs(Index);
     if (!IsNumberKey(key.KeyAscii)) {
-        RefuseKey(box, key);
+        forms::RefuseKey(window_.run.services.dialogs, box, key);
         box.SetText("0");
         box.SelectAll();
     }
-    if (key.KeyAscii != EnterKey) return;
+    if (key.KeyAscii != forms::EnterKey) return;
     // The tickets decide, also in frm645, where the numbers to wheel are kept elsewhere: meant.
     const int last = window_.run.global.NoOfTickets - 1;
     if (Index < last && txtFavs.IsLoaded(Index + 1)) txtFavs(Index + 1).SetFocus();
-    else if (Index == last) window_.QuickPick.cmdGenerate.SetFocus();
+    else if (Index == last) generate_.SetFocus();
 }
 
 void WheelControls::txtFavs_LostFocus(int Index) {
@@ -209,22 +211,22 @@ void WheelControls::txtFavs_LostFocus(int Index) {
     forms::TextBox& box = txtFavs(Index);
     const int number = NumberIn(box), limit = FavsLimit[family];
     if (number > limit) {
-        forms::Window::MsgBox("Number cannot be greater than " + Str(limit) +
-                                  ". Please enter a new number less than or equal to " + Str(limit) + ".",
-                              BoxStyle::Ok, "Number Too High!");
+        window_.MsgBox("Number cannot be greater than " + Str(limit) +
+                           ". Please enter a new number less than or equal to " + Str(limit) + ".",
+                       BoxStyle::Ok, "Number Too High!");
         box.SelectAll();
         box.SetFocus();
         return;
     }
     if (box.Text().empty() && EmptyFavAsks[family]) {
-        forms::Window::MsgBox("Please enter a number.", BoxStyle::Ok, "Please Enter a Number");
+        window_.MsgBox("Please enter a number.", BoxStyle::Ok, "Please Enter a Number");
         box.SetText("0");
         box.SelectAll();
         box.SetFocus();
         return;
     }
     window_.run.global.Favourites(Index) = number;
-    if (Index == HowManyKept()) window_.QuickPick.cmdGenerate.SetFocus();
+    if (Index == HowManyKept()) generate_.SetFocus();
 }
 
 }  // namespace sorvane

@@ -13,11 +13,12 @@
 
 namespace sorvane {
 
-class GameWindow;
+class GameFrame;
 
 class WheelControls final : public WheelFace {
   public:
-    explicit WheelControls(GameWindow& window);
+    // `generate`: where the focus goes when the numbers are chosen.
+    WheelControls(GameFrame& window, forms::Control& generate);
 
     // The frame before its contents.
     forms::LabelFrame fraWheel{"fraWheel", "Wheeling"};
@@ -56,7 +57,8 @@ class WheelControls final : public WheelFace {
     // Where the accepted value of txtHowMany is kept.
     Integer& HowManyKept();
 
-    GameWindow& window_;
+    GameFrame& window_;
+    forms::Control& generate_;
 };
 
 }  // namespace sorvane

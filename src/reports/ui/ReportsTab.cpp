@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "entry/ui/GameWindow.h"
 #include "forms/BusyPointer.h"
 #include "platform/Text.h"
 #include "reports/DigitReports.h"
@@ -12,9 +11,9 @@
 #include "reports/MoneyReport.h"
 #include "reports/PrintReport.h"
 #include "reports/ReportFacts.h"
-#include "reports/ui/Charts.h"
 #include "reports/ui/ReportLayout.h"
 #include "reports/ui/frmReportType.h"
+#include "shell/ui/GameFrame.h"
 #include "shell/ui/Windows.h"
 
 namespace sorvane {
@@ -24,7 +23,7 @@ namespace {
 constexpr std::size_t CharactersAMillisecond = 500;
 }  // namespace
 
-ReportsTab::ReportsTab(GameWindow& window)
+ReportsTab::ReportsTab(GameFrame& window)
     : cmdReport(ReportButton[window.Which], "Number &Frequency"), window_(window) {
     window.cmdExit.Load(3, "E&xit");
     cmdPrintReport.SetEnabled(false);
@@ -84,9 +83,8 @@ ReportArgs ReportsTab::Args() {
 void ReportsTab::cmdNumberFrequency_Click() {
     cmdPrintReport.SetEnabled(false);
     Show(mscNumberFrequency);
-    ChartCells cells(mscNumberFrequency);
-    if (IsPick(window_.Which)) ChartDigits(window_.run, Args(), cells);
-    else ChartFrequency(window_.run, Args(), cells);
+    if (IsPick(window_.Which)) ChartDigits(window_.run, Args(), Frequencies);
+    else ChartFrequency(window_.run, Args(), Frequencies);
 }
 
 void ReportsTab::cmdReport_Click() {
@@ -94,15 +92,14 @@ void ReportsTab::cmdReport_Click() {
     if (!Tally[window_.Which]) return;  // keno 80 has no report
     Show(txtReport);
     Run& run = window_.run;
-    ChartCells cells(mscNumberFrequency);
     const std::string caption = window_.Caption();
     const auto askType = [&] {
         frmReportType dialog(run);
         window_.windows.ShowModal(dialog);
     };
     txtReport.Write([&](std::string& text) {
-        if (IsPick(window_.Which)) ReportDigits(run, Args(), cells, askType, caption, text);
-        else ReportFrequency(run, Args(), cells, caption, text);
+        if (IsPick(window_.Which)) ReportDigits(run, Args(), Frequencies, askType, caption, text);
+        else ReportFrequency(run, Args(), Frequencies, caption, text);
     });
 }
 

@@ -5,15 +5,16 @@
 #include "forms/Chart.h"
 #include "forms/CommandButton.h"
 #include "reports/ReportStart.h"
+#include "reports/ui/Charts.h"
 #include "reports/ui/ReportBox.h"
 
 namespace sorvane {
 
-class GameWindow;
+class GameFrame;
 
 class ReportsTab {
   public:
-    explicit ReportsTab(GameWindow& window);
+    explicit ReportsTab(GameFrame& window);
 
     forms::CommandButton cmdNumberFrequency{"cmdNumberFrequency", "&Number Frequency"};
     forms::CommandButton cmdProfitLoss{"cmdProfitLoss", "&Profit/Loss"};
@@ -23,6 +24,7 @@ class ReportsTab {
     forms::Chart mscNumberFrequency{"mscNumberFrequency"};
     forms::Chart mscProfitLoss{"mscProfitLoss"};
     ReportBox txtReport{"txtReport"};
+    ChartCells Frequencies{mscNumberFrequency};
 
     // Both charts emptied, at load and at cancel. Which of the three is seen stays as it is.
     void ClearCharts();
@@ -39,7 +41,7 @@ class ReportsTab {
     void cmdPLReport_Click();
     void cmdPrintReport_Click();
 
-    GameWindow& window_;
+    GameFrame& window_;
 };
 
 }  // namespace sorvane

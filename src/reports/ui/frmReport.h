@@ -1,6 +1,7 @@
 // Money spent and won over all lotteries.
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "forms/Chart.h"
@@ -16,6 +17,7 @@ namespace sorvane {
 class frmReport final : public forms::Window {
   public:
     explicit frmReport(Run& run);
+    static std::unique_ptr<forms::Window> Make(Run& run) { return std::make_unique<frmReport>(run); }
 
   private:
     void Form_Load();

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "entry/ui/GameWindow.h"
+#include "shell/ui/GameFrame.h"
 
 namespace sorvane {
 
-Windows::Windows(Run& run) : run_(run) {}
+Windows::Windows(Run& run, const WindowMakers& makers) : run_(run), makers_(makers) {}
 Windows::~Windows() = default;
 
-GameWindow& Windows::Load(Family family) {
+GameFrame& Windows::Load(Family family) {
     auto& window = loaded_[static_cast<std::size_t>(family)];
     if (!window) {
-        window = std::make_unique<GameWindow>(family, run_, *this);
+        window = makers_.game(family, run_, *this);
         window->Form_Load();
     }
     return *window;
@@ -20,13 +20,15 @@ GameWindow& Windows::Load(Family family) {
 
 bool Windows::IsLoaded(Family family) const { return loaded_[static_cast<std::size_t>(family)] != nullptr; }
 
+std::unique_ptr<forms::Window> Windows::MakeReport() const { return makers_.report(run_); }
+
 void Windows::ShowModal(forms::Window& window) {
     ++shown_;
     window.ShowModal();
     if (--shown_ == 0) leaving_.clear();
 }
 
-void Windows::Unload(GameWindow& window) {
+void Windows::Unload(GameFrame& window) {
     const auto at = std::find_if(loaded_.begin(), loaded_.end(),
                                  [&](const auto& loaded) { return loaded.get() == &window; });
     if (at == loaded_.end()) return;

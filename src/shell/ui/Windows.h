@@ -13,29 +13,39 @@ namespace sorvane {
 namespace forms {
 class Window;
 }
-class GameWindow;
+class GameFrame;
+class Windows;
+
+// How the windows are made that stand above this room. Whoever starts the program knows them.
+struct WindowMakers {
+    std::unique_ptr<GameFrame> (*game)(Family family, Run& run, Windows& windows);
+    std::unique_ptr<forms::Window> (*report)(Run& run);  // of all lotteries
+};
 
 class Windows {
   public:
-    explicit Windows(Run& run);
+    Windows(Run& run, const WindowMakers& makers);
     ~Windows();
 
     // The family's window; made and loaded when it isn't there. It stands in the registry before its
     // Form_Load runs, so a failure in Form_Load leaves it loaded and hidden, and ends the caller.
-    GameWindow& Load(Family family);
+    GameFrame& Load(Family family);
     bool IsLoaded(Family family) const;
+    // A window with the report of all lotteries, which its caller shows and owns.
+    std::unique_ptr<forms::Window> MakeReport() const;
     // Shows the window and returns when it has been left; then destroys the windows that were unloaded
     // meanwhile.
     void ShowModal(forms::Window& window);
     // Takes the window out of the registry, hides it and ends its loop at once; its handlers go on. It is
     // destroyed when the call that showed it has returned. A hidden window is destroyed with the next one
     // that is left.
-    void Unload(GameWindow& window);
+    void Unload(GameFrame& window);
 
   private:
     Run& run_;
-    std::array<std::unique_ptr<GameWindow>, 7> loaded_;
-    std::vector<std::unique_ptr<GameWindow>> leaving_;
+    const WindowMakers makers_;
+    std::array<std::unique_ptr<GameFrame>, 7> loaded_;
+    std::vector<std::unique_ptr<GameFrame>> leaving_;
     int shown_ = 0;
 };
 

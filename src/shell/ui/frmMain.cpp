@@ -6,14 +6,13 @@
 #include <utility>
 #include <vector>
 
-#include "entry/ui/GameWindow.h"
 #include "forms/BusyPointer.h"
 #include "forms/Look.h"
 #include "forms/Runtime.h"
-#include "reports/ui/frmReport.h"
 #include "shell/Dressing.h"
 #include "shell/SelectGame.h"
 #include "shell/ui/Dress.h"
+#include "shell/ui/GameFrame.h"
 #include "shell/ui/Windows.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmComingSoon.h"
@@ -91,7 +90,7 @@ std::function<void()> frmMain::HandlerOf(const MenuEntry& entry) {
         case MenuAction::Report:
             return shows([this] {
                 run_.global.LottoFlag.clear();  // all lotteries
-                return std::make_unique<frmReport>(run_);
+                return windows_.MakeReport();
             });
         case MenuAction::Menu:
         case MenuAction::Dead:
@@ -124,7 +123,7 @@ void frmMain::Form_Load() {
 void frmMain::Open(const Game& game) {
     Select(run_.global, game);
     windows_.Load(game.titleGoesTo.value_or(game.opens)).SetCaption(game.title);
-    GameWindow& window = windows_.Load(game.opens);
+    GameFrame& window = windows_.Load(game.opens);
     Dress(window, DressingOf(game));
     windows_.ShowModal(window);
 }

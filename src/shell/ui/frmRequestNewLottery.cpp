@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <initializer_list>
 
+#include "forms/Keys.h"
 #include "forms/Look.h"
 #include "forms/ScrollPage.h"
 #include "platform/RunTimeError.h"
@@ -13,13 +14,8 @@ namespace sorvane {
 
 namespace {
 
-constexpr int Backspace = 8;
-constexpr int Point = '.';
-
-bool IsDigit(int key) { return key >= '0' && key <= '9'; }
-bool IsCountKey(int key) { return IsDigit(key) || key == Backspace; }
-bool IsAmountKey(int key) { return IsCountKey(key) || key == Point; }
-bool IsNameKey(int key) { return !IsDigit(key); }
+bool IsAmountKey(int key) { return forms::IsDigitOrBackspace(key) || key == '.'; }
+bool IsNameKey(int key) { return !forms::IsDigit(key); }
 
 RequestForm::Answered Answered(const forms::OptionButton& yes, const forms::OptionButton& no) {
     if (yes.Value()) return RequestForm::Answered::Yes;
@@ -47,7 +43,7 @@ frmRequestNewLottery::frmRequestNewLottery(Run& run) : Window("frmRequestNewLott
 
 void frmRequestNewLottery::AttachHandlers() {
     for (forms::TextBox* count : {&txtNumberOfNumbers, &txtLow, &txtHigh, &txtNumberOfBonusTickets})
-        FilterKeys(*count, IsCountKey, "Please enter a valid number greater than or equal to 1.");
+        FilterKeys(*count, forms::IsDigitOrBackspace, forms::NotANumber);
     FilterKeys(txtCostPerTicket, IsAmountKey, "Please enter a valid number greater than or equal to 0.");
     for (forms::TextBox* name : {&txtCountry, &txtProvinceState})
         FilterKeys(*name, IsNameKey, "This Field accepts alphabetical input only. Please try again.");
@@ -60,9 +56,9 @@ void frmRequestNewLottery::AttachHandlers() {
 
 void frmRequestNewLottery::FilterKeys(forms::TextBox& field, bool (*accepts)(int key),
                                       std::string_view refusal) {
-    field.OnKeyPress([&field, accepts, refusal](forms::KeyPress& key) {
+    field.OnKeyPress([this, &field, accepts, refusal](forms::KeyPress& key) {
         if (accepts(key.KeyAscii)) return;
-        MsgBox(refusal, BoxStyle::Exclamation, "Error!");
+        run_.services.dialogs.MsgBox(refusal, BoxStyle::Exclamation, forms::KeyErrorTitle);
         key.Swallow();
         field.SetCaret(static_cast<int>(field.text().size()));
         field.SetFocus();
