@@ -84,7 +84,6 @@ inline constexpr PerFamily<std::string_view> AddOnTestedFor {{ "",         "",  
 inline constexpr PerFamily<std::string_view> TooShortTitle  {{ "ERROR",    "ERROR",    "Encore Too Short", "ERROR", "",    "Encore Too Short", "" }};
 inline constexpr PerFamily<bool>             TooShortEndsAtOnce{{ no,      no,         yes,        no,         no,         yes,        no         }};  // leaves the counters as they are
 inline constexpr PerFamily<Clearing>         ListsCleared   {{ Clearing::AfterAddOn, Clearing::AfterAddOn, Clearing::AfterBoxes, Clearing::AfterAddOn, Clearing::AfterDate, Clearing::AfterDate, Clearing::AfterDate }};
-inline constexpr PerFamily<bool>             StatKeepsLists {{ yes,        yes,        no,         yes,        no,         no,         no         }};
 inline constexpr PerFamily<bool>             ClearsEncoreListAtTest{{ no,  no,         no,         no,         no,         yes,        yes        }};  // where the add-on is tested, and only then
 inline constexpr PerFamily<bool>             KnowsStatUpdate{{ yes,        yes,        yes,        yes,        no,         yes,        yes        }};  // keno 80 judges all the same
 inline constexpr PerFamily<bool>             ProbesWin      {{ no,         no,         no,         no,         yes,        no,         no         }};
@@ -124,12 +123,11 @@ inline constexpr std::string_view EncoreExitText =
     "Encore Number is too short. Please check the number and try again.";
 inline constexpr std::string_view EncoreExitTitle = "ERROR!";
 
-// The box of an add-on number with fewer than AddOnDigits characters. The Plus has no name there: its text
-// begins with a blank. Meant.
+// The box of an add-on number with fewer characters than the add-on has digits. The Plus has no name there:
+// its text begins with a blank. Meant.
 inline std::string TooShortText(Family family, std::string_view ExtraFlag) {
     if (AddOnTested[family] != AddOnTest::AfterBoxes) return std::string(EncoreTooShort);
-    const AddOn* addOn = FindAddOn(ExtraFlag);
-    return std::string(addOn ? addOn->Name : "")
+    return std::string(AddOnOf(ExtraFlag).Name)
         .append(" number is too short. Please check the number and try again.");
 }
 

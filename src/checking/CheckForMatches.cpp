@@ -117,7 +117,7 @@ void CheckKeno(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) 
     g.Wager = ticket.Wager;
     g.NoOfBallsPerTicket = ticket.NoOfBalls;
     g.MatchCount = 0;
-    const bool paysPrizes = g.LottoFlag == "ONTKeno";
+    const bool paysPrizes = CellsOf(g.LottoFlag).PaysPrizes;
     if (!IsKenoKey(g.LottoFlag)) return;
     // The games without prizes are counted over all columns, not over the ticket's number of balls.
     const int columns = paysPrizes ? int{g.NoOfBallsPerTicket} : TwentyNumbers;
@@ -247,9 +247,8 @@ bool Meets(const DigitPair& pair, const DigitTier& tier) {
 }
 
 bool IsSentinel(const DigitPair& pair) {
-    std::string sentinel;
-    for (int i = 0; i < pair.digits; ++i) sentinel += std::to_string(NotPlayed);
-    return pair.played == sentinel;
+    return pair.played == JoinNumbers(
+                              pair.digits, [](int) { return NotPlayed; }, "");
 }
 
 std::string DigitLine(Global& g, const DigitLadder& ladder, const DigitPair& pair) {
@@ -272,8 +271,8 @@ void CheckDigits(Run& run, const DigitLadder& ladder, const Slots<Integer, N>& r
                  Lines& lstMessage) {
     Global& g = run.global;
     g.MatchCount = 0;
-    const DigitPair pair{RowText(row, ladder.digits, ""), boxes.Encore, ladder.digits, row(0),
-                         row(ladder.digits - 1)};
+    const int digits = AddOnDigits(ladder.ExtraFlag);
+    const DigitPair pair{RowText(row, digits, ""), boxes.Encore, digits, row(0), row(digits - 1)};
     AddLine(run, lstMessage, DigitLine(g, ladder, pair));
     g.MatchCount = 0;
 }
@@ -330,8 +329,8 @@ void CheckEarlyBird(Run& run, const WinningBoxes& boxes, const Lotto6Row& ticket
 
 void CheckExtraEarlyBird(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
     const Global& g = run.global;
-    if (g.LottoFlag == "Lottario") CheckEarlyBird(run, boxes, g.Lotto6Played(Row), lstMessage);
-    else if (g.ExtraFlag == "Extra") CheckExtra(run, boxes, g.Pick4Played(Row), lstMessage);
+    if (CellsOf(g.LottoFlag).HasEarlyBird) CheckEarlyBird(run, boxes, g.Lotto6Played(Row), lstMessage);
+    else if (AddOnOf(g.ExtraFlag).FourNumbers) CheckExtra(run, boxes, g.Pick4Played(Row), lstMessage);
 }
 
 void FindDrawEntry(Run& run, const StoreArgs& at) {

@@ -61,8 +61,8 @@ struct DigitTier {
 
 // A ladder of a digit add-on. `prefix` begins every line of it.
 struct DigitLadder {
+    std::string_view ExtraFlag;
     std::string_view prefix;
-    int digits;
     std::span<const DigitTier> tiers;
 };
 
@@ -117,11 +117,11 @@ inline constexpr auto ThePlusTiers = std::to_array<DigitTier>({
     {1, Match::FirstOrLast, 1, " won a Free Play!!"},
 });
 
-inline constexpr DigitLadder Encore{"Encore", 6, EncoreTiers};
-inline constexpr DigitLadder WESTExtra{"Extra", 7, WESTExtraTiers};
-inline constexpr DigitLadder QCExtra{"Extra", 6, QCExtraTiers};
-inline constexpr DigitLadder Tag{"Tag", 6, TagTiers};
-inline constexpr DigitLadder ThePlus{"The Plus", 6, ThePlusTiers};
+inline constexpr DigitLadder Encore{"Encore", "Encore", EncoreTiers};
+inline constexpr DigitLadder WESTExtra{"WESTExtra", "Extra", WESTExtraTiers};
+inline constexpr DigitLadder QCExtra{"QCExtra", "Extra", QCExtraTiers};
+inline constexpr DigitLadder Tag{"Tag", "Tag", TagTiers};
+inline constexpr DigitLadder ThePlus{"ThePlus", "The Plus", ThePlusTiers};
 
 // What the four numbers of the Extra win, by the count of matches. The losing line stands apart: it begins
 // otherwise.

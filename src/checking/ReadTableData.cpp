@@ -6,7 +6,8 @@
 #include <vector>
 
 #include "checking/RowText.h"
-#include "checking/WinningBoxes.h"
+#include "platform/Text.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -150,7 +151,7 @@ void ReadDigits(Run& run, const StoreArgs& at, Lines& list, Array<Row>& rows, in
 
 void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
     Global& g = run.global;
-    const bool hasEarlyBird = g.LottoFlag == "Lottario";
+    const bool hasEarlyBird = CellsOf(g.LottoFlag).HasEarlyBird;
     ReadPlayed(
         run, at, LottoTable, lstNumbersPlayed, g.Lotto6Played,
         [&](Dao::Recordset& Rs, Lotto6Row& row) {

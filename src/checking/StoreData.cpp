@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/Text.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -130,8 +131,8 @@ void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
         Dao::Recordset Rs = Db.OpenTable(at.TableName);
         const int count = Rs.RecordCount();
         bool found = FindDate(Rs, count, at.WindowDate);
-        const bool earlyBird = g.LottoFlag == "Lottario";
-        if (found && !earlyBird && g.ExtraFlag == "Extra") found = WalkToGame(Rs, g.LottoFlag);
+        const bool earlyBird = CellsOf(g.LottoFlag).HasEarlyBird;
+        if (found && !earlyBird && AddOnOf(g.ExtraFlag).FourNumbers) found = WalkToGame(Rs, g.LottoFlag);
         if (found) {
             Rs.Edit();
         } else {

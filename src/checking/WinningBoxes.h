@@ -3,21 +3,16 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/Date.h"
 
 namespace sorvane {
 
-// Digits of the number of a digit add-on, as they are asked for, kept and read back.
-constexpr int AddOnDigits(std::string_view ExtraFlag) { return ExtraFlag == "WESTExtra" ? 7 : 6; }
-
 // The texts as they stand, blanks and leading zeros included.
 struct WinningBoxes {
-    // txtWin6, txtWin7, txtWin20, cboWin3 or cboWin4: as many as
-    // CheckFacts::BoxCount tells; in
-    // the lotto windows the last one is the bonus.
+    // txtWin6, txtWin7, txtWin20, cboWin3 or cboWin4, as many as CheckFacts::BoxCount tells; in the lotto
+    // windows the last one is the bonus.
     std::vector<std::string> Main;
     std::array<std::string, 4> Four;  // txtWin4: the Extra or the EarlyBird numbers
     std::string Encore;               // txtWinEncore: the digit add-on

@@ -1,7 +1,5 @@
 #include "entry/Amounts.h"
 
-#include <algorithm>
-
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
 
@@ -18,11 +16,7 @@ std::string DefaultAmount(Family family, std::string_view LottoFlag, int tickets
     return (family == Family::frmKeno70 ? " " : "") + Str(tickets) + ".00";
 }
 
-bool HasHalfWagers(std::string_view LottoFlag) {
-    const auto keys = GameKeys();
-    return std::any_of(keys.begin(), keys.end(),
-                       [&](const GameKey& key) { return key.HalfWagers && key.LottoFlag == LottoFlag; });
-}
+bool HasHalfWagers(std::string_view LottoFlag) { return CellsOf(LottoFlag).HalfWagers; }
 
 std::string WagerAmount(WagerOption option, std::string_view LottoFlag, int tickets) {
     const Currency count = Currency::FromInt(tickets);

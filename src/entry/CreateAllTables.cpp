@@ -28,24 +28,24 @@ struct TableStep {
 std::optional<TableName> MainPlayed(Family family, const Global& global) {
     const GameKey* key = FindKey(family, global.LottoFlag);
     if (!key || !key->CreatesAtLoad) return {};
-    return TableName{std::string(key->Played), NumbersPerTicket[family]};
+    return TableName{std::string(key->Played), FamilyFacts::NumbersPerTicket[family]};
 }
 
 std::optional<TableName> MainWin(Family family, const Global& global) {
     const GameKey* key = FindKey(family, global.LottoFlag);
     if (!key) return {};
-    return TableName{std::string(key->Win), NumbersPerTicket[family]};
+    return TableName{std::string(key->Win), FamilyFacts::NumbersPerTicket[family]};
 }
 
 std::optional<TableName> AddOnPlayed(Family family, const Global& global) {
     const AddOn* addOn = FindAddOn(global.ExtraFlag);
-    if (!addOn || (Creates[family] & KeyBit(global.ExtraFlag)) == 0) return {};
-    return TableName{std::string(addOn->Played), addOn->ShapeCode};
+    if (!addOn || !Has(Creates[family], global.ExtraFlag)) return {};
+    return TableName{std::string(addOn->Played), addOn->ShapeCode()};
 }
 
 // Daily Keno asks for its Encore table by the game, not by the add-on.
 std::optional<TableName> KenoEncore(Family, const Global& global) {
-    if (global.LottoFlag != "ONTKeno") return {};
+    if (!CellsOf(global.LottoFlag).EncoreByGame) return {};
     return TableName{"PlayedEncore", 1};
 }
 
@@ -53,12 +53,13 @@ std::optional<TableName> LottarioPlayed(Family, const Global&) { return TableNam
 std::optional<TableName> LottarioEncore(Family, const Global&) { return TableName{"PlayedEncore", 1}; }
 std::optional<TableName> EarlyBirdWin(Family, const Global&) { return TableName{"WinEarlyBird", 1}; }
 std::optional<TableName> LottarioWin(Family, const Global& global) {
-    if (global.LottoFlag != "Lottario") return {};
-    return TableName{"WinLottario", 6};
+    const GameKey* key = FindKey(Family::frm645, global.LottoFlag);
+    if (!key) return {};
+    return TableName{std::string(key->Win), 6};
 }
 std::optional<TableName> Play4Win(Family, const Global&) { return TableName{"WinFLAPlay4", 4}; }
 std::optional<TableName> Temp(Family family, const Global&) {
-    return TableName{"Temp", NumbersPerTicket[family]};
+    return TableName{"Temp", FamilyFacts::NumbersPerTicket[family]};
 }
 
 const TableStep LottoSteps[] = {{MainPlayed}, {AddOnPlayed}, {Temp, &CreateTempTable}};
@@ -93,7 +94,7 @@ void CreateAllTables(Run& run, Family family, WindowState& state) {
     state.TableName = "Winnings";
     makeSure(CreateWinningsTable);
 
-    state.NumbersPerTicket = NumbersPerTicket[family];
+    state.NumbersPerTicket = FamilyFacts::NumbersPerTicket[family];
     for (const TableStep& step : Steps()[family]) {
         if (const auto named = step.Name(family, run.global)) {
             state.TableName = named->name;
@@ -108,7 +109,7 @@ void CreateAllTables(Run& run, Family family, WindowState& state) {
                                    PrimaryFieldName, DateFieldName);
             });
     }
-    state.NumbersPerTicket = NumbersPerTicket[family];
+    state.NumbersPerTicket = FamilyFacts::NumbersPerTicket[family];
 }
 
 }  // namespace sorvane

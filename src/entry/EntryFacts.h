@@ -1,9 +1,12 @@
 // Facts of the families that ticket entry asks, one line a fact, seven values beside each other.
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <span>
 #include <string_view>
 
-#include "shell/Family.h"
+#include "shell/FamilyFacts.h"
 
 namespace sorvane {
 
@@ -12,20 +15,16 @@ enum class Go { Stay, Extra, Make, Box0, List0 };
 // What limits the add-on count: nothing, the tickets of the sheet (under "Extra" alone), or ten.
 enum class Cap { None, Sheet, Ten };
 
-// Add-on keys as a set.
-namespace Keys {
-inline constexpr unsigned None = 0, Encore = 1, Extra = 2, Plus = 4, Quebec = 8, TagKey = 16, West = 32;
-inline constexpr unsigned East = Encore | Extra | Plus | Quebec | TagKey;
-}  // namespace Keys
-// The bit of an ExtraFlag; None for a key that is no add-on.
-constexpr unsigned KeyBit(std::string_view ExtraFlag) {
-    if (ExtraFlag == "Encore") return Keys::Encore;
-    if (ExtraFlag == "Extra") return Keys::Extra;
-    if (ExtraFlag == "ThePlus") return Keys::Plus;
-    if (ExtraFlag == "QCExtra") return Keys::Quebec;
-    if (ExtraFlag == "Tag") return Keys::TagKey;
-    if (ExtraFlag == "WESTExtra") return Keys::West;
-    return Keys::None;
+// Add-on keys.
+using Keys = std::span<const std::string_view>;
+inline constexpr std::string_view EveryKey[] = {"Encore", "Extra", "ThePlus", "QCExtra", "Tag", "WESTExtra"};
+inline constexpr Keys Every = EveryKey;
+inline constexpr Keys ButWestern = Every.first<5>();
+inline constexpr Keys EncoreAlone = Every.first<1>();
+inline constexpr std::string_view ButThePlusKeys[] = {"Encore", "Extra", "QCExtra", "Tag", "WESTExtra"};
+inline constexpr Keys ButThePlus = ButThePlusKeys;
+constexpr bool Has(Keys keys, std::string_view ExtraFlag) {
+    return std::find(keys.begin(), keys.end(), ExtraFlag) != keys.end();
 }
 
 inline constexpr bool yes = true;
@@ -33,11 +32,6 @@ inline constexpr bool no = false;
 
 // clang-format off
 //                                                     649    749    645    K70    K80    P3     P4
-inline constexpr PerFamily<int>  GridNumbers        {{ 49,    49,    45,    70,    80,    0,     0     }};
-inline constexpr PerFamily<int>  TicketLength       {{ 6,     7,     6,     0,     20,    3,     4     }};  // 0: as chosen per ticket
-inline constexpr PerFamily<int>  NumbersPerTicket   {{ 6,     7,     6,     20,    20,    3,     4     }};  // also the shape code
-inline constexpr PerFamily<int>  SheetFactor        {{ 1,     3,     2,     1,     1,     1,     1     }};  // bonus tickets counted in
-inline constexpr PerFamily<std::string_view> BonusKey{{ "",   "Super 7", "Lottario", "", "", "",     ""    }};  // the factor holds for this key alone
 inline constexpr PerFamily<bool> HasDollarsLabel    {{ yes,   no,    yes,   yes,   yes,   no,    no    }};
 inline constexpr PerFamily<bool> HasLabel1          {{ no,    yes,   no,    no,    no,    yes,   yes   }};  // in place of lblNoTickets
 inline constexpr PerFamily<bool> HasEncore          {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};  // txtEncore, chkEncore, lblExtra
@@ -46,7 +40,6 @@ inline constexpr PerFamily<bool> HasNoOfExtra       {{ yes,   yes,   yes,   yes,
 inline constexpr PerFamily<bool> HasExtraFlow       {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
 inline constexpr PerFamily<bool> CountShownAtLoad   {{ yes,   yes,   yes,   yes,   yes,   no,    no    }};  // txtNoOfExtra and its label
 inline constexpr PerFamily<bool> CheckShownAtLoad   {{ yes,   yes,   no,    no,    no,    no,    no    }};  // chkEncore
-inline constexpr PerFamily<bool> HasWheel           {{ yes,   yes,   yes,   yes,   yes,   no,    no    }};
 inline constexpr PerFamily<bool> ExtraFiltersKeys   {{ yes,   yes,   no,    yes,   yes,   yes,   no    }};  // Lottario's count takes any key: meant
 inline constexpr PerFamily<Go>   EnterInCount0      {{ Go::Extra, Go::Stay, Go::Stay, Go::Make, Go::Make, Go::Stay, Go::Stay }};
 inline constexpr PerFamily<Go>   EnterInCount1      {{ Go::Extra, Go::Stay, Go::Make, Go::Make, Go::Make, Go::Stay, Go::Stay }};
@@ -66,9 +59,9 @@ inline constexpr PerFamily<bool> CancelCleansUp     {{ no,    no,    no,    yes,
 inline constexpr PerFamily<bool> CorrectionStopsAtZero{{ yes, yes,   yes,   no,    no,    yes,   yes   }};
 inline constexpr PerFamily<bool> EveryEncoreGoesOn  {{ no,    yes,   yes,   yes,   no,    yes,   no    }};  // leaving txtEncore; frm649: under Encore and Extra alone
 // Which add-on keys a window saves, makes tables for, and cleans up.
-inline constexpr PerFamily<unsigned> Saves          {{ Keys::East, Keys::Encore | Keys::West | Keys::Quebec | Keys::TagKey | Keys::Extra, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};
-inline constexpr PerFamily<unsigned> Creates        {{ Keys::East, Keys::East | Keys::West, Keys::Encore, Keys::Encore, 0, Keys::Encore, 0 }};
-inline constexpr PerFamily<unsigned> Cleans         {{ Keys::East | Keys::West, Keys::East | Keys::West, Keys::East | Keys::West, Keys::Encore, Keys::Encore, Keys::East | Keys::West, Keys::East | Keys::West }};
+inline constexpr PerFamily<Keys> Saves              {{ ButWestern, ButThePlus, EncoreAlone, EncoreAlone, {}, EncoreAlone, {} }};
+inline constexpr PerFamily<Keys> Creates            {{ ButWestern, Every, EncoreAlone, EncoreAlone, {}, EncoreAlone, {} }};
+inline constexpr PerFamily<Keys> Cleans             {{ Every, Every, Every, EncoreAlone, EncoreAlone, Every, Every }};
 // clang-format on
 
 }  // namespace sorvane

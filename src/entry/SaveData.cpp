@@ -1,5 +1,7 @@
 #include "entry/SaveData.h"
 
+#include "shell/Catalogue.h"
+
 namespace sorvane {
 
 namespace {
@@ -34,8 +36,8 @@ void WriteSheet(Run& run, const StoreArgs& at, int rows, Fill fill) {
     });
 }
 
-int RowsWithBonus(const Global& g, std::string_view key, int factor) {
-    return g.LottoFlag == key ? g.NoOfTicketsOnSheet * factor : int{g.NoOfTicketsOnSheet};
+int RowsWithBonus(const Global& g, Family family) {
+    return g.NoOfTicketsOnSheet * SheetFactor(family, g.LottoFlag);
 }
 
 // Digit tickets: way of play and mark behind the digits; a mark is written only when it is set.
@@ -67,11 +69,12 @@ void SaveLotto6Tickets(Run& run, const StoreArgs& at) {
 
 void SaveLottarioTickets(Run& run, const StoreArgs& at) {
     const Global& g = run.global;
-    WriteSheet(run, at, RowsWithBonus(g, "Lottario", 2), [&](Dao::Recordset& Rs, int RowNo) {
+    const bool ownGame = FindKey(Family::frm645, g.LottoFlag);
+    WriteSheet(run, at, RowsWithBonus(g, Family::frm645), [&](Dao::Recordset& Rs, int RowNo) {
         const Lotto6Ticket& ticket = g.Lotto6Tickets(RowNo);
         Rs[1] = at.WindowDate;
         PutNumbers(Rs, 2, ticket.Numbers, 6);
-        if (g.LottoFlag != "Lottario") return;
+        if (!ownGame) return;
         Rs[8] = ticket.Regular == True;
         Rs[9] = ticket.EarlyBird == True;
     });
@@ -79,11 +82,12 @@ void SaveLottarioTickets(Run& run, const StoreArgs& at) {
 
 void SaveLotto7Tickets(Run& run, const StoreArgs& at) {
     const Global& g = run.global;
-    WriteSheet(run, at, RowsWithBonus(g, "Super 7", 3), [&](Dao::Recordset& Rs, int RowNo) {
+    const bool ownGame = FindKey(Family::frm749, g.LottoFlag);
+    WriteSheet(run, at, RowsWithBonus(g, Family::frm749), [&](Dao::Recordset& Rs, int RowNo) {
         const Lotto7Ticket& ticket = g.Lotto7Tickets(RowNo);
         Rs[1] = at.WindowDate;
         PutNumbers(Rs, 2, ticket.Numbers, 7);
-        if (g.LottoFlag == "Super 7") Rs[9] = ticket.Regular == True;
+        if (ownGame) Rs[9] = ticket.Regular == True;
     });
 }
 
@@ -105,7 +109,7 @@ void SavePick4Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.
 
 void SaveAddOnTickets(Run& run, const StoreArgs& at) {
     const Global& g = run.global;
-    const int digits = g.ExtraFlag == "WESTExtra" ? 7 : 6;
+    const int digits = AddOnDigits(g.ExtraFlag);
     StoreRoutine(run, Tails::Open, at.TableName, [&] {
         Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
         Dao::Recordset Rs = Db.OpenTable(at.TableName);

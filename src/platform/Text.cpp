@@ -1,6 +1,8 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -159,6 +161,15 @@ Integer IntegerPart(std::string_view text) {
 
 std::string Str(long number) { return std::to_string(number); }
 
+void AppendNumber(std::string& line, int number, std::string_view separator) {
+    constexpr std::size_t Most = std::numeric_limits<int>::digits10 + 2;  // with its sign
+    std::array<char, Most> digits;
+    const char* const begin = digits.data();
+    const char* const end = std::to_chars(digits.data(), digits.data() + Most, number).ptr;
+    if (!line.empty()) line += separator;
+    line.append(begin, end);
+}
+
 std::string Mid(std::string_view text, int start, int length) {
     if (start < 1 || length < 0) Raise(ErrorNumber::InvalidProcedureCall);
     const std::size_t from = std::min(static_cast<std::size_t>(start) - 1, text.size());
@@ -182,16 +193,6 @@ std::string Format(Currency amount, std::string_view picture) {
     const Rounded rounded = Round(amount, sections.first);
     const bool minus = negative && !sections.negative && !rounded.IsZero();
     return (minus ? "-" : "") + Write(rounded, sections.first);
-}
-
-std::string FormatText(std::string_view text, std::string_view picture) {
-    std::string_view number = TrimBlanks(text);
-    if (!number.empty() && number.front() == '$') number.remove_prefix(1);
-    Currency amount;
-    const bool reads = Ignoring({ErrorNumber::TypeMismatch, ErrorNumber::Overflow},
-                                [&] { amount = Currency::FromText(number); });
-    if (!reads) return std::string(text);
-    return Format(amount, picture);
 }
 
 std::string PadLeft(std::string_view text, int width) {

@@ -42,22 +42,19 @@ std::string_view TrimBlanks(std::string_view text);
 // Pictures in use: "###,###,##0.00", "###,###,##0.00;(###,###,##0.00)", "###,###,###.00;(###,###,###.00)",
 // "##,###,##0.00", "##,###,##0.00;(##,###,##0.00)", "###.#0", "###.00".
 std::string Format(Currency amount, std::string_view picture);
-// The same for a text: a text that reads as an amount (a "$" and blanks are passed over) is formatted as that
-// amount, any other text comes back as it is.
-std::string FormatText(std::string_view text, std::string_view picture);
 
 // The text behind blanks until it is at least `width` characters long ("@@@@@@@@" is width 8).
 std::string PadLeft(std::string_view text, int width);
 
-// The items joined by ", ".
-template <class Range>
-std::string JoinNumbers(const Range& numbers) {
-    std::string joined;
-    for (const auto& number : numbers) {
-        if (!joined.empty()) joined += ", ";
-        joined += Str(number);
-    }
-    return joined;
+// The number behind what the line holds already, with the separator between.
+void AppendNumber(std::string& line, int number, std::string_view separator = ", ");
+
+// number(0) to number(count - 1), joined; no separator behind the last.
+template <class Number>
+std::string JoinNumbers(int count, const Number& number, std::string_view separator = ", ") {
+    std::string line;
+    for (int i = 0; i < count; ++i) AppendNumber(line, number(i), separator);
+    return line;
 }
 
 }  // namespace sorvane

@@ -1,5 +1,7 @@
-// The sort that the generator and the wheel share.
+// What the generator and the wheel share.
 #pragma once
+
+#include <string>
 
 #include "shell/Global.h"
 
@@ -8,5 +10,9 @@ namespace sorvane {
 // Sorts the array ascending, all but its last slot, which is a spare one; then copies the whole array into
 // Global::Numbers, whichever array was passed. Raises 9 for an array never sized.
 void SortNumbers(Global& global, Array<Integer>& numbers);
+
+// The first `count` numbers of the array, those up to `lastPosition` alone, each followed by ", " but the one
+// at `lastPosition`: a shorter ticket ends with a separator. Raises 9 where the array is shorter.
+std::string JoinByPosition(const Array<Integer>& numbers, int count, int lastPosition);
 
 }  // namespace sorvane

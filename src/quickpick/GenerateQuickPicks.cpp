@@ -5,8 +5,8 @@
 
 #include "platform/Text.h"
 #include "quickpick/GeneralFunctions.h"
-#include "quickpick/QuickPickFacts.h"
 #include "shell/Catalogue.h"
+#include "shell/FamilyFacts.h"
 
 namespace sorvane {
 
@@ -35,8 +35,9 @@ Range RangeOf(const Global& g) {
     for (const GameKey& key : GameKeys()) {
         const std::string_view compared = key.QuickPickKey.empty() ? key.LottoFlag : key.QuickPickKey;
         if (compared != g.LottoFlag) continue;
-        const int count = QuickPickCount[key.in];
-        return {QuickPickMax[key.in], count == AsChosen ? int{g.NoOfBallsPerTicket} : count};
+        // Digits are drawn below the highest one: no quick pick has a 9. Meant.
+        return {FamilyFacts::HighestNumber[key.in],
+                IsKeno(key.in) ? int{g.NoOfBallsPerTicket} : FamilyFacts::NumbersPerTicket[key.in]};
     }
     return {};
 }
@@ -62,17 +63,11 @@ void DrawNumbers(Run& run, const Range& range) {
     }
 }
 
+// Of the balls that the ticket has, those that there are.
 std::string KenoLine(const Global& g) {
-    std::string line;
-    const int last = g.NoOfBallsPerTicket - 1;
-    for (int i = 0; i <= last; ++i) Try([&] { line.append(Str(g.Numbers(i))).append(i < last ? ", " : ""); });
-    return line;
-}
-
-std::string Line(const Global& g, int count) {
-    std::string line = Str(g.Numbers(0));
-    for (int i = 1; i < count; ++i) line.append(", ").append(Str(g.Numbers(i)));
-    return line;
+    const int balls = g.NoOfBallsPerTicket;
+    const int there = g.Numbers.Sized() ? g.Numbers.UBound() + 1 : 0;
+    return JoinByPosition(g.Numbers, std::min(balls, there), balls - 1);
 }
 
 }  // namespace
@@ -93,7 +88,7 @@ void GenerateQuickPicks(Run& run, const Integer& numbersPerTicket, const Integer
         if (keno) Try([&] { lstDisplay.AddItem(KenoLine(g)); });
         if (!lotto && !digits) continue;
         std::string line;
-        if (!Try([&] { line = Line(g, shape); })) continue;
+        if (!Try([&] { line = JoinNumbers(shape, g.Numbers); })) continue;
         Try([&] { lstDisplay.AddItem(line); });
         Try([&] { quickPicks(t) = line; });
     }

@@ -12,9 +12,6 @@ namespace sorvane {
 // Where the accepted value of txtHowMany goes.
 enum class HowMany { NoOfTickets, HowManyToWheel, Nowhere };
 
-// The length of a ticket that NoOfBallsPerTicket tells.
-inline constexpr int AsChosen = -1;
-
 // Tickets that a wheel is taken to offer, by the text of txtHowMany; any other text: WheelSizeElse. A family
 // without texts never sets WheelSize.
 struct WheelSizeRow {
@@ -28,8 +25,6 @@ inline constexpr int WheelSizeElse = 1000;
 
 // clang-format off
 //                                                   649    749    645    K70    K80    P3     P4
-inline constexpr PerFamily<int>  QuickPickMax     {{ 49,    49,    45,    70,    80,    9,     9     }};  // digits are drawn below it: no 9, meant
-inline constexpr PerFamily<int>  QuickPickCount   {{ 6,     7,     6,     AsChosen, AsChosen, 3, 4   }};
 inline constexpr PerFamily<bool> WheelFrame       {{ true,  true,  true,  true,  true,  false, false }};
 inline constexpr PerFamily<bool> WheelLive        {{ false, false, true,  false, false, false, false }};  // the others show the frame and generate at random: meant
 inline constexpr PerFamily<int>  WheelLowest      {{ 7,     8,     7,     0,     0,     0,     0     }};  // of txtHowMany; 0: no lower bound

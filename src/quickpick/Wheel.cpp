@@ -25,14 +25,6 @@ void Rotate(Array<Integer>& pool, Array<Integer>& aside, int last) {
     pool(last) = aside(0);
 }
 
-// The separators go by position, whatever the length of the ticket.
-std::string Joined(const Array<Integer>& numbers, int count, int lastPosition) {
-    std::string line;
-    for (int i = 0; i < count && i <= lastPosition; ++i)
-        line.append(Str(numbers(i))).append(i < lastPosition ? ", " : "");
-    return line;
-}
-
 constexpr int LastOfSix = 5;
 
 // The three wheels that have rows behind the first.
@@ -54,7 +46,7 @@ std::string NextRow(Global& g, const Wheel& wheel, Array<Integer>& pool, Array<I
     Rotate(pool, aside, (wheel.byWheelSize ? wheel.size : pool.UBound()) - 1);
     for (int i = 0; i <= wheel.lastPosition; ++i) ticket(i) = pool(i);
     SortNumbers(g, ticket);
-    return Joined(wheel.sorted ? ticket : pool, wheel.lastPosition + 1, wheel.lastPosition);
+    return JoinByPosition(wheel.sorted ? ticket : pool, wheel.lastPosition + 1, wheel.lastPosition);
 }
 
 void ShowTooManyTickets(Run& run) {
@@ -86,7 +78,7 @@ void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool,
     WheelRows.Redim(last);
     ticket.Redim(last);
     aside.Redim(last);
-    WheelRows(0) = Joined(pool, numbersPerTicket, LastOfSix);
+    WheelRows(0) = JoinByPosition(pool, numbersPerTicket, LastOfSix);
     for (const Wheel& wheel : Wheels) {
         if (wheel.size != g.WheelSize) continue;
         for (int r = 1; r <= last; ++r) WheelRows(r) = NextRow(g, wheel, pool, aside, ticket);

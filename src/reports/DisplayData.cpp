@@ -8,6 +8,7 @@
 #include "reports/PadAmount.h"
 #include "reports/ReportTypes.h"
 #include "shell/Catalogue.h"
+#include "shell/FamilyFacts.h"
 #include "store/StoreRoutine.h"
 
 namespace sorvane {
@@ -73,6 +74,9 @@ void CopyShifted(const Array<Integer>& tally, Array<Integer>& to) {
     for (int n = 1; n <= tally.UBound(); ++n) to(n - 1) = tally(n);
 }
 
+// By the key, not by the window.
+bool IsLottario(const Global& g) { return FindKey(Family::frm645, g.LottoFlag); }
+
 void KeepSixNumberTally(Global& g, const Array<Integer>& tally, bool lottario) {
     const int upper = lottario ? 44 : 49;
     g.Numbers.Redim(upper);
@@ -83,8 +87,9 @@ void KeepSixNumberTally(Global& g, const Array<Integer>& tally, bool lottario) {
 }
 
 int TopKenoNumber(const std::string& LottoFlag) {
-    if (FindKey(Family::frmKeno70, LottoFlag)) return 70;
-    return FindKey(Family::frmKeno80, LottoFlag) ? 80 : 0;
+    for (const Family family : {Family::frmKeno70, Family::frmKeno80})
+        if (FindKey(family, LottoFlag)) return FamilyFacts::HighestNumber[family];
+    return 0;
 }
 
 }  // namespace
@@ -92,8 +97,9 @@ int TopKenoNumber(const std::string& LottoFlag) {
 void TallySixNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
                              ChartFace& chart, const Integer& mode) {
     Global& g = run.global;
-    const bool lottario = g.LottoFlag == "Lottario";
-    TallyNumbers(run, DbName, TableName, SixNumbers, lottario ? 45 : 49, [&](const Array<Integer>& tally) {
+    const bool lottario = IsLottario(g);
+    const int top = FamilyFacts::HighestNumber[lottario ? Family::frm645 : Family::frm649];
+    TallyNumbers(run, DbName, TableName, SixNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) KeepSixNumberTally(g, tally, lottario);
         if (mode == ChartMode && !g.Generating) DrawFrequencies(tally, chart);
     });
@@ -102,8 +108,9 @@ void TallySixNumberFrequency(Run& run, const std::string& DbName, const std::str
 void TallySevenNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
                                ChartFace& chart, const Integer& mode) {
     Global& g = run.global;
-    if (g.LottoFlag == "Super 7") g.Numbers.Redim(49);
-    TallyNumbers(run, DbName, TableName, SevenNumbers, 49, [&](const Array<Integer>& tally) {
+    const int top = FamilyFacts::HighestNumber[Family::frm749];
+    if (FindKey(Family::frm749, g.LottoFlag)) g.Numbers.Redim(top);
+    TallyNumbers(run, DbName, TableName, SevenNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) CopyShifted(tally, g.Numbers);
         if (mode == ChartMode) DrawFrequencies(tally, chart);
     });

@@ -94,7 +94,11 @@ constexpr auto GameTable = std::to_array<Game>({
 });
 
 constexpr auto KeyTable = std::to_array<GameKey>({
-    {.LottoFlag = "Lotto649", .in = Family::frm649, .Played = "PlayedLotto649", .Win = "WinLotto649"},
+    {.LottoFlag = "Lotto649",
+     .in = Family::frm649,
+     .Played = "PlayedLotto649",
+     .Win = "WinLotto649",
+     .ClearsLastGrid = true},
     {.LottoFlag = "BC49", .in = Family::frm649, .Played = "PlayedBC49", .Win = "WinBC49", .HalfPrice = true},
     {.LottoFlag = "Ontario49",
      .in = Family::frm649,
@@ -106,12 +110,32 @@ constexpr auto KeyTable = std::to_array<GameKey>({
      .in = Family::frm649,
      .Played = "PlayedQuebec49",
      .Win = "WinQuebec49",
-     .HalfPrice = true},
-    {.LottoFlag = "Super 7", .in = Family::frm749, .Played = "PlayedSuper7", .Win = "WinSuper7"},
-    {.LottoFlag = "Lottario", .in = Family::frm645, .Played = "PlayedLottario", .Win = "WinLottario"},
-    {.LottoFlag = "ONTKeno", .in = Family::frmKeno70, .Played = "PlayedONTKeno", .Win = "WinONTKeno"},
+     .HalfPrice = true,
+     .CheckLiveAtCount = true},
+    {.LottoFlag = "Super 7",
+     .in = Family::frm749,
+     .Played = "PlayedSuper7",
+     .Win = "WinSuper7",
+     .BonusTickets = 2},
+    {.LottoFlag = "Lottario",
+     .in = Family::frm645,
+     .Played = "PlayedLottario",
+     .Win = "WinLottario",
+     .BonusTickets = 1,
+     .HasEarlyBird = true},
+    {.LottoFlag = "ONTKeno",
+     .in = Family::frmKeno70,
+     .Played = "PlayedONTKeno",
+     .Win = "WinONTKeno",
+     .FillsLists = true,
+     .PaysPrizes = true,
+     .EncoreByGame = true},
     {.LottoFlag = "QCBanco", .in = Family::frmKeno70, .Played = "PlayedQCBanco", .Win = "WinQCBanco"},
-    {.LottoFlag = "ATLChoice", .in = Family::frmKeno70, .Played = "PlayedATLChoice", .Win = "WinATLChoice"},
+    {.LottoFlag = "ATLChoice",
+     .in = Family::frmKeno70,
+     .Played = "PlayedATLChoice",
+     .Win = "WinATLChoice",
+     .FillsLists = true},
     {.LottoFlag = "PrairieKeno",
      .in = Family::frmKeno80,
      .Played = "PlayedPrairieKeno",
@@ -152,6 +176,7 @@ constexpr auto KeyTable = std::to_array<GameKey>({
      .Played = "PlayedFLACash3",
      .Win = "WinFLACash3",
      .HalfWagers = true,
+     .WayOfTwoUnits = 2,
      .Ways = {"Straight", "Box", "StraightBox", "Combo"}},
     {.LottoFlag = "Quote4",
      .in = Family::frmPick4,
@@ -175,16 +200,30 @@ constexpr auto KeyTable = std::to_array<GameKey>({
      .Played = "PlayedFLAPlay4",
      .Win = "WinFLAPlay4",
      .HalfWagers = true,
+     .HasTriples = false,
      .Ways = {"Straight", "Box"}},
 });
 
 constexpr auto AddOnTable = std::to_array<AddOn>({
-    {"Encore", "PlayedEncore", "WinEncore", 1, 6, true, "Encore"},
-    {"Extra", "PlayedExtra", "WinExtra", 4, 0, true, "Extra"},
-    {"ThePlus", "PlayedThePlus", "WinThePlus", 1, 6, false, ""},
-    {"QCExtra", "PlayedQCExtra", "WinQCExtra", 1, 6, false, "Extra"},
-    {"Tag", "PlayedTag", "WinTag", 1, 6, false, "Tag"},
-    {"WESTExtra", "PlayedWESTExtra", "WinWESTExtra", 1, 7, false, "Extra"},
+    {.ExtraFlag = "Encore",
+     .Played = "PlayedEncore",
+     .Win = "WinEncore",
+     .Name = "Encore",
+     .CountedOnSheet = true},
+    {.ExtraFlag = "Extra",
+     .Played = "PlayedExtra",
+     .Win = "WinExtra",
+     .Name = "Extra",
+     .FourNumbers = true,
+     .CountedOnSheet = true},
+    {.ExtraFlag = "ThePlus", .Played = "PlayedThePlus", .Win = "WinThePlus"},
+    {.ExtraFlag = "QCExtra", .Played = "PlayedQCExtra", .Win = "WinQCExtra", .Name = "Extra"},
+    {.ExtraFlag = "Tag", .Played = "PlayedTag", .Win = "WinTag", .Name = "Tag"},
+    {.ExtraFlag = "WESTExtra",
+     .Played = "PlayedWESTExtra",
+     .Win = "WinWESTExtra",
+     .Name = "Extra",
+     .Digits = 7},
 });
 
 template <class Row>
@@ -209,6 +248,23 @@ const AddOn* FindAddOn(std::string_view ExtraFlag) { return Find(AddOns(), Extra
 const GameKey* FindKey(Family family, std::string_view LottoFlag) {
     const GameKey* key = Find(GameKeys(), LottoFlag, &GameKey::LottoFlag);
     return key && key->in == family ? key : nullptr;
+}
+
+const GameKey& CellsOf(std::string_view LottoFlag) {
+    static constexpr GameKey Regular{.LottoFlag = {}, .in = {}, .Played = {}, .Win = {}};
+    const GameKey* key = Find(GameKeys(), LottoFlag, &GameKey::LottoFlag);
+    return key ? *key : Regular;
+}
+
+const AddOn& AddOnOf(std::string_view ExtraFlag) {
+    static constexpr AddOn Regular{};
+    const AddOn* addOn = FindAddOn(ExtraFlag);
+    return addOn ? *addOn : Regular;
+}
+
+int SheetFactor(Family family, std::string_view LottoFlag) {
+    const GameKey* key = FindKey(family, LottoFlag);
+    return key ? 1 + key->BonusTickets : 1;
 }
 
 std::optional<std::string> PlayedTable(Family family, std::string_view LottoFlag) {

@@ -35,7 +35,7 @@ struct Game {
     // Facts that nothing reads; where one is absent the variable keeps the last game's value.
     std::optional<int> MaxTicketsOnSheet = {};
     std::optional<int> TicketPriceCents = {};
-    std::optional<int> FreePlays = {};
+    std::optional<int> FreePlays = {};  // of GameKey::BonusTickets the flow makes use
     // Where the title is written: the window that opens, but for Play 4, whose title goes to the hidden
     // frmPick3.
     std::optional<Family> titleGoesTo = {};
@@ -58,13 +58,28 @@ struct GameKey {
     bool CheckNamesTables = true;          // a check sets TableName for this key
     bool CreatesAtLoad = true;             // the window's CreateAllTables knows the key
     bool HalfPrice = false;                // a ticket costs half a dollar
+    int BonusTickets = 0;                  // free tickets that come with each bought one
+    bool HasEarlyBird = false;             // a second draw; each ticket tells whether it takes part
+    bool ClearsLastGrid = false;           // the grid of a sheet's last ticket is cleared, too
+    bool CheckLiveAtCount = false;         // accepting the count of tickets enables chkEncore
+    bool FillsLists = false;               // keno 70: the lists of balls and wagers have entries
+    bool PaysPrizes = false;               // keno: there is a prize table; else a check only counts
+    bool EncoreByGame = false;             // keno 70: Encore is asked by the game, not by the add-on key
     bool HalfWagers = false;               // digit games: an option means the wager doubled
+    int WayOfTwoUnits = NoWay;             // digit games: the option of optPlayOpt that costs two units
+    bool HasTriples = true;                // digit games: the report "Triple Match" is offered
     // Digit games: what each option of optPlayOpt is called in the rows; empty: the option names nothing.
     std::array<std::string_view, 4> Ways = {};
+
+    static constexpr int NoWay = -1;
 };
 std::span<const GameKey> GameKeys();
 // The row of the key in this family; null when the family's comparison chain knows no such key.
 const GameKey* FindKey(Family family, std::string_view LottoFlag);
+// The row of the key, whichever family it is in; for a key that no game has, a row of regular cells.
+const GameKey& CellsOf(std::string_view LottoFlag);
+// Tickets that each bought one makes, itself counted: 1 where the family knows no such key.
+int SheetFactor(Family family, std::string_view LottoFlag);
 
 // Names of the tables at each place of use; nothing when the chain there matches no key, and the name stays
 // what it was.
@@ -79,12 +94,18 @@ struct AddOn {
     std::string_view ExtraFlag;
     std::string_view Played;
     std::string_view Win;
-    int ShapeCode;          // 1 digits of a number, 4 four numbers
-    int Digits;             // digits of the number; 0 for four numbers
-    bool CountedOnSheet;    // as many tickets as txtNoOfExtra says; else one, by chkEncore
-    std::string_view Name;  // in "<Name> number is too short..."; empty for The Plus
+    std::string_view Name = {};   // in "<Name> number is too short..."; empty for The Plus
+    int Digits = 6;               // of the number: asked for, kept and read back
+    bool FourNumbers = false;     // txtPlay4 and txtWin4 hold it; else a number of digits
+    bool CountedOnSheet = false;  // as many tickets as txtNoOfExtra says; else one, by chkEncore
+
+    // Of its tables: 1 digits of a number, 4 four numbers.
+    constexpr int ShapeCode() const { return FourNumbers ? 4 : 1; }
 };
 std::span<const AddOn> AddOns();
 const AddOn* FindAddOn(std::string_view ExtraFlag);
+// The add-on of the key; for a key that is no add-on, a row of regular cells.
+const AddOn& AddOnOf(std::string_view ExtraFlag);
+inline int AddOnDigits(std::string_view ExtraFlag) { return AddOnOf(ExtraFlag).Digits; }
 
 }  // namespace sorvane

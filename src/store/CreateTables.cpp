@@ -69,7 +69,7 @@ struct ShapePair {
 
 std::optional<std::string> AddOnWin(const Global& global) {
     const AddOn* addOn = FindAddOn(global.ExtraFlag);
-    if (!addOn || addOn->ShapeCode != 1) return {};
+    if (!addOn || addOn->FourNumbers) return {};
     return std::string(addOn->Win);
 }
 

@@ -120,19 +120,5 @@ TEST(FormatTest, WhatIsNoPictureIsInvalid) {
         EXPECT_EQ(ErrorOf([&] { Show("1", picture); }), 5) << picture;
 }
 
-TEST(FormatTextTest, DollarSignAndBlanksOfTheDifferenceArePassedOver) {
-    EXPECT_EQ(FormatText(" $   45.5", Gain), "45.50");
-    EXPECT_EQ(FormatText(" $   0", Gain), "0.00");
-    EXPECT_EQ(FormatText(" $   -1234.5", Loss), "(1,234.50)");
-    EXPECT_EQ(FormatText("1,000.50", Gain), "1,000.50");
-    EXPECT_EQ(FormatText("$5", Gain), "5.00");
-}
-
-TEST(FormatTextTest, TextThatIsNoAmountComesBackAsItIs) {
-    for (const std::string_view text :
-         {"", "$", " $  ", "abc", "5 $", "$$5", "12abc", "99999999999999999999"})
-        EXPECT_EQ(FormatText(text, Gain), text);
-}
-
 }  // namespace
 }  // namespace sorvane

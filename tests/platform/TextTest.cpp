@@ -118,9 +118,19 @@ TEST(PadLeftTest, PutsBlanksBeforeShortTextsAndLeavesLongOnes) {
 }
 
 TEST(JoinNumbersTest, PutsCommaAndBlankBetween) {
-    EXPECT_EQ(JoinNumbers(std::vector<int>{}), "");
-    EXPECT_EQ(JoinNumbers(std::vector<int>{7}), "7");
-    EXPECT_EQ(JoinNumbers(std::vector<int>{1, 22, 49}), "1, 22, 49");
+    const std::vector<int> numbers{1, 22, 49};
+    const auto number = [&](int i) { return numbers.at(static_cast<std::size_t>(i)); };
+    EXPECT_EQ(JoinNumbers(0, number), "");
+    EXPECT_EQ(JoinNumbers(1, number), "1");
+    EXPECT_EQ(JoinNumbers(3, number), "1, 22, 49");
+    EXPECT_EQ(JoinNumbers(3, number, ""), "12249");
+}
+
+TEST(JoinNumbersTest, TakesEveryNumberThereIs) {
+    std::string line;
+    AppendNumber(line, std::numeric_limits<int>::min());
+    AppendNumber(line, std::numeric_limits<int>::max());
+    EXPECT_EQ(line, "-2147483648, 2147483647");
 }
 
 // A decimal point of the process's own locale must not reach any number.

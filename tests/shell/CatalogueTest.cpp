@@ -1,6 +1,8 @@
 // The catalogue against tables written down a second time.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <set>
@@ -9,6 +11,7 @@
 #include <vector>
 
 #include "shell/Catalogue.h"
+#include "shell/FamilyFacts.h"
 #include "shell/SelectGame.h"
 
 namespace sorvane {
@@ -451,6 +454,51 @@ TEST(GameKeys, ThreeGamesCostHalfADollar) {
                   row.LottoFlag == "BC49" || row.LottoFlag == "Ontario49" || row.LottoFlag == "Quebec49");
 }
 
+TEST(GameKeys, TheOddCellsAreOfTheGamesMeant) {
+    for (const KeyRow& row : KeyRows) {
+        SCOPED_TRACE(row.LottoFlag);
+        const GameKey& key = CellsOf(row.LottoFlag);
+        EXPECT_EQ(key.LottoFlag, row.LottoFlag);
+        const auto is = [&](std::initializer_list<std::string_view> games) {
+            return std::find(games.begin(), games.end(), row.LottoFlag) != games.end();
+        };
+        EXPECT_EQ(key.BonusTickets, is({"Super 7"}) ? 2 : is({"Lottario"}) ? 1 : 0);
+        EXPECT_EQ(SheetFactor(row.in, row.LottoFlag), 1 + key.BonusTickets);
+        EXPECT_EQ(key.HasEarlyBird, is({"Lottario"}));
+        EXPECT_EQ(key.ClearsLastGrid, is({"Lotto649"}));
+        EXPECT_EQ(key.CheckLiveAtCount, is({"Quebec49"}));
+        EXPECT_EQ(key.FillsLists, is({"ONTKeno", "ATLChoice"}));
+        EXPECT_EQ(key.PaysPrizes, is({"ONTKeno"}));
+        EXPECT_EQ(key.EncoreByGame, is({"ONTKeno"}));
+        EXPECT_EQ(key.HalfWagers, is({"FLACash3", "FLAPlay4"}));
+        EXPECT_EQ(key.WayOfTwoUnits, is({"FLACash3"}) ? 2 : GameKey::NoWay);
+        EXPECT_EQ(key.HasTriples, !is({"FLAPlay4"}));
+    }
+}
+
+TEST(GameKeys, AKeyThatNoGameHasIsARegularGameWithoutTables) {
+    for (const std::string_view odd : {"", "lottario", "Super7", "Encore"}) {
+        EXPECT_EQ(CellsOf(odd).Played, "") << odd;
+        EXPECT_FALSE(CellsOf(odd).HasEarlyBird) << odd;
+        EXPECT_TRUE(CellsOf(odd).HasTriples) << odd;
+        for (const Family family : AllFamilies) EXPECT_EQ(SheetFactor(family, odd), 1) << odd;
+    }
+    EXPECT_EQ(SheetFactor(Family::frm649, "Super 7"), 1);
+}
+
+TEST(FamilyFactsTest, EachFamilyHasItsNumbers) {
+    using namespace FamilyFacts;
+    const PerFamily<int> counts{{49, 49, 45, 70, 80, 10, 10}};
+    const PerFamily<int> shapes{{6, 7, 6, 20, 20, 3, 4}};
+    for (const Family family : AllFamilies) {
+        SCOPED_TRACE(NameOf(family));
+        EXPECT_EQ(CountOfNumbers(family), counts[family]);
+        EXPECT_EQ(LowestNumber[family], IsPick(family) ? 0 : 1);
+        EXPECT_EQ(HighestNumber[family], IsPick(family) ? 9 : counts[family]);
+        EXPECT_EQ(NumbersPerTicket[family], shapes[family]);
+    }
+}
+
 struct AddOnRow {
     std::string_view ExtraFlag, Played, Win;
     int ShapeCode, Digits;
@@ -459,7 +507,7 @@ struct AddOnRow {
 };
 const std::vector<AddOnRow> AddOnRows{
     {"Encore", "PlayedEncore", "WinEncore", 1, 6, true, "Encore"},
-    {"Extra", "PlayedExtra", "WinExtra", 4, 0, true, "Extra"},
+    {"Extra", "PlayedExtra", "WinExtra", 4, 6, true, "Extra"},
     {"ThePlus", "PlayedThePlus", "WinThePlus", 1, 6, false, ""},
     {"QCExtra", "PlayedQCExtra", "WinQCExtra", 1, 6, false, "Extra"},
     {"Tag", "PlayedTag", "WinTag", 1, 6, false, "Tag"},
@@ -474,9 +522,10 @@ TEST(AddOns, SixOfThemHaveTheirTables) {
         ASSERT_NE(addOn, nullptr);
         EXPECT_EQ(addOn->Played, row.Played);
         EXPECT_EQ(addOn->Win, row.Win);
-        EXPECT_EQ(addOn->ShapeCode, row.ShapeCode);
+        EXPECT_EQ(addOn->ShapeCode(), row.ShapeCode);
         EXPECT_EQ(addOn->Digits, row.Digits);
         EXPECT_EQ(addOn->CountedOnSheet, row.CountedOnSheet);
+        EXPECT_EQ(addOn->FourNumbers, row.ExtraFlag == "Extra");
         EXPECT_EQ(addOn->Name, row.Name);
     }
 }

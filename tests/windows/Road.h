@@ -7,7 +7,6 @@
 #include <string_view>
 #include <vector>
 
-#include "entry/EntryFacts.h"
 #include "platform/Text.h"
 #include "windows/MainWindow.h"
 
@@ -56,11 +55,12 @@ class Road : public MainWindow {
     const Family family = game.opens;
     const GameKey& key = *FindKey(family, game.LottoFlag);
     const AddOn* addOn = FindAddOn(game.ExtraFlag);
-    const bool bonus = BonusKey[family] == game.LottoFlag;
+    // Tickets that each bought one makes, its bonus tickets counted in.
+    const int factor = family == Family::frm749 ? 3 : family == Family::frm645 ? 2 : 1;
     int entered = 0;  // tickets so far, bonus tickets counted in
     std::vector<std::vector<int>> tickets;
 
-    int BallsOf() const { return family == Family::frmKeno70 ? 4 : TicketLength[family]; }
+    int BallsOf() const { return PerFamily<int>{{6, 7, 6, 4, 20, 3, 4}}[family]; }
 
     std::vector<int> NextTicket() {
         std::vector<int> numbers;
@@ -134,7 +134,7 @@ class Road : public MainWindow {
 
     void FillSheet(int sheet, int onSheet, int addOns) {
         if (CountsAddOns()) Put("txtNoOfExtra", std::to_string(addOns));
-        const int total = onSheet * (bonus ? SheetFactor[family] : 1);
+        const int total = onSheet * factor;
         for (int ticket = 1; ticket <= total; ++ticket) {
             FillTicket();
             if (ticket < total) Click("cmdNext_Ticket");
@@ -184,7 +184,9 @@ class Road : public MainWindow {
 
     Texts TicketTexts() const {
         Texts texts;
-        for (const auto& ticket : tickets) texts.push_back(JoinNumbers(ticket));
+        for (const auto& ticket : tickets)
+            texts.push_back(JoinNumbers(static_cast<int>(ticket.size()),
+                                        [&](int i) { return ticket.at(static_cast<std::size_t>(i)); }));
         return texts;
     }
 

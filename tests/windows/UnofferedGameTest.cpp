@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <ostream>
 
-#include "entry/EntryFacts.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {

@@ -266,7 +266,7 @@ void AddOnCapture::StoreAddOnTicket(int element) {
     AddOnTicket& ticket = g_.AddOnTickets(element);
     const bool bought = IsBought();
     const std::string number = txtEncore->Text();
-    const int digits = g_.ExtraFlag == "WESTExtra" ? 7 : 6;
+    const int digits = AddOnDigits(g_.ExtraFlag);
     ticket.DrawDate = window_.dtpEnterTickets(0).Value();
     for (int slot = 0; slot < digits; ++slot)
         ticket.Numbers(slot) = bought ? CInt(Mid(number, slot + 1, 1)) : Integer(NotPlayed);
@@ -279,11 +279,11 @@ void AddOnCapture::StoreExtraTicket() {
     g_.ExtraTickets(g_.ExtraNo) = ticket;
 }
 
-bool AddOnCapture::IsSaved() const { return (Saves[window_.Which] & KeyBit(g_.ExtraFlag)) != 0; }
+bool AddOnCapture::IsSaved() const { return Has(Saves[window_.Which], g_.ExtraFlag); }
 
 void AddOnCapture::SaveSheet() {
     if (!IsSaved()) return;
-    if (g_.ExtraFlag != "Extra") SaveNumbers();
+    if (!AddOnOf(g_.ExtraFlag).FourNumbers) SaveNumbers();
     else if (g_.EnteringAddOns == On) SaveExtra();
 }
 

@@ -20,13 +20,12 @@ constexpr std::string_view WayCaptions[] = {"Straight", "Box", "Straight && Scra
                                             "Straight && Scramble"};
 constexpr std::array<int, 2> WaysShown{3, 2};  // of three digits, of four; a game's dressing may differ
 constexpr std::string_view FirstDigit = "0";
-constexpr int HighestDigit = 9;
 constexpr double DigitScale = 1.6;
 
 }  // namespace
 
 DigitCapture::DigitCapture(GameWindow& window)
-    : window_(window), g_(window.run.global), digits_(TicketLength[window.Which]) {
+    : window_(window), g_(window.run.global), digits_(FamilyFacts::NumbersPerTicket[window.Which]) {
     MakeControls();
     AttachHandlers();
     LayOutSlip();
@@ -105,10 +104,12 @@ void DigitCapture::AddToTabOrder(std::vector<QWidget*>& order) {
 }
 
 void DigitCapture::Load() {
-    window_.State.NumbersPerTicket = NumbersPerTicket[window_.Which];
-    cboNumber.ForEach([](forms::ComboBox& list, int) {
+    window_.State.NumbersPerTicket = FamilyFacts::NumbersPerTicket[window_.Which];
+    const int lowest = FamilyFacts::LowestNumber[window_.Which];
+    const int highest = FamilyFacts::HighestNumber[window_.Which];
+    cboNumber.ForEach([&](forms::ComboBox& list, int) {
         list.Clear();
-        for (int digit = 0; digit <= HighestDigit; ++digit) list.AddItem(Str(digit));
+        for (int digit = lowest; digit <= highest; ++digit) list.AddItem(Str(digit));
     });
     NextSheet();
     fraWayPlayed.SetEnabled(true);
@@ -135,8 +136,7 @@ void DigitCapture::optPlayOpt_Click(int Index) {
     const GameKey* key = FindKey(window_.Which, g_.LottoFlag);
     const std::string_view way = key ? key->Ways.at(static_cast<std::size_t>(Index)) : std::string_view();
     if (!way.empty()) g_.PlayOption = way;
-    // Straight/Box costs at least two units.
-    if (g_.LottoFlag != "FLACash3" || Index != 2 || !optOneDollar.Value()) return;
+    if (!key || Index != key->WayOfTwoUnits || !optOneDollar.Value()) return;
     optOneDollar.SetValue(false);
     optTwoDollars.SetValue(true);
 }

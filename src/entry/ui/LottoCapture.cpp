@@ -7,6 +7,7 @@
 #include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
 #include "platform/Text.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -24,7 +25,9 @@ constexpr PerFamily<int> GridColumns{{10, 10, 9, 10, 10, 1, 1}};
 }  // namespace
 
 LottoCapture::LottoCapture(GameWindow& window)
-    : window_(window), g_(window.run.global), grid_(GridNumbers[window.Which], GridColumns[window.Which]) {
+    : window_(window),
+      g_(window.run.global),
+      grid_(FamilyFacts::CountOfNumbers(window.Which), GridColumns[window.Which]) {
     grid_.SetOpen(false);
     grid_.chkNumb.OnClick([this](int Index) { chkNumb_Click(Index); });
 }
@@ -33,7 +36,7 @@ void LottoCapture::AddToTabOrder(std::vector<QWidget*>& order) {
     grid_.chkNumb.ForEach([&](forms::NumberBall& ball, int) { order.push_back(&ball); });
 }
 
-void LottoCapture::Load() { window_.State.NumbersPerTicket = NumbersPerTicket[window_.Which]; }
+void LottoCapture::Load() { window_.State.NumbersPerTicket = FamilyFacts::NumbersPerTicket[window_.Which]; }
 
 void LottoCapture::Close() {
     grid_.Clear();
@@ -53,7 +56,7 @@ bool LottoCapture::CountNumber(int Index) {
     return g_.NumbersPicked == NumbersWanted();
 }
 
-int LottoCapture::NumbersWanted() const { return TicketLength[window_.Which]; }
+int LottoCapture::NumbersWanted() const { return FamilyFacts::NumbersPerTicket[window_.Which]; }
 
 void LottoCapture::chkNumb_Click(int Index) {
     if (!CountNumber(Index)) return;
@@ -96,8 +99,7 @@ void LottoCapture::StoreTicket() {
     BeforeStoring();
     g_.Lotto6Tickets.RedimPreserve(g_.NoOfTicketsOnSheet);
     Lotto6Ticket& ticket = g_.Lotto6Tickets(g_.TicketNo - 1);
-    // Of Lotto 6/49 the grid of the last ticket is cleared too; of the others it stays shown.
-    const int cleared = g_.NoOfTicketsOnSheet * (g_.LottoFlag == "Lotto649" ? 2 : 1);
+    const int cleared = g_.NoOfTicketsOnSheet * (CellsOf(g_.LottoFlag).ClearsLastGrid ? 2 : 1);
     TakeNumbers(ticket, g_.TicketNo < cleared);
     if (window_.Enter.chkRegular.Value() == 1) ticket.Regular = True;
     AfterStoring(g_.TicketNo < g_.NoOfTicketsOnSheet);
@@ -123,10 +125,10 @@ std::string LottoCapture::AmountAtCount(int tickets) const {
     return DefaultAmount(window_.Which, g_.LottoFlag, tickets);
 }
 
-bool BonusCapture::HasBonus() const { return g_.LottoFlag == BonusKey[window_.Which]; }
+bool BonusCapture::HasBonus() const { return SheetFactor(window_.Which, g_.LottoFlag) > 1; }
 
 int BonusCapture::SheetTotal() const {
-    return g_.NoOfTicketsOnSheet * (HasBonus() ? SheetFactor[window_.Which] : 1);
+    return g_.NoOfTicketsOnSheet * SheetFactor(window_.Which, g_.LottoFlag);
 }
 
 bool BonusCapture::SheetIsFull() const { return LottoCapture::SheetIsFull() || g_.TicketNo == SheetTotal(); }

@@ -41,7 +41,7 @@ void SheetFlow::TicketCountLeft(int Index) {
     w.State.CurrentSheet = 1;
     w.Enter.ShowTitle("Ticket #", g.TicketNo + 1);
     DefaultTheAmount(count);
-    if (g.LottoFlag == "Quebec49") w.Enter.AddOns.EnableCheck();
+    if (CellsOf(g.LottoFlag).CheckLiveAtCount) w.Enter.AddOns.EnableCheck();
     count.SetTabStop(false);
 }
 
@@ -72,8 +72,7 @@ void SheetFlow::AskForCount(forms::TextBox& count) {
 
 void SheetFlow::SetSheetTickets() {
     Global& g = window_.run.global;
-    const bool bonus = !BonusKey[window_.Which].empty() && g.LottoFlag == BonusKey[window_.Which];
-    g.SheetTickets = g.NoOfTickets * (bonus ? SheetFactor[window_.Which] : 1);
+    g.SheetTickets = g.NoOfTickets * SheetFactor(window_.Which, g.LottoFlag);
     aTicketASheet_ = g.NoOfTickets == g.NoOfSheets;
 }
 
@@ -215,7 +214,7 @@ void SheetFlow::OfferCleanUp(std::string_view title) {
     window_.NameTables();
     DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
     const AddOn* addOn = FindAddOn(g.ExtraFlag);
-    if (addOn && (Cleans[window_.Which] & KeyBit(g.ExtraFlag)) != 0) {
+    if (addOn && Has(Cleans[window_.Which], g.ExtraFlag)) {
         state.TableName = addOn->Played;
         DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
     }
