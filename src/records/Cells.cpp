@@ -142,9 +142,10 @@ std::optional<long> ReadWhole(std::string_view text) {
 
 std::optional<Currency> ReadAmount(std::string_view text) {
     if (const std::size_t sign = text.find('$'); sign != std::string_view::npos) {
-        if (sign > 1 || (sign == 1 && text.front() != '-')) return std::nullopt;
         std::string plain(text);
         plain.erase(sign, 1);
+        const bool leads = sign == 0 || (sign == 1 && text.front() == '-');
+        if (!leads || plain.find('$') != std::string::npos) return std::nullopt;
         return ReadAmount(plain);
     }
     Currency amount;

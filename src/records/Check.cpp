@@ -74,12 +74,7 @@ class Examination {
 
     void CompareIndexes(const Dao::FileTable& found, const Dao::FileTable& due) {
         for (const Dao::FileIndex& index : due.indexes) {
-            const bool there =
-                std::any_of(found.indexes.begin(), found.indexes.end(), [&](const Dao::FileIndex& one) {
-                    return SameWord(one.name, index.name) && SameWord(one.field, index.field) &&
-                           one.unique == index.unique;
-                });
-            if (!there)
+            if (!HasIndex(found, index))
                 Tell(Weight::Damage,
                      found.name + ": the index over " + index.field + " is missing or another");
         }

@@ -19,6 +19,13 @@ class CommandLine {
         AddData(app_);
         AddShow();
         AddCheck();
+        AddBackup();
+        AddRestore();
+        AddRenumber();
+        AddExport();
+        AddImport();
+        AddDraws();
+        AddTickets();
     }
 
     int Run(std::vector<std::string> arguments) {
@@ -48,7 +55,11 @@ class CommandLine {
     CLI::App* Command(const std::string& name, const std::string& what, std::function<int()> work) {
         CLI::App* command = app_.add_subcommand(name, what);
         AddData(*command);
-        command->callback([this, work = std::move(work)] { chosen_ = work; });
+        command->callback([this, name, work = std::move(work)] {
+            const bool history = name == "draws" || name == "tickets";
+            if (history && !list_ && file_.empty()) throw CLI::RequiredError("GAME and FILE");
+            chosen_ = work;
+        });
         return command;
     }
 
@@ -63,11 +74,119 @@ class CommandLine {
                 [this] { return Check(outside_, Records().File()); });
     }
 
+    void AddBackup() {
+        CLI::App* backup = Command("backup", "A copy that is known to be whole, also while the program runs",
+                                   [this] { return Backup(outside_, Records(), BackupWished()); });
+        CLI::Option* file = backup->add_option(
+            "FILE", file_, "Where to (default: a name with date and time in \"backups\" beside the file)");
+        backup
+            ->add_option("--keep", keep_, "Of the copies in \"backups\" keep the newest N, remove the others")
+            ->type_name("N")
+            ->check(CLI::Range(1, 1'000'000))
+            ->excludes(file);
+        AddForce(*backup, "Write over FILE");
+    }
+
+    BackupWish BackupWished() const {
+        BackupWish wish{{}, force_, keep_};
+        if (!file_.empty()) wish.to = Utf8Path(file_);
+        return wish;
+    }
+
+    void AddRestore() {
+        CLI::App* restore =
+            Command("restore", "Puts a copy back; the file that stands there is kept beside it",
+                    [this] { return Restore(outside_, Records(), Utf8Path(file_), force_); });
+        restore->add_option("FILE", file_, "The copy")->required();
+        AddForce(*restore, "Take a copy with rows that check finds fault with");
+    }
+
+    void AddRenumber() {
+        Command("renumber",
+                "Counts the keys of every table from 1 again, so that saving works after a clean-up",
+                [this] { return Renumber(outside_, Records()); });
+    }
+
+    void AddExport() {
+        CLI::App* command =
+            Command("export", "Every table as CSV, or all of them as one JSON document", [this] {
+                return Export(outside_, Records(), {Utf8Path(json_ ? jsonFile_ : file_), json_, force_});
+            });
+        auto* to = command->add_option_group("TO")->require_option(1);
+        to->add_option("FOLDER", file_, "A CSV file for each table is written here");
+        to->add_option("--json", jsonFile_, "One JSON document instead (-: standard output)")
+            ->type_name("FILE")
+            ->each([this](const std::string&) { json_ = true; });
+        AddForce(*command, "Write over files");
+    }
+
+    void AddImport() {
+        CLI::App* command = Command(
+            "import", "Rows from a folder of CSV files named like the tables, all of them or none", [this] {
+                return Import(outside_, Records(), {Utf8Path(file_), dryRun_, newKeys_});
+            });
+        command->add_option("FOLDER", file_, "With PlayedBC49.csv and so on")->required();
+        command->add_flag("--new-keys", newKeys_, "Leave the column ID1 aside and count the keys on");
+        AddDryRun(*command);
+    }
+
+    void AddDraws() {
+        CLI::App* command =
+            Command("draws", "A history of draws, so that frequencies and wheels work from the first day",
+                    [this] { return list_ ? ListGames(outside_) : Draws(outside_, Records(), Wished()); });
+        CLI::Option* game = AddHistory(*command, "a date, the numbers, the bonus number, the add-on number");
+        command->add_flag("--replace", replace_,
+                          "Let the file's numbers take the place of those that are there");
+        CLI::Option* list = command->add_flag("--list", list_, "Name the games");
+        list->excludes(game);
+    }
+
+    void AddTickets() {
+        CLI::App* command = Command("tickets", "Tickets that were played",
+                                    [this] { return Tickets(outside_, Records(), Wished()); });
+        AddHistory(*command, "a date, the numbers, way, wager, regular, earlybird, the add-on number, price");
+        command->add_flag("--spent", spent_, "Book what the tickets cost, a sum for each date");
+    }
+
+    CLI::Option* AddHistory(CLI::App& command, const std::string& columns) {
+        CLI::Option* game = command.add_option("GAME", game_, "As \"draws --list\" names it, or its key");
+        command.add_option("FILE", file_, "CSV with " + columns);
+        command
+            .add_option("--columns", columns_,
+                        "What the columns hold, parted by commas, in place of a first line")
+            ->type_name("NAMES");
+        command.add_flag("--day-first", dayFirst_, "04/07/2020 is the 4th of July");
+        AddDryRun(command);
+        return game;
+    }
+
+    HistoryWish Wished() const {
+        return {game_, Utf8Path(file_), columns_, dayFirst_, replace_, spent_, dryRun_};
+    }
+
+    void AddDryRun(CLI::App& command) {
+        command.add_flag("--dry-run", dryRun_, "Tell everything and change nothing");
+    }
+
+    void AddForce(CLI::App& command, const std::string& what) { command.add_flag("--force", force_, what); }
+
     Outside& outside_;
     CLI::App app_{"Brings the records of Sorvane in and out, and looks after their file.", "sorvane-records"};
     std::function<int()> chosen_;
     std::string data_;
+    std::string file_;
+    std::string jsonFile_;
+    std::string game_;
+    std::string columns_;
+    bool dayFirst_ = false;
+    bool replace_ = false;
+    bool spent_ = false;
+    bool list_ = false;
     bool json_ = false;
+    bool force_ = false;
+    bool dryRun_ = false;
+    bool newKeys_ = false;
+    int keep_ = 0;
 };
 
 }  // namespace

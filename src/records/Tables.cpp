@@ -205,7 +205,7 @@ std::string JudgeValue(const Table& table, const Field& field, const Dao::Value&
 }
 
 // A slip takes each number once; in keno the balls that were not played are 0 and come last.
-void JudgeSlip(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+void JudgeSlip(const Table& table, const Row& row, const Complain& complain) {
     std::set<std::int64_t> seen;
     for (std::size_t i = 0; i < row.size(); ++i) {
         const Field& field = table.fields[i];
@@ -218,7 +218,7 @@ void JudgeSlip(const Table& table, const std::vector<Dao::Value>& row, const Com
 }
 
 // "Not played" is told by all digits together.
-void JudgeDigits(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+void JudgeDigits(const Table& table, const Row& row, const Complain& complain) {
     int digits = 0, sentinels = 0;
     std::size_t last = 0;
     for (std::size_t i = 0; i < row.size(); ++i) {
@@ -273,12 +273,29 @@ Dao::FileTable AsInFile(const Table& table) {
     return made;
 }
 
+bool SameShape(const Dao::FileTable& found, const Dao::FileTable& due) {
+    const auto sameField = [](const Dao::FileField& a, const Dao::FileField& b) {
+        return SameWord(a.name, b.name) && a.type == b.type;
+    };
+    if (!std::equal(found.fields.begin(), found.fields.end(), due.fields.begin(), due.fields.end(),
+                    sameField))
+        return false;
+    return std::all_of(due.indexes.begin(), due.indexes.end(),
+                       [&](const Dao::FileIndex& index) { return HasIndex(found, index); });
+}
+
+bool HasIndex(const Dao::FileTable& table, const Dao::FileIndex& due) {
+    return std::any_of(table.indexes.begin(), table.indexes.end(), [&](const Dao::FileIndex& one) {
+        return SameWord(one.name, due.name) && SameWord(one.field, due.field) && one.unique == due.unique;
+    });
+}
+
 const NumbersOf& Numbers(Family family) {
     static constexpr PerFamily<NumbersOf> numbers = NumberTable;
     return numbers[family];
 }
 
-void JudgeRow(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain) {
+void JudgeRow(const Table& table, const Row& row, const Complain& complain) {
     bool sound = true;
     for (std::size_t i = 0; i < row.size(); ++i) {
         const std::string what = JudgeValue(table, table.fields[i], row[i]);

@@ -63,6 +63,10 @@ Dao::TableDef Define(const Table& table);
 // The same as a file would state it.
 Dao::FileTable AsInFile(const Table& table);
 
+// Whether a table of a file has the fields and indexes of the one due.
+bool HasIndex(const Dao::FileTable& table, const Dao::FileIndex& due);
+bool SameShape(const Dao::FileTable& found, const Dao::FileTable& due);
+
 // Numbers of a game. What a slip offers and what a draw may hold differ in Super 7.
 struct NumbersOf {
     int count;  // on a ticket; of keno the most that are kept
@@ -75,10 +79,12 @@ struct NumbersOf {
 };
 const NumbersOf& Numbers(Family family);
 
+using Row = std::vector<Dao::Value>;
+
 // Tells what is wrong with a row whose values stand in their fields' types or as they are stored: the field,
 // and a text that goes on after its name.
 using Complain = std::function<void(const Field& field, const std::string& what)>;
-void JudgeRow(const Table& table, const std::vector<Dao::Value>& row, const Complain& complain);
+void JudgeRow(const Table& table, const Row& row, const Complain& complain);
 
 // Of a game key: "Lotto 6/49", as its window calls it; the key itself where no menu entry opens the game.
 std::string TitleOf(const GameKey& key);

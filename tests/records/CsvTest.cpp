@@ -1,0 +1,177 @@
+#include "records/Csv.h"
+
+#include "records/Cells.h"
+#include "records/RecordsWorld.h"
+
+namespace sorvane::Records {
+namespace {
+
+class Csv : public testing::RecordsWorld {
+  public:
+    // The cells of each record joined by '|', quoted ones in brackets.
+    std::vector<std::string> Read(const std::string& text) {
+        CsvReader reader(Write("a.csv", text));
+        std::vector<CsvCell> record;
+        std::vector<std::string> records;
+        try {
+            while (reader.Next(record)) {
+                std::string line;
+                for (const CsvCell& cell : record)
+                    line += (line.empty() ? "" : "|") + (cell.quoted ? "[" + cell.text + "]" : cell.text);
+                records.push_back(line);
+            }
+        } catch (const CsvReader::Broken& broken) {
+            records.push_back(std::to_string(broken.line) + ":" + std::to_string(broken.column) + " " +
+                              broken.what);
+        }
+        return records;
+    }
+};
+using Lines = std::vector<std::string>;
+
+TEST_F(Csv, ReadsCellsWithAndWithoutQuotes) {
+    EXPECT_EQ(Read("a,b,c\r\n1,\"2,5\",\"say \"\"x\"\"\"\r\n"), (Lines{"a|b|c", "1|[2,5]|[say \"x\"]"}));
+    EXPECT_EQ(Read("a,,\n,\"\",\n"), (Lines{"a||", "[]|"}));
+    EXPECT_EQ(Read("\"two\r\nlines\",x"), (Lines{"[two\nlines]|x"}));
+}
+
+TEST_F(Csv, TakesEveryKindOfLineEndAndPassesOverEmptyLinesAndTheMarkOfUtf8) {
+    EXPECT_EQ(Read("\xEF\xBB\xBF"
+                   "a,b\n\n1,2\r3,4\r\n\r\n5,6"),
+              (Lines{"a|b", "1|2", "3|4", "5|6"}));
+    EXPECT_EQ(Read(""), Lines());
+    EXPECT_EQ(Read("\n\n"), Lines());
+}
+
+TEST_F(Csv, TakesSemicolonsAndTabsWhereTheFirstLineHasThem) {
+    EXPECT_EQ(Read("a;b\n1,5;2\n"), (Lines{"a|b", "1,5|2"}));
+    EXPECT_EQ(Read("a\tb\n1\t\t\n"), (Lines{"a|b", "1||"}));
+    EXPECT_EQ(Read("a,b;c\n"), (Lines{"a|b;c"}));
+}
+
+TEST_F(Csv, LeavesBlanksAroundCellsAside) { EXPECT_EQ(Read(" a , \"b \" ,c\n"), (Lines{"a|[b ]|c"})); }
+
+TEST_F(Csv, SaysWhereTheRestCantBeRead) {
+    EXPECT_EQ(Read("a\nb,\"c\nd"), (Lines{"a", "2:3 the quote that opens here is not closed"}));
+    EXPECT_EQ(Read("a,\"b\"c"), (Lines{"1:3 the quote that opens here closes too early"}));
+    EXPECT_EQ(Read(std::string("a,b\n\0", 5)), (Lines{"a|b", "2:1 this is no text in UTF-8"}));
+    EXPECT_EQ(Read("a,\xE9t\xE9"), (Lines{"1:3 this is no text in UTF-8"}));
+    EXPECT_EQ(Read("\xFF\xFE"
+                   "a"),
+              (Lines{"1:1 this is no text in UTF-8"}));
+    EXPECT_EQ(Read("a\n\"" + std::string(70'000, 'x')),
+              (Lines{"a", "2:1 the quote that opens here is not closed"}));
+    EXPECT_EQ(Read(std::string(70'000, 'x')), (Lines{"1:1 this line is too long"}));
+    EXPECT_EQ(Read(std::string(70'000, ',')).size(), 1U);
+}
+
+TEST_F(Csv, CountsColumnsInCharacters) {
+    CsvReader reader(Write("a.csv", "x\n\"\xC3\xA9\xC3\xA9\",b,c\n"));
+    std::vector<CsvCell> record;
+    reader.Next(record);
+    reader.Next(record);
+    EXPECT_EQ(record[1].line, 2);
+    EXPECT_EQ(record[1].column, 6);
+    EXPECT_EQ(record[2].column, 8);
+}
+
+TEST_F(Csv, WritesWhatItReads) {
+    for (const std::string text : {"plain", "a,b", "say \"x\"", "", " blank", "two\nlines", "semi;colon"}) {
+        const auto read = Read(CsvText(text) + ",end\n");
+        ASSERT_EQ(read.size(), 1U);
+        EXPECT_TRUE(read[0] == text + "|end" || read[0] == "[" + text + "]|end") << read[0];
+    }
+    EXPECT_EQ(CsvText("plain"), "plain");
+    EXPECT_EQ(CsvText(""), "\"\"");
+}
+
+TEST(Utf8, KnowsWhatIsNone) {
+    for (const std::string text : {"", "abc", "\xC3\xA9", "\xE2\x82\xAC", "\xF0\x9F\x8E\xB1"})
+        EXPECT_TRUE(IsUtf8(text));
+    for (const std::string text : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80",
+                                   "\xF0\x80\x80\x80", "\xF4\x90\x80\x80", "\xFF", "\xE2\x82"})
+        EXPECT_FALSE(IsUtf8(text));
+}
+
+std::string Day(std::string_view text, DateOrder order = DateOrder::MonthFirst) {
+    const auto date = ReadDate(text, order);
+    return date ? date->ToText() : "none";
+}
+
+TEST(Dates, AreReadInManyForms) {
+    for (const char* text : {"2026-11-21",
+                             "2026/11/21",
+                             "20261121",
+                             "11/21/2026",
+                             "11/21/26",
+                             "11-21-2026",
+                             "21.11.2026",
+                             "21.11.26",
+                             "21 Nov 2026",
+                             "Nov 21, 2026",
+                             "november 21 2026",
+                             "21-Nov-26",
+                             "Sat, Nov 21, 2026",
+                             "Saturday 21 November 2026",
+                             "2026-Nov-21",
+                             " 2026-11-21 ",
+                             "2026-11-21 00:00:00",
+                             "11/21/26 00:00:00",
+                             "2026-11-21T20:15:00Z",
+                             "11/21/2026 8:15 PM",
+                             "2026-11-21 20:15:00.000"})
+        EXPECT_EQ(Day(text), "2026-11-21") << text;
+}
+
+TEST(Dates, TakeTheDayFirstWhereThatIsTold) {
+    EXPECT_EQ(Day("04/07/2020"), "2020-04-07");
+    EXPECT_EQ(Day("04/07/2020", DateOrder::DayFirst), "2020-07-04");
+    EXPECT_EQ(Day("4.7.2020"), "2020-07-04");
+    EXPECT_EQ(Day("2020-07-04", DateOrder::DayFirst), "2020-07-04");
+}
+
+TEST(Dates, WithTwoDigitsOfAYearLieFrom1930To2029) {
+    EXPECT_EQ(Day("01/02/29"), "2029-01-02");
+    EXPECT_EQ(Day("01/02/30"), "1930-01-02");
+    EXPECT_EQ(Day("01/02/00"), "2000-01-02");
+}
+
+TEST(Dates, ThatAreNoneAreRefused) {
+    for (const char* text :
+         {"",           "soon",  "2026-13-01",    "2026-02-30",  "13/13/2020",  "2026-11",
+          "11/21",      "1/2/3", "1/2/2020/4",    "2026--11-21", "-2026-11-21", "2026-11-21x",
+          "202611211",  "46347", "2026-11-21 25", "0000-01-01",  "Nov 2026",    "Foo 21, 2026",
+          "11:21:2026", ":"})
+        EXPECT_EQ(Day(text), "none") << text;
+}
+
+TEST(Marks, AreReadAsOtherToolsWriteThem) {
+    for (const char* text : {"1", "-1", "Yes", "TRUE", "on", "x", "y"})
+        EXPECT_EQ(ReadMark(text), true) << text;
+    for (const char* text : {"0", "No", "false", "Off", "n"}) EXPECT_EQ(ReadMark(text), false) << text;
+    for (const char* text : {"2", "", "ja", "10"}) EXPECT_EQ(ReadMark(text), std::nullopt) << text;
+}
+
+TEST(Numbers, AreReadWhole) {
+    EXPECT_EQ(ReadWhole("7"), 7);
+    EXPECT_EQ(ReadWhole("+07"), 7);
+    EXPECT_EQ(ReadWhole("-3"), -3);
+    for (const char* text : {"", "7.5", "7 ", "seven", "99999999999", "+", "0x7"})
+        EXPECT_EQ(ReadWhole(text), std::nullopt) << text;
+}
+
+TEST(Amounts, AreReadWithAndWithoutTheirSign) {
+    const auto amount = [](const char* text) {
+        const auto read = ReadAmount(text);
+        return read ? read->ToText() : "none";
+    };
+    EXPECT_EQ(amount("4.50"), "4.5");
+    EXPECT_EQ(amount("$1,250.00"), "1250");
+    EXPECT_EQ(amount("-$2"), "-2");
+    EXPECT_EQ(amount("4.0000"), "4");
+    for (const char* text : {"", "$", "1$", "1,5", "five", "$$1", "99999999999999999999"})
+        EXPECT_EQ(amount(text), "none") << text;
+}
+
+}  // namespace
+}  // namespace sorvane::Records
