@@ -17,6 +17,7 @@ class CommandLine {
     explicit CommandLine(Outside& outside) : outside_(outside) {
         app_.require_subcommand(1);
         AddData(app_);
+        app_.set_version_flag("--version", std::string(Deployment::Version));
         AddShow();
         AddCheck();
         AddBackup();

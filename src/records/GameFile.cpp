@@ -177,7 +177,7 @@ std::optional<GameFile::Column> GameFile::AddOnColumn(const std::string& essence
         if (stem.ends_with(end) && stem.size() > end.size()) stem.resize(stem.size() - end.size());
     if (stem != key && stem != EssenceOf(game_.addOn->Name) && stem != "addon") return std::nullopt;
     if (number == 0) return Column{Part::AddOn, 0};
-    if (game_.addOn->Digits > 0 || number > 4) return std::nullopt;
+    if (!game_.addOn->FourNumbers || number > 4) return std::nullopt;
     return Column{Part::AddOnNumber, number};
 }
 
@@ -200,8 +200,7 @@ GameFile::Column GameFile::ColumnOf(std::string_view name) const {
     if (IsPick(family) && OneOf(essence, {"way", "wayplayed", "play", "playtype"})) return {Part::Way};
     if ((IsKeno(family) || IsPick(family)) && OneOf(essence, {"wager", "bet"})) return {Part::Wager};
     if (OneOf(essence, {"regular", "regularlyplayed"})) return {Part::Regular};
-    if (family == Family::frm645 && OneOf(essence, {"earlybird", "earlybirdplayed"}))
-        return {Part::EarlyBird};
+    if (game_.key->HasEarlyBird && OneOf(essence, {"earlybird", "earlybirdplayed"})) return {Part::EarlyBird};
     if (OneOf(essence, {"price", "cost", "paid", "spent"})) return {Part::Price};
     return {};
 }
@@ -346,7 +345,7 @@ void GameFile::ReadAddOn(const CsvCell& cell, Entry& entry) {
     if (!OnlyFiguresAndSigns(cell.text)) return Tell(cell, "\"" + cell.text + "\" is more than numbers");
     const std::vector<std::string_view> figures = FiguresIn(cell.text);
     const auto digits = static_cast<std::size_t>(game_.addOn->Digits);
-    if (digits == 0) {
+    if (game_.addOn->FourNumbers) {
         for (const std::string_view number : figures) entry.addOn.push_back(ReadNumber(cell, number, 1, 99));
         return;
     }
@@ -388,7 +387,7 @@ void GameFile::JudgeEntry(Entry& entry) {
         if (entry.bonus && seen.count(*entry.bonus) != 0)
             return Tell(line, "the bonus number " + Str(*entry.bonus) + " is among the others");
     }
-    if (!entry.addOn.empty() && game_.addOn->Digits == 0 && entry.addOn.size() != 4)
+    if (!entry.addOn.empty() && game_.addOn->FourNumbers && entry.addOn.size() != 4)
         return Tell(line, std::string(game_.addOn->Name) + " has " +
                               Counted(static_cast<long>(entry.addOn.size()), "number") + " instead of 4");
     if (!draws && !numbers_.digits) std::sort(entry.numbers.begin(), entry.numbers.end());

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "entry/Amounts.h"
-#include "entry/EntryFacts.h"
 #include "platform/Text.h"
 #include "records/Commands.h"
 #include "records/GameFile.h"
@@ -33,7 +32,7 @@ void PutNumbers(Row& row, const Table& table, const std::string& first, const st
 }
 
 void PutAddOn(Row& row, const Table& table, const std::vector<int>& numbers) {
-    PutNumbers(row, table, table.addOn->Digits > 0 ? "Number 1" : "Ball_1", numbers);
+    PutNumbers(row, table, !table.addOn->FourNumbers ? "Number 1" : "Ball_1", numbers);
 }
 
 // One draw a day into a Win table.
@@ -76,7 +75,7 @@ class DrawSink {
   private:
     // One row serves a day, but in the table of the four Extra numbers, where each game has its own.
     bool BelongsTo(const Row& a, const Row& b) const {
-        if (table_.addOn == nullptr || table_.addOn->Digits > 0) return true;
+        if (table_.addOn == nullptr || !table_.addOn->FourNumbers) return true;
         return a[Index(table_.GameAt())].Get() == b[Index(table_.GameAt())].Get();
     }
     // The game on the slip of which a digit add-on was checked says nothing of the draw.
@@ -198,7 +197,7 @@ Row TicketRow(const Table& table, const GameKey& key, const Entry& entry) {
     PutNumbers(row, table, "Ball_1", numbers);
     if (IsPick(key.in)) row[Index(table.At("Way Played"))] = entry.way;
     row[Index(table.At("Regular"))] = entry.regular;
-    if (key.in == Family::frm645) row[Index(table.At("EarlyBird"))] = entry.earlyBird;
+    if (key.HasEarlyBird) row[Index(table.At("EarlyBird"))] = entry.earlyBird;
     return row;
 }
 
@@ -220,7 +219,7 @@ void Count(Paid& paid, const Entry& entry, const GameKey& key) {
 
 // Tickets that came free with another cost nothing.
 Currency AmountOf(const Paid& paid, const GameKey& key) {
-    const int factor = BonusKey[key.in] == key.LottoFlag ? SheetFactor[key.in] : 1;
+    const int factor = SheetFactor(key.in, key.LottoFlag);
     const int bought = (paid.untold + factor - 1) / factor;
     return paid.told + Currency::FromText(DefaultAmount(key.in, key.LottoFlag, bought));
 }

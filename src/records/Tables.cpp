@@ -116,7 +116,7 @@ std::vector<Table> AllTables() {
         add(key.Win, Use::Win, shapes.win, &key, nullptr, key.Played);
     }
     for (const AddOn& addOn : AddOns()) {
-        const bool digits = addOn.Digits > 0;
+        const bool digits = !addOn.FourNumbers;
         add(addOn.Played, Use::AddOnPlayed, digits ? &CreatePlayedAddOnTable : &CreatePlayedPick4Table,
             nullptr, &addOn, addOn.Win);
         add(addOn.Win, Use::AddOnWin, digits ? &CreateWinAddOnTable : &CreateWinPick4Table, nullptr, &addOn,
@@ -305,7 +305,7 @@ void JudgeRow(const Table& table, const Row& row, const Complain& complain) {
     }
     if (!sound) return;
     if (table.use == Use::Played && !Numbers(table.game->in).digits) JudgeSlip(table, row, complain);
-    if (table.use == Use::AddOnPlayed && table.addOn->Digits > 0) JudgeDigits(table, row, complain);
+    if (table.use == Use::AddOnPlayed && !table.addOn->FourNumbers) JudgeDigits(table, row, complain);
 }
 
 const GameKey* FindGameKey(std::string_view LottoFlag) {
