@@ -7,6 +7,7 @@
 
 #include "entry/ui/GameWindow.h"
 #include "forms/Application.h"
+#include "forms/DesktopTools.h"
 #include "forms/MessageBoxes.h"
 #include "forms/PrinterDialog.h"
 #include "platform/SystemServices.h"
@@ -31,7 +32,7 @@ int main(int, char** argv) {
     forms::PrinterDialog printer;
     SystemClock clock;
     SystemRandom random;
-    DesktopTools tools;
+    forms::DesktopTools tools;
     Dao::Engine engine;
     Services services{dialogs, printer, clock, random, tools, engine};
     Global global;

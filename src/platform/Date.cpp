@@ -1,38 +1,29 @@
 #include "platform/Date.h"
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 
 namespace sorvane {
 
 namespace {
 
-bool IsLeapYear(long year) { return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0); }
+namespace chrono = std::chrono;
 
-// Days from 1 January 0001 to 1 January of the year.
-long DaysBeforeYear(long year) {
-    const long years = year - 1;
-    return 365 * years + years / 4 - years / 100 + years / 400;
-}
+// 1 January 1970, the first day of the library's calendar.
+constexpr long SystemDay = 25'569;
 
-// Days from 1 January to the first of the month; month 13 is the length of the year.
-long DaysBeforeMonth(long year, int month) {
-    constexpr std::array<int, 13> Before = {0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
-    return Before[static_cast<std::size_t>(month - 1)] + (month > 2 && IsLeapYear(year) ? 1 : 0);
-}
-
-long DaysOfMonth(long year, int month) {
-    return DaysBeforeMonth(year, month + 1) - DaysBeforeMonth(year, month);
-}
-
+// Judged before the library sees them: its years and months keep the low bits of a number alone.
 bool IsDate(int year, int month, int day) {
-    return year >= 1 && year <= 9999 && month >= 1 && month <= 12 && day >= 1 &&
-           day <= DaysOfMonth(year, month);
+    if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return false;
+    return chrono::year_month_day(chrono::year(year), chrono::month(static_cast<unsigned>(month)),
+                                  chrono::day(static_cast<unsigned>(day)))
+        .ok();
 }
 
 double DaysOf(int year, int month, int day) {
-    return static_cast<double>(Date::FirstDay + DaysBeforeYear(year) + DaysBeforeMonth(year, month) + day -
-                               1);
+    const chrono::sys_days days = chrono::year(year) / month / day;
+    return static_cast<double>(days.time_since_epoch().count() + SystemDay);
 }
 
 // The number that these digits write; -1 when there is another sign among them.
@@ -62,16 +53,8 @@ Date Date::FromText(std::string_view text) {
 }
 
 Date::Ymd Date::ToYmd() const {
-    long days = Day() - FirstDay;
-    // 400 years have 146,097 days, so this year is the right one or its neighbour.
-    long year = days * 400 / 146'097 + 1;
-    while (DaysBeforeYear(year) > days) --year;
-    while (DaysBeforeYear(year + 1) <= days) ++year;
-    days -= DaysBeforeYear(year);
-    int month = 1;
-    while (DaysBeforeMonth(year, month + 1) <= days) ++month;
-    days -= DaysBeforeMonth(year, month);
-    return {static_cast<int>(year), month, static_cast<int>(days) + 1};
+    const chrono::year_month_day ymd = chrono::sys_days(chrono::days(Day() - SystemDay));
+    return {int(ymd.year()), static_cast<int>(unsigned(ymd.month())), static_cast<int>(unsigned(ymd.day()))};
 }
 
 std::string Date::ToText() const {

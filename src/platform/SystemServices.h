@@ -1,10 +1,7 @@
-// The real services that need no window: clock, random numbers, programs of the desktop.
+// The real services that need no window: clock and random numbers.
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string>
-#include <string_view>
 
 #include "platform/Services.h"
 #include "platform/SplitMix.h"
@@ -26,23 +23,6 @@ class SystemRandom final : public RandomSource {
   private:
     SplitMix seeds_;
     SplitMix mix_{0};
-};
-
-class DesktopTools final : public SystemTools {
-  public:
-    // The folders to search, parted as in PATH.
-    explicit DesktopTools(std::string searchPath = SystemSearchPath()) : searchPath_(std::move(searchPath)) {}
-
-    // The first program with this plain name in the folders searched. Folders that aren't absolute are left
-    // out, so that a program beside a document is never taken.
-    std::optional<std::string> Find(std::string_view name) const override;
-    void Start(const std::string& path) override;
-
-    // PATH as it is set, else empty.
-    static std::string SystemSearchPath();
-
-  private:
-    std::string searchPath_;
 };
 
 }  // namespace sorvane

@@ -27,6 +27,9 @@ Integer IntegerPart(std::string_view text);
 // Plain decimal text of a whole number, without blanks.
 std::string Str(long number);
 
+// Whether this byte of a text in UTF-8 is the first one of a character.
+constexpr bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
 inline int Len(std::string_view text) { return static_cast<int>(text.size()); }
 // `length` characters from the 1-based `start`; what lies behind the end is left out. start below 1 or length
 // below 0 raises 5.

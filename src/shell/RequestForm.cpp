@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/Text.h"
 #include "shell/Deployment.h"
 
 namespace sorvane {
@@ -41,7 +42,7 @@ class Characters {
   public:
     explicit Characters(std::string_view text) : text_(text) {
         for (std::size_t at = 0; at < text.size(); ++at)
-            if ((static_cast<unsigned char>(text[at]) & 0xC0) != 0x80) starts_.push_back(at);
+            if (BeginsCharacter(text[at])) starts_.push_back(at);
     }
     std::size_t Count() const { return starts_.size(); }
     bool Is(std::size_t at, char character) const { return text_[starts_[at]] == character; }

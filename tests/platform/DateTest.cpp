@@ -72,7 +72,7 @@ TEST(DateTest, CountsFrom30December1899) {
 }
 
 TEST(DateTest, DatesThatDoNotExistRaiseInvalidProcedureCall) {
-    constexpr std::array<std::array<int, 3>, 16> None = {{{2026, 0, 1},
+    constexpr std::array<std::array<int, 3>, 19> None = {{{2026, 0, 1},
                                                           {2026, 13, 1},
                                                           {2026, -1, 1},
                                                           {2026, 1, 0},
@@ -87,6 +87,9 @@ TEST(DateTest, DatesThatDoNotExistRaiseInvalidProcedureCall) {
                                                           {-1, 1, 1},
                                                           {10'000, 1, 1},
                                                           {std::numeric_limits<int>::max(), 1, 1},
+                                                          {65'536 + 2026, 1, 1},
+                                                          {2026, 256 + 1, 1},
+                                                          {2026, 1, 256 + 1},
                                                           {2026, std::numeric_limits<int>::min(), 1}}};
     for (const auto& [year, month, day] : None)
         EXPECT_EQ(ErrorOf([y = year, m = month, d = day] { Date::FromYmd(y, m, d); }), 5)

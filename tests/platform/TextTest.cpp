@@ -108,6 +108,13 @@ TEST(TrimBlanksTest, TakesBlanksFromBothEndsOnly) {
     EXPECT_EQ(TrimBlanks(""), "");
 }
 
+TEST(BeginsCharacterTest, TellsFirstBytesFromThoseThatFollow) {
+    std::string firsts;
+    for (const char byte : std::string("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80\x7F"))
+        firsts += BeginsCharacter(byte) ? '1' : '0';
+    EXPECT_EQ(firsts, "11010010001");
+}
+
 TEST(PadLeftTest, PutsBlanksBeforeShortTextsAndLeavesLongOnes) {
     EXPECT_EQ(PadLeft("5.00", 14), "          5.00");
     EXPECT_EQ(PadLeft("12345678", 8), "12345678");

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "platform/RunTimeError.h"
+#include "platform/Text.h"
 
 namespace sorvane::Dao {
 
@@ -38,9 +39,7 @@ bool SameName(std::string_view a, std::string_view b) {
 }
 
 int CharactersOf(std::string_view utf8) {
-    return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-    }));
+    return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), BeginsCharacter));
 }
 
 // A fraction is stored as the binary number nearest to it, which must lead back to the same amount.
