@@ -1,15 +1,20 @@
 #include "platform/SystemFiles.h"
 
+#include <array>
+#include <cstdint>
 #include <system_error>
 
 #include "platform/RunTimeError.h"
-#include "platform/SystemServices.h"
 
 #ifdef _WIN32
 #include <io.h>
+#include <windows.h>
 #else
 #include <fcntl.h>
 #include <unistd.h>
+#endif
+#ifdef __APPLE__
+#include <mach-o/dyld.h>
 #endif
 
 namespace sorvane {
@@ -36,13 +41,30 @@ bool WordsGoToATerminal() { return isatty(STDERR_FILENO) == 1; }
 
 #endif
 
+namespace {
+
+// The file of the running program, empty when the system does not say.
+fs::path ProgramFile() {
+#if defined(_WIN32)
+    std::array<wchar_t, 32'768> path{};
+    GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size() - 1));
+    return path.data();
+#elif defined(__APPLE__)
+    std::array<char, 4096> path{};
+    std::uint32_t size = path.size();
+    return _NSGetExecutablePath(path.data(), &size) == 0 ? path.data() : "";
+#else
+    std::error_code none;
+    return fs::read_symlink("/proc/self/exe", none);
+#endif
+}
+
+}  // namespace
+
 fs::path ProgramFolder(const fs::path& calledAs) {
     std::error_code none;
-    const fs::path self = fs::read_symlink("/proc/self/exe", none);
-    if (!self.empty()) return self.parent_path();
-    if (calledAs.has_parent_path()) return fs::absolute(calledAs, none).parent_path();
-    const auto found = DesktopTools().Find(calledAs.string());
-    return found ? fs::path(*found).parent_path() : fs::current_path(none);
+    const fs::path self = ProgramFile();
+    return fs::absolute(self.empty() ? calledAs : self, none).parent_path();
 }
 
 }  // namespace sorvane

@@ -1,5 +1,5 @@
-// Files and terminals, where the language's own library says too little: with StartProgram the only place
-// that speaks to the operating system itself.
+// Files and terminals, where the language's own library says too little: the only place that speaks to
+// the operating system itself.
 #pragma once
 
 #include <filesystem>
