@@ -1,4 +1,4 @@
-# What whoever hands the program on sets: -D on the command line, or here.
+# Set these when you distribute the program: with -D on the command line, or here.
 set(SORVANE_ADDRESS_LINE_1 "Sorvane" CACHE STRING "Where request forms are mailed to, first line")
 set(SORVANE_ADDRESS_LINE_2 "Requests for new lotteries" CACHE STRING "... second line")
 set(SORVANE_ADDRESS_LINE_3 "in care of whoever gave you" CACHE STRING "... third line")

@@ -1,5 +1,5 @@
-# Flags of all our own targets. They are global, so that precompiled headers can be shared. The presets of the
-# checks make errors of the warnings; a newer compiler that warns of more stops nobody who only builds.
+# Compiler flags of all targets. They are global, so that precompiled headers can be shared. Only the presets of
+# the checks turn warnings into errors, so that a newer compiler with more warnings does not break a plain build.
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # GCC 12 warns of overlapping copies wherever a literal and a string are added.
@@ -24,7 +24,7 @@ if(SORVANE_REACH)
   link_libraries(reach)
 endif()
 
-# The rules of a room: standard C++ without Qt's include path.
+# A room without windows: standard C++, compiled without Qt's include path.
 #   sorvane_room(<name> FOLDER <folder below src> [LINK <targets>])
 function(sorvane_room name)
   cmake_parse_arguments(ARG "" "FOLDER" "LINK" ${ARGN})

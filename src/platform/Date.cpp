@@ -13,7 +13,7 @@ namespace chrono = std::chrono;
 // 1 January 1970, the first day of the library's calendar.
 constexpr long SystemDay = 25'569;
 
-// Judged before the library sees them: its years and months keep the low bits of a number alone.
+// The ranges come first: the library's years, months and days keep only the low bits of a number.
 bool IsDate(int year, int month, int day) {
     if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return false;
     return chrono::year_month_day(chrono::year(year), chrono::month(static_cast<unsigned>(month)),
@@ -26,7 +26,7 @@ double DaysOf(int year, int month, int day) {
     return static_cast<double>(days.time_since_epoch().count() + SystemDay);
 }
 
-// The number that these digits write; -1 when there is another sign among them.
+// The number written in these digits; -1 when one of the characters is no digit.
 int NumberOf(std::string_view digits) {
     int number = 0;
     for (const char digit : digits) {

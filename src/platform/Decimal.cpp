@@ -40,7 +40,7 @@ bool AnyBut(char digit, std::string_view digits) {
     return digits.find_first_not_of(digit) != std::string_view::npos;
 }
 
-// Whether the last digit kept goes up by one for the sake of those cut off.
+// Whether the last digit kept is rounded up.
 bool RoundsUp(std::string_view cutOff, bool lastIsOdd) {
     if (cutOff.empty() || cutOff.front() < '5') return false;
     return cutOff.front() > '5' || AnyBut('0', cutOff.substr(1)) || lastIsOdd;

@@ -1,5 +1,5 @@
-// What a list box is to a rule: lines are handed over as they come, so that what was shown before a failure
-// stays.
+// A list box as the rules see it. Each line is handed over as soon as it is made, so the lines that came
+// before a failure stay on the screen.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ class Lines {
     virtual int ListCount() const = 0;
 };
 
-// Lines kept in memory.
+// Keeps the lines in memory.
 class LineList final : public Lines {
   public:
     void AddItem(std::string_view text) override { items.emplace_back(text); }

@@ -53,7 +53,7 @@ std::string_view Sentence(int number) {
     return "Application-defined or object-defined error";
 }
 
-// Every sentence is a literal and so ends in a NUL.
+// Every sentence is a string literal, so it ends in a NUL.
 const char* RunTimeError::what() const noexcept { return Sentence(number_).data(); }
 
 void Raise(int number) { throw RunTimeError(number); }

@@ -11,7 +11,7 @@
 
 namespace sorvane {
 
-// The numbers that our own code raises or tests. The store's numbers are the engine's (design of store/dao).
+// The numbers that the program raises or tests. Those from 3010 to 3421 are the database engine's.
 namespace ErrorNumber {
 inline constexpr int InvalidProcedureCall = 5;
 inline constexpr int Overflow = 6;
@@ -65,8 +65,8 @@ class RunTimeError : public std::exception {
 // Throws RunTimeError(number).
 [[noreturn]] void Raise(int number);
 
-// Runs one statement and passes over the given errors; all others go on. True when the statement ran to its
-// end.
+// Runs one statement and ignores the given errors; any other error is thrown on. True when the statement
+// ran to its end.
 template <class Statement>
 bool Ignoring(std::initializer_list<int> numbers, Statement statement) {
     try {

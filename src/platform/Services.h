@@ -25,14 +25,14 @@ inline constexpr int Stop = 16;
 inline constexpr int Exclamation = 48;
 }  // namespace BoxStyle
 
-// A box with no title told bears this name.
+// The title of a box for which no title is given.
 inline constexpr std::string_view ProgramName = "Sorvane";
 
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
-    // Shows a modal box with plain text and returns the button pressed. The close box of the window answers
-    // Cancel where there is one, else Ok, else No.
+    // Shows a modal box with plain text and returns the button pressed. Closing the box by its frame gives
+    // Cancel where the box has that button, else Ok, else No.
     virtual Answer MsgBox(std::string_view text, int style = BoxStyle::Ok,
                           std::string_view title = ProgramName) = 0;
 };
@@ -41,9 +41,9 @@ class Dialogs {
 class Printer {
   public:
     virtual ~Printer() = default;
-    // Size in points for what is printed from here on. Raises 482 to 484.
+    // The size, in points, of all text printed after this call. Raises 482 to 484.
     virtual void FontSize(int points) = 0;
-    // Left edge of the text in twips (1/1440 inch) for the document in hand.
+    // The left edge of the text in the current document, in twips (1/1440 inch).
     virtual void LeftEdge(double twips) = 0;
     // Shows the system's printer dialog (a PDF file counts as a printer). Raises 32755 when it is cancelled.
     virtual void ShowPrinter() = 0;
@@ -62,13 +62,13 @@ class Clock {
 class RandomSource {
   public:
     virtual ~RandomSource() = default;
-    // Reseeds. Two calls never give the same sequence, even while the clock stands still.
+    // Starts a new sequence. Two calls never give the same one, even if the clock has not moved between them.
     virtual void Randomize() = 0;
     // From 0 up to but not including 1.
     virtual double Rnd() = 0;
 };
 
-// Programs of the desktop that can be started beside this one.
+// Finds and starts other programs of the desktop.
 class SystemTools {
   public:
     virtual ~SystemTools() = default;

@@ -5,8 +5,8 @@
 
 namespace sorvane {
 
-// A sequence of 64-bit numbers that its seed determines, on every machine the same. Two seeds never begin
-// with the same number.
+// A sequence of 64-bit numbers. The seed determines it, on every machine alike. The sequences of two
+// different seeds begin with different numbers.
 class SplitMix {
   public:
     explicit constexpr SplitMix(std::uint64_t seed) : state_(seed) {}

@@ -11,7 +11,7 @@ namespace sorvane {
 
 namespace {
 
-// A system without a source of its own leaves it to the clock.
+// 0 on a system without a random device; then the clock alone decides.
 std::uint64_t Entropy() {
     try {
         std::random_device device;
@@ -37,8 +37,8 @@ Date SystemClock::Today() const {
 
 SystemRandom::SystemRandom() : seeds_(Entropy() ^ ClockTicks()) { Randomize(); }
 
-// The seeds of one object are drawn from a sequence that never repeats a number, so no two are alike however
-// fast they follow each other.
+// The seeds come from a sequence that never repeats a number, so two calls never get the same seed, however
+// quickly one follows the other.
 void SystemRandom::Randomize() { mix_ = SplitMix(seeds_.Next()); }
 
 }  // namespace sorvane

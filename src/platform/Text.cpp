@@ -22,7 +22,7 @@ Decimal WholeNumber(std::string_view text) {
 
 constexpr std::string_view Places = "#0,.";
 
-// Digits of one side of a picture: how many at least, and how many at most behind the point.
+// The digits on one side of a picture's point: the least number, and behind the point the largest number.
 struct Part {
     std::size_t least = 0;
     std::size_t places = 0;
@@ -90,7 +90,7 @@ Picture ReadPicture(std::string_view picture) {
     return sections;
 }
 
-// An amount without its sign, in the digits that a section leaves of it: the first `decimals` of four.
+// An amount without its sign, rounded to the decimals that a section shows.
 struct Rounded {
     std::uint64_t whole;
     std::string fraction;

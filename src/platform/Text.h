@@ -11,23 +11,24 @@
 
 namespace sorvane {
 
-// The number that the text begins with (blanks before it are passed over), 0 when there is none: Val("12abc")
-// is 12. Never raises; beyond the range of a double it is the largest one.
+// The number at the beginning of the text (blanks before it are skipped), 0 when there is none: Val("12abc")
+// is 12. Never raises; a number too large for a double gives the largest double.
 double Val(std::string_view text);
 
-// The text as a number: the whole text, as Currency::FromText reads it; else raises 13, too large 6.
+// The whole text as a number, in the form that Currency::FromText reads. Raises 13 for any other text and 6
+// for a number that is too large.
 double CDbl(std::string_view text);
 
-// The same rounded half to even into 16 bits; text that is no number raises 13, too large 6.
+// The same, rounded half to even to 16 bits. Raises 13 and 6 as CDbl does.
 Integer CInt(std::string_view text);
 
-// The whole part of the text's number, downwards, in 16 bits; text that is no number raises 13, too large 6.
+// The same, rounded down to 16 bits. Raises 13 and 6 as CDbl does.
 Integer IntegerPart(std::string_view text);
 
 // Plain decimal text of a whole number, without blanks.
 std::string Str(long number);
 
-// Whether this byte of a text in UTF-8 is the first one of a character.
+// Whether this byte of a UTF-8 text is the first byte of a character.
 constexpr bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 inline int Len(std::string_view text) { return static_cast<int>(text.size()); }
@@ -46,13 +47,14 @@ std::string_view TrimBlanks(std::string_view text);
 // "##,###,##0.00", "##,###,##0.00;(##,###,##0.00)", "###.#0", "###.00".
 std::string Format(Currency amount, std::string_view picture);
 
-// The text behind blanks until it is at least `width` characters long ("@@@@@@@@" is width 8).
+// The text with as many blanks before it as make it `width` characters long ("@@@@@@@@" is width 8). A longer
+// text is returned unchanged.
 std::string PadLeft(std::string_view text, int width);
 
-// The number behind what the line holds already, with the separator between.
+// Adds the number to the line, and the separator before it unless the line is empty.
 void AppendNumber(std::string& line, int number, std::string_view separator = ", ");
 
-// number(0) to number(count - 1), joined; no separator behind the last.
+// number(0) to number(count - 1), with the separator between them.
 template <class Number>
 std::string JoinNumbers(int count, const Number& number, std::string_view separator = ", ") {
     std::string line;

@@ -10,8 +10,8 @@
 
 namespace sorvane {
 
-// While it lives, an engine that is given its name reads and writes through it. One thread at a time. Nothing
-// is really synced: the counts tell what would be.
+// As long as it exists, an engine that is given its name reads and writes through it. For one thread at a
+// time. Nothing is really synced; the counts tell what would have been synced.
 class FaultVfs {
   public:
     // What can fail. A write that fails leaves its first half on the disk.
@@ -27,17 +27,17 @@ class FaultVfs {
     ~FaultVfs();
     const std::string& Name() const { return name_; }
 
-    // From now on the n-th operation of this kind fails, counted from 1, or that one and all behind it.
+    // From now on the n-th operation of this kind fails, counted from 1, or that one and all that follow it.
     void FailAt(Operation operation, int n, Lasting lasting);
-    // From now on the disk takes that many bytes more.
+    // From now on the disk has room for that many bytes.
     void FullAfter(std::int64_t bytes);
-    // From now on the n-th change of the disk (of any kind, counted from 1) fails and so does everything
-    // behind it: what stands on the disk then is what a process killed at that moment leaves.
+    // From now on the n-th change of the disk (of any kind, counted from 1) fails, and so does everything
+    // after it. The disk is then as a process killed at that moment would have left it.
     void DieAt(int n);
-    // From now on the n-th lock asked for, counted from 1, and all behind it are held by another program.
-    // Waiting for it takes no time.
+    // From now on another program holds the n-th lock that is asked for, counted from 1, and all later ones.
+    // Waiting for a lock takes no time.
     void HeldFrom(int n);
-    // Nothing fails, and the counts begin anew.
+    // From now on nothing fails, and the counts start again at 0.
     void Heal();
 
     // Operations of this kind, and failures of any, since the last of the calls above.

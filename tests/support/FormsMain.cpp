@@ -4,7 +4,7 @@
 #include "forms/Application.h"
 #include "support/Stage.h"
 
-// Under a real screen the bus library keeps a buffer until the process ends.
+// On a real screen the D-Bus library keeps a buffer until the process ends. That is no leak.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
 extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1"; }
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #if defined(__SANITIZE_ADDRESS__)
-// Its header comes with another package.
+// Declared here because its header is in another package.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT(bugprone-reserved-identifier)
 #elif defined(__GLIBC__)
 #include <malloc.h>
@@ -13,15 +13,15 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();  // NOLINT(bug
 
 namespace sorvane::test {
 
-// Whether everything takes several times as long as it would.
+// Whether the sanitizers slow everything down several times.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool Sanitized = true;
 #else
 inline constexpr bool Sanitized = false;
 #endif
 
-// Bytes that were asked for and not given back; 0 where nobody can tell. Qt's own store of painted pieces,
-// which fills up to a size of its own, is emptied first.
+// Bytes allocated and not yet freed; 0 where they are not counted. Empties Qt's cache of pixmaps first,
+// because it grows up to a limit of its own.
 inline std::size_t HeapInUse() {
     QPixmapCache::clear();
 #if defined(__SANITIZE_ADDRESS__)

@@ -1,4 +1,4 @@
-// Rights of files, tested by whoever runs the tests.
+// Lets the superuser run tests about the rights of files.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -6,7 +6,8 @@
 
 namespace sorvane {
 
-// Rights of the file count for nothing with the superuser: for the time of a test it is somebody else.
+// The rights of files do not stop the superuser. So the process is another user as long as this object
+// exists.
 class NoSuperuser {
   public:
     NoSuperuser() : was_(geteuid()) {

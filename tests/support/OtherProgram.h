@@ -11,8 +11,8 @@
 
 namespace sorvane {
 
-// Another program at the same file: a process of its own, since locks belong to processes. It must come into
-// being before this one has anything open, or SQLite would take our locks for its own.
+// Another program that uses the same file. It is a process of its own, since locks belong to processes. Make
+// it before the test opens anything, or its SQLite would take the test's locks for its own.
 class OtherProgram {
   public:
     explicit OtherProgram(const std::string& path) {

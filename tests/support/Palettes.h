@@ -1,4 +1,4 @@
-// The palettes that the program has to be readable in.
+// The palettes in which the program must be readable.
 #pragma once
 
 #include <QPalette>
@@ -7,7 +7,7 @@
 
 namespace sorvane::test {
 
-// A desktop's light one, its disabled texts and its accent as pale as desktops have them.
+// A light palette with disabled texts and an accent as pale as those of real desktops.
 inline QPalette LightPalette() {
     QPalette palette(QColor(239, 239, 239));
     palette.setColor(QPalette::Highlight, QColor(48, 140, 198));

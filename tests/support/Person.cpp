@@ -73,7 +73,7 @@ std::string Describe(const QWidget& modal) {
     return text;
 }
 
-// As a person would with the wheel.
+// Scrolls it into sight, as a person would with the wheel.
 void ScrollTo(QWidget& widget) {
     for (QWidget* parent = widget.parentWidget(); parent; parent = parent->parentWidget())
         if (auto* page = qobject_cast<QScrollArea*>(parent)) page->ensureWidgetVisible(&widget);
@@ -98,7 +98,7 @@ bool IsShared(const QKeySequence& key, const QWidget& window) {
     return owners > 1;
 }
 
-// From one number of the play slip towards another, and from one option to the next.
+// Moves from one number of the play slip towards another, or from one option to the next.
 std::optional<Qt::Key> ArrowTo(const QWidget* focus, const QWidget& target) {
     const auto both = [&](auto is) { return is(focus) && is(&target); };
     const bool balls =
@@ -152,8 +152,8 @@ void Person::Await(QWidget& window) {
         return window.isActiveWindow() && QGuiApplication::focusWindow() == window.windowHandle();
     };
     if (QTest::qWaitFor(active, Patience)) return;
-    // A window left quicker than any person can, before the screen's own focus had come to it, may go on
-    // counting as the one with that focus: then the rest of Qt decides.
+    // A window that is left before the screen has given it the focus (no person is that quick) may still
+    // count as the one that has it. Then Qt's other windows decide.
     if (!QTest::qWaitFor([&] { return window.isActiveWindow(); }, MostWaiting))
         ADD_FAILURE() << "never became active: " << Describe(window);
 }
@@ -329,7 +329,7 @@ bool Person::eventFilter(QObject* receiver, QEvent* event) {
     if (event->type() != QEvent::Show || !receiver->isWidgetType()) return false;
     auto* window = static_cast<QWidget*>(receiver);
     if (!window->isWindow() || !window->isModal()) return false;
-    // Later: its own loop runs by then.
+    // Called later, when the window's own loop runs.
     QMetaObject::invokeMethod(
         this,
         [this, modal = QPointer<QWidget>(window)] {
@@ -340,7 +340,7 @@ bool Person::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 void Person::Appeared(QWidget& modal) {
-    // A mouse that is still down is let go here.
+    // A mouse button that is still down is released here.
     if (std::exchange(pressed_, nullptr))
         QTest::mouseRelease(modal.windowHandle(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
     Await(modal);
@@ -401,7 +401,7 @@ QObject* Person::FindIn(const QWidget& window, const QMetaObject& type, std::str
     for (auto* object : window.findChildren<QObject*>(ToQt(name))) {
         if (!object->metaObject()->inherits(&type)) continue;
         found = object;
-        // One name may stand on several tabs: the one in front is meant.
+        // The same name may occur on several tabs; the one in front is meant.
         if (object->isWidgetType() && static_cast<QWidget*>(object)->isVisible()) break;
     }
     if (!found)

@@ -19,12 +19,12 @@ class QWindow;
 
 namespace sorvane::test {
 
-// One person a test. Everything goes through the window in front, as from a real mouse and keyboard; touching
-// what is hidden or behind a modal window is a failure (what is disabled can be touched, and nothing
-// happens).
+// There is one person in a test. Every event goes to the window in front, as from a real mouse and keyboard.
+// Touching a widget that is hidden or behind a modal window fails the test. A disabled widget can be touched,
+// and nothing happens.
 //
-// Boxes and windows that an action brings up are told before the action, in the order in which they come. One
-// that nobody told fails the test and is closed; one that was told and never came fails it at the end.
+// Say before an action which boxes and windows it will bring up, in their order. An unexpected one fails the
+// test and is closed; an expected one that never comes fails the test at its end.
 class Person : public QObject {
   public:
     Person();
@@ -33,9 +33,9 @@ class Person : public QObject {
     // The window in front: the one that is modal, or the main window.
     QWidget& Front() const;
 
-    // From now on there is the keyboard alone: a click means that the widget gets the focus by Tab, arrows or
-    // its access key, and that a button is pressed. Any other use of the mouse is a failure, and so is a
-    // focus that can't be seen.
+    // From now on the person uses only the keyboard: to click is to reach the widget by Tab, the arrows or
+    // its access key, and to press it if it is a button. Any other use of the mouse fails the test, and so
+    // does a focus that can't be seen.
     void PutMouseAway() { mouseIsAway_ = true; }
 
     // A click in the middle of a widget, or at a point of it.
@@ -43,8 +43,8 @@ class Person : public QObject {
     void Click(QWidget& widget, QPoint at);
     void Press(QWidget& widget) { Press(widget, widget.rect().center()); }
     void Press(QWidget& widget, QPoint at);
-    // Lets go where the mouse was pressed. When a box or window has come up meanwhile, the mouse was let go
-    // there.
+    // Releases the mouse where it was pressed. If a box or window has come up since then, the mouse was
+    // released there.
     void Release();
     void DoubleClick(QWidget& widget) { DoubleClick(widget, widget.rect().center()); }
     void DoubleClick(QWidget& widget, QPoint at);
@@ -66,7 +66,7 @@ class Person : public QObject {
     void Type(std::string_view text);
     // Clicks the widget, then types.
     void Type(QWidget& widget, std::string_view text);
-    // What an input method commits.
+    // Text that an input method commits.
     void Commit(std::string_view text);
 
     // A message box that will come: answered by a click on its button. `meanwhile` runs while it is up.
@@ -76,12 +76,12 @@ class Person : public QObject {
     void ExpectClosing(std::string_view title, std::string_view text, int style = BoxStyle::Ok);
     // A modal window of ours that will come; `act` uses it and has to leave it.
     void ExpectWindow(std::string_view name, std::function<void(QWidget&)> act);
-    // A message box with the stop icon that may come at any time and as often as it likes: `seen` runs while
+    // A message box with the stop icon that may come at any time and any number of times: `seen` runs while
     // it is up, then Ok is clicked.
     void Bear(std::string_view title, std::string_view text, std::function<void()> seen);
-    // From here on every box and window that comes is nobody's surprise: `use` gets it and has to leave it.
+    // From now on any box or window may come: `use` gets it and has to leave it.
     void MeetAll(std::function<void(QWidget&)> use) { meet_ = std::move(use); }
-    // How many of those told have not come yet.
+    // How many of the expected ones have not come yet.
     int Awaited() const { return static_cast<int>(awaited_.size()); }
 
     // The widget of this Qt class and name in the window in front; a failure when there is none.
@@ -96,7 +96,7 @@ class Person : public QObject {
 
     // Waits until the window can take keys, as a person would.
     static void Await(QWidget& window);
-    // Lets everything that is waiting to be handled happen.
+    // Handles all events that are waiting.
     static void Settle();
 
     bool eventFilter(QObject* receiver, QEvent* event) override;

@@ -1,4 +1,4 @@
-// A folder that takes no writes for a while.
+// A folder that can be made read-only for a while.
 #pragma once
 
 #include <sys/mount.h>
@@ -12,8 +12,8 @@
 
 namespace sorvane {
 
-// A file system of its own, in memory, that is made read-only; gone at the end. Who may not mount one takes
-// the right to write from the folder and its files instead.
+// A file system in memory that can be made read-only; it is removed at the end. Where the user may not mount
+// one, the right to write is taken from the folder and its files instead.
 class ReadOnlyPlace {
   public:
     explicit ReadOnlyPlace(std::filesystem::path folder)
@@ -24,7 +24,7 @@ class ReadOnlyPlace {
         if (mounted_) umount2(folder_.c_str(), MNT_DETACH);
     }
 
-    // Whether it took.
+    // Whether it is read-only now.
     bool ReadOnly(bool on) {
         if (mounted_)
             return mount("none", folder_.c_str(), nullptr, MS_REMOUNT | (on ? MS_RDONLY : 0), "") == 0;

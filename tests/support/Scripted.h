@@ -24,10 +24,10 @@ namespace sorvane::testing {
 
 using sorvane::TempFolder;
 
-// A style told to Expect: the buttons that the answer belongs to and no icon (Ok: OK alone; Cancel: OK and
+// As the style of Expect: no icon, and the buttons that go with the answer (Ok: OK alone; Cancel: OK and
 // Cancel; Yes and No: Yes and No).
 inline constexpr int StyleByAnswer = -1;
-// A style told to Expect: any style will do, as long as it has the button that is pressed.
+// As the style of Expect: any style that has the button to be pressed.
 inline constexpr int AnyStyle = -2;
 
 // Answers boxes from a list of expected ones, in their order. A box that nobody expected, or that differs
@@ -142,7 +142,7 @@ class FixedClock final : public Clock {
     Date today;
 };
 
-// Repeatable: Randomize is counted but changes nothing.
+// Random numbers that are the same in every run: Randomize is counted but changes nothing.
 class FixedRandom final : public RandomSource {
   public:
     // An endless sequence that the seed determines, on every machine the same.

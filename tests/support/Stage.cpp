@@ -33,7 +33,7 @@ class StillStyle : public QProxyStyle {
     QPalette palette_;
 };
 
-// What the platform without a screen can't do needs no line for each window.
+// Silences a message about each window that the platform without a screen would print.
 void Report(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (!text.startsWith("This plugin does not support"))
         std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));

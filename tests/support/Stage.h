@@ -7,20 +7,21 @@
 
 namespace sorvane::test {
 
-// Made before the application: numbers, dates, time zone and theme, and a screen of 1366 x 768 that nobody
-// sees, unless QT_QPA_PLATFORM asks for another one. `scale` in per cent.
+// Make it before the application. It fixes the format of numbers and dates, the time zone and the theme, and
+// sets up a screen of 1366 x 768 that nobody sees, unless QT_QPA_PLATFORM asks for another. `scale` is in
+// per cent.
 class Stage {
   public:
     explicit Stage(int scale = 100);
-    // Once there is an application: the program's style, in which nothing moves by itself, a light palette,
-    // one font.
+    // Call it when there is an application. It sets the program's style without animations, a light palette
+    // and one font.
     void Set() const;
 
   private:
     TempFolder screen_;
 };
 
-// What the desktop would tell: the program's style makes of it what it makes of every palette.
+// Acts as a desktop with this palette; the program's style adapts it as it adapts every palette.
 void SetDesktopPalette(const QPalette& palette);
 
 }  // namespace sorvane::test

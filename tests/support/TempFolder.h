@@ -1,4 +1,4 @@
-// A folder of a test's own.
+// A folder for one test.
 #pragma once
 
 #include <cstdlib>
@@ -10,8 +10,8 @@
 
 namespace sorvane {
 
-// A folder that nobody else uses, in memory where the system has such a place (syncs cost nothing there);
-// gone with its contents at the end.
+// A folder that nobody else uses; it is deleted with its contents at the end. It is in memory where the
+// system has a place for that, because syncs cost nothing there.
 class TempFolder {
   public:
     explicit TempFolder(const std::filesystem::path& parent = FastPlace()) {
@@ -31,10 +31,10 @@ class TempFolder {
 
     const std::filesystem::path& Path() const { return path_; }
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
-    // The same as text, as the program carries its paths.
+    // The same as text, the form in which the program holds paths.
     std::string File(std::string_view name) const { return (path_ / name).string(); }
 
-    // SORVANE_TEST_PLACE in the environment names another one.
+    // The environment variable SORVANE_TEST_PLACE names another place.
     static std::filesystem::path FastPlace() {
         if (const char* told = std::getenv("SORVANE_TEST_PLACE")) return told;
         const std::filesystem::path memory = "/dev/shm";
@@ -43,7 +43,7 @@ class TempFolder {
     }
 
   private:
-    // Gives back the right to delete where a test took it away.
+    // A test may have taken away the right to delete; this gives it back.
     void Unlock() {
         namespace fs = std::filesystem;
         std::error_code ignored;

@@ -30,7 +30,7 @@ using Texts = std::vector<std::string>;
 // The windows of the program, as its main puts them together.
 inline constexpr WindowMakers Makers{GameWindow::Make, frmReport::Make};
 
-// Boxes are real ones, answered by `person`: tell them before the action that brings them up.
+// The boxes are real and answered by `person`. Expect each before the action that brings it up:
 //
 //     Show("mnuCANONTKENO");
 //     Put("txtNoOfTickets(0)", "1");
@@ -40,7 +40,7 @@ inline constexpr WindowMakers Makers{GameWindow::Make, frmReport::Make};
 //     EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedONTKeno"), Texts{"5"});
 class WindowWorld : public ::testing::Test {
   public:
-    // The day that this world lives on.
+    // The date of today in this world.
     static constexpr std::string_view Today = "2006-03-11";
 
     TempFolder folder;
@@ -64,11 +64,11 @@ class WindowWorld : public ::testing::Test {
     void Select(Family family, std::string_view LottoFlag, std::string_view ExtraFlag);
 
     // Selects the game, loads its window, dresses it and shows it without a loop of its own, so that the test
-    // goes on below. The window lives until the end of the test, also when it has been left.
+    // goes on after the call. The window exists until the end of the test, even when it has been left.
     GameWindow& Show(std::string_view menu);
     GameWindow& Show(Family family, std::string_view LottoFlag, std::string_view ExtraFlag);
-    // The same as the menu does it: runs `act` inside the window's own loop, and returns when the window has
-    // been left. A window that `act` didn't leave is left for it.
+    // The same in the way of the menu: runs `act` inside the window's own loop, and returns when the window
+    // has been left. If `act` does not leave the window, this does.
     void ShowModal(std::string_view menu, const std::function<void(GameWindow&)>& act);
 
     // The window last shown here.
@@ -89,7 +89,7 @@ class WindowWorld : public ::testing::Test {
     // The name of the control that has the focus; empty when there is none.
     std::string Focus() const;
 
-    // What the person does with them.
+    // What the person does.
     void Click(std::string_view name) { person.Click(Find(name)); }
     // The balls that are ticked.
     std::vector<int> Ticked() const;
@@ -97,7 +97,7 @@ class WindowWorld : public ::testing::Test {
     void Type(std::string_view name, std::string_view text);
     // The same, and leaves it with the Tab key.
     void Put(std::string_view name, std::string_view text);
-    // Pastes over the whole text of the field, past every filter of keys.
+    // Replaces the whole text of the field by pasting, which no filter of keys sees.
     void Paste(std::string_view name, std::string_view text);
     // Moves the focus into a control by a click (a list that opens is closed again), and out of it by Tab.
     void Enter(std::string_view name);
@@ -105,9 +105,9 @@ class WindowWorld : public ::testing::Test {
     // Chooses an entry of a list without a field by the arrow keys, and stays in the list.
     void Choose(std::string_view name, std::string_view entry);
 
-    // The boxes of "&Save Tickets" as far as the answer decides them: behind a No the next one too.
+    // Expects the boxes of "&Save Tickets"; after the answer No a second one comes.
     void ExpectSaveQuestion(Answer answer);
-    // The box of a run-time error that nothing traps.
+    // Expects the box of a run-time error that no handler catches.
     void ExpectRunTimeError(int number);
     // The question of a check whose date has its draw already, and the box of a table that is not there.
     void ExpectRecheck(Answer answer);

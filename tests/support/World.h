@@ -62,8 +62,8 @@ class PlainFile {
     sqlite3* db_ = nullptr;
 };
 
-// State, scripted services and a real engine over a folder that goes with the test. `vfs`: the engine's file
-// layer.
+// State, scripted services and a real engine in a folder that is deleted after the test. `vfs` is the
+// engine's file layer.
 struct World {
     explicit World(const std::string& vfs = {}) : engine(vfs) {
         global.NL = "\r\n";
