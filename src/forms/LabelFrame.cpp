@@ -1,8 +1,12 @@
 #include "forms/LabelFrame.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "forms/Look.h"
+#include "forms/Runtime.h"
 #include "forms/Utf8.h"
 
 namespace sorvane::forms {
@@ -31,6 +35,20 @@ void LabelFrame::paintEvent(QPaintEvent* event) {
     const int room = width() - QFontMetrics(heavy).horizontalAdvance(title()) - Look::Gap(*this);
     if (fontMetrics().horizontalAdvance(hint) > room) return;
     QPainter(this).drawText(Heading(), Qt::AlignRight | Qt::AlignVCenter, hint);
+}
+
+void LabelFrame::mousePressEvent(QMouseEvent* event) {
+    if (!left_ || !left_->HasFocus() || event->button() != Qt::LeftButton)
+        return QGroupBox::mousePressEvent(event);
+    const QPointer<QWidget> pressed = childAt(event->pos());
+    const bool wasShut = pressed && !pressed->isEnabled();
+    const int shown = Runtime::Current().Shown();
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QCoreApplication::sendEvent(&left_->Widget(), &tab);
+    if (!wasShut || !pressed || !pressed->isEnabled() || Runtime::Current().Shown() != shown) return;
+    QMouseEvent press(event->type(), pressed->mapFrom(this, event->pos()), event->globalPosition(),
+                      event->button(), event->buttons(), event->modifiers());
+    QCoreApplication::sendEvent(pressed, &press);
 }
 
 }  // namespace sorvane::forms

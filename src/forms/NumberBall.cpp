@@ -26,6 +26,13 @@ QSize NumberBall::minimumSizeHint() const {
 
 bool NumberBall::hitButton(const QPoint& at) const { return rect().contains(at); }
 
+// Other shut buttons swallow a press. A ball leaves it to the slip that it stands on.
+bool NumberBall::event(QEvent* event) {
+    if (isEnabled() || event->type() != QEvent::MouseButtonPress) return CheckBox::event(event);
+    event->ignore();
+    return false;
+}
+
 void NumberBall::keyPressEvent(QKeyEvent* event) {
     QPoint ahead;  // one step in the direction of the key
     if (event->key() == Qt::Key_Left) ahead = {-1, 0};

@@ -18,6 +18,7 @@ class NumberBall : public CheckBox {
 
   protected:
     bool hitButton(const QPoint& at) const override;
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };

@@ -16,6 +16,15 @@ bool CanTakeFocus(const QWidget& widget, const QWidget& window) {
            widget.focusPolicy() != Qt::NoFocus;
 }
 
+// The first stop of the Tab key behind `from` that lies before `target`; null when there is none.
+QWidget* StopBefore(const QWidget& target, QWidget& from, const QWidget& window) {
+    for (QWidget* next = from.nextInFocusChain(); next != &target && next != &from;
+         next = next->nextInFocusChain())
+        if (CanTakeFocus(*next, window) && (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy())
+            return next;
+    return nullptr;
+}
+
 }  // namespace
 
 Runtime& Runtime::Current() { return static_cast<Application*>(QCoreApplication::instance())->Events(); }
@@ -64,12 +73,22 @@ void Runtime::FocusChanged(QWidget* now) {
     else Settle();
 }
 
+bool Runtime::TabOn(QWidget& from, const std::function<bool()>& move) {
+    Level& level = levels_.back();
+    level.tabbedFrom = &from;
+    const bool moved = move();
+    level.tabbedFrom = nullptr;
+    return moved;
+}
+
 void Runtime::Settle() {
     Level& level = levels_.back();
     if (!level.window) return;
-    const Control* now = Control::Of(level.window->focusWidget());
+    const QPointer<QWidget> target = level.window->focusWidget();
+    const Control* now = Control::Of(target);
     if (!now || &now->Widget() == level.active) return;
     Control* left = Control::Of(std::exchange(level.active, {}));
+    const QPointer<QWidget> tabbedFrom = std::exchange(level.tabbedFrom, {});
     const int depth = std::exchange(level.depth, 0);
     level.moving = true;
     if (left)
@@ -77,6 +96,9 @@ void Runtime::Settle() {
             left->Leave();
             if (left->lostFocus_) left->lostFocus_();
         });
+    // Where Tab leads is told by what stands open once the control has been left.
+    if (left && tabbedFrom && target && level.window && level.window->focusWidget() == target)
+        if (QWidget* nearer = StopBefore(*target, *tabbedFrom, *level.window)) nearer->setFocus();
     level.moving = false;
     level.depth = depth;
     if (!level.window) return;  // the handler left the window

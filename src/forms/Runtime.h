@@ -26,6 +26,7 @@ class Runtime {
         std::vector<QPointer<QWidget>> wanted;  // focus asked for by handlers
         int depth = 0;                          // handlers running on this level
         bool moving = false;                    // a LostFocus is running
+        QPointer<QWidget> tabbedFrom;           // Tab is on its way forward from here
         int hold = 0;                           // moves of the focus are kept
         bool held = false;                      // one was kept
     };
@@ -56,6 +57,9 @@ class Runtime {
     void WithoutFocus(QWidget& widget, const std::function<void()>& change);
     // Qt has moved the focus.
     void FocusChanged(QWidget* now);
+    // Moves the focus on by `move`, as the Tab key does on `from`. When leaving it opens a stop that lies
+    // nearer than the one that was found, that nearer one gets the focus.
+    bool TabOn(QWidget& from, const std::function<bool()>& move);
     // Fires LostFocus and GotFocus for the moves since the last call.
     void Settle();
 

@@ -125,6 +125,12 @@ void Window::keyPressEvent(QKeyEvent* event) {
     else QWidget::keyPressEvent(event);
 }
 
+bool Window::focusNextPrevChild(bool next) {
+    const auto move = [&] { return QWidget::focusNextPrevChild(next); };
+    QWidget* from = focusWidget();
+    return next && from ? Runtime::Current().TabOn(*from, move) : move();
+}
+
 void Window::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     TitleToSystem();

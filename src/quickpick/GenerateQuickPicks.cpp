@@ -57,6 +57,8 @@ void DrawDigits(Run& run, const Range& range) {
 
 void DrawNumbers(Run& run, const Range& range) {
     Array<Integer>& numbers = run.global.Numbers;
+    // What the last ticket left in the positions that are never drawn would come first in this one's line.
+    for (int position = MostPositions; position < range.count; ++position) numbers(position) = 0;
     for (int position = 0; position < std::min(range.count, MostPositions); ++position) {
         do numbers(position) = DrawBelow(run.services.random, range.max) + 1;
         while (StandsBefore(numbers, position));

@@ -208,6 +208,18 @@ TEST(QuickPickTest, KenoDrawsTwentyPositionsAtMostAndTheZerosOfTheOthersComeFirs
     EXPECT_TRUE(std::is_sorted(numbers.begin(), numbers.end()));
 }
 
+TEST(QuickPickTest, EveryLineOfMoreThanTwentyKenoNumbersStartsWithItsNoughts) {
+    PickWorld world("ONTKeno");
+    world.global.NoOfBallsPerTicket = 23;
+    const Texts lines = world.Generate(20, 4);
+    ASSERT_EQ(lines.size(), 4U);
+    for (const std::string& line : lines) {
+        EXPECT_EQ(line.rfind("0, 0, 0, ", 0), 0U) << line;
+        const std::vector<int> numbers = NumbersOf(line);
+        EXPECT_EQ(std::count(numbers.begin(), numbers.end(), 0), 3) << line;
+    }
+}
+
 TEST(QuickPickTest, TheWesternKeyDrawsNothingAndShowsWhatWasLeft) {
     PickWorld world("FLACash3");
     const std::string last = world.Generate(3, 2).back();

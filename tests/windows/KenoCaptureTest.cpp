@@ -413,6 +413,18 @@ TEST_F(KenoWindow, AChangeOfBallsAfterTheTicketCompletesNoOther) {
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #2 - Sheet 1 of 1");
 }
 
+TEST_F(KenoWindow, BoxesClearedByALoadCompleteNoTicket) {
+    ShowKeno();
+    OneSheet(2);
+    PutChoices("4", "1.00");
+    Pick({1, 2, 3});
+    Window().Form_Load();
+    EXPECT_TRUE(Ticked().empty());
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_FALSE(IsEnabled("cmdCorrection"));
+}
+
 TEST_F(KenoWindow, EncoreNumbersFollowTheLastTicket) {
     ShowKeno();
     OneSheet(1);

@@ -381,5 +381,46 @@ TEST_F(Lottario, TheGridEndsAtFortyFive) {
     EXPECT_EQ(Next(), "&Bonus Tickets");
 }
 
+// Once a ticket was being entered anew when a window was left: no button of the next window came on, for the
+// rest of the run.
+TEST_F(LottoCaptureTest, ATicketReenteredInALeftWindowDoesNotDeafenTheNextOne) {
+    Show("mnuCANONTLotto649");
+    OneSheet(1);
+    PickFrom(1, 6);
+    Click("cmdCorrection");
+    ASSERT_EQ(global.Correcting, On);
+    Click("cmdExit(0)");
+    Show("mnuCANONTSuper7");
+    EXPECT_EQ(global.Correcting, Off);
+    OneSheet(1);
+    PickFrom(1, 7);
+    EXPECT_EQ(global.TicketNo, 1);
+    EXPECT_TRUE(IsEnabled("cmdNext_Ticket"));
+}
+
+TEST_F(LottoCaptureTest, CancelEndsAReentryAndWhatAnErrorLeftOfNextTicket) {
+    Show("mnuCANONTLOTTARIO");
+    OneSheet(1);
+    global.Correcting = On;
+    Window().State.InNextTicket = On;
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+    Click("cmdCancel");
+    EXPECT_EQ(global.Correcting, Off);
+    EXPECT_EQ(Window().State.InNextTicket, Off);
+    OneSheet(1);
+    PickFrom(1, 6);
+    EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Bonus Tickets");
+}
+
+TEST_F(LottoCaptureTest, ALoadEndsAReentryAndWhatAnErrorLeftOfNextTicket) {
+    Show("mnuCANBCSuper7");
+    OneSheet(1);
+    global.Correcting = On;
+    Window().State.InNextTicket = On;
+    Window().Form_Load();
+    EXPECT_EQ(global.Correcting, Off);
+    EXPECT_EQ(Window().State.InNextTicket, Off);
+}
+
 }  // namespace
 }  // namespace sorvane::test

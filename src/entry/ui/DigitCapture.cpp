@@ -96,10 +96,13 @@ void DigitCapture::LayOutHeader() {
     whole->addWidget(&fraWager);
 }
 
-void DigitCapture::AddToTabOrder(std::vector<QWidget*>& order) {
+void DigitCapture::AddChoicesToTabOrder(std::vector<QWidget*>& order) {
     optPlayOpt.ForEach([&](forms::OptionButton& way, int) { order.push_back(&way); });
     for (forms::OptionButton* wager : {&optOneDollar, &optTwoDollars, &optFiveDollars, &optTenDollars})
         order.push_back(wager);
+}
+
+void DigitCapture::AddToTabOrder(std::vector<QWidget*>& order) {
     cboNumber.ForEach([&](forms::ComboBox& list, int) { order.push_back(&list); });
 }
 

@@ -33,6 +33,8 @@ class DigitCapture final : public TicketCapture {
     QWidget& Slip() override { return slip_; }
     QWidget* Header() override { return &header_; }
     void AddToTabOrder(std::vector<QWidget*>& order) override;
+    void AddChoicesToTabOrder(std::vector<QWidget*>& order) override;
+    bool EndsAtAButton() const override { return true; }
     void Load() override;
     void ForgetChoices() override;
     void Close() override {}

@@ -45,6 +45,7 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
     txtDollars.OnGotFocus([this] { txtDollars.SelectAll(); });
     txtDollars.OnLostFocus([this] { txtDollars_LostFocus(); });
     capture_ = MakeCapture(window);
+    fraTickets.LeaveByPress(count);
     fraTicketNumber.SetHint([this] { return Progress(); });
     for (auto* number : capture_->Slip().findChildren<QAbstractButton*>())
         QObject::connect(number, &QAbstractButton::toggled, &fraTicketNumber,
@@ -163,16 +164,20 @@ QLayout* EnterTicketsTab::ButtonColumn() {
 }
 
 void EnterTicketsTab::OrderTabs() {
-    std::vector<QWidget*> order{&window_.dtpEnterTickets(0), &window_.txtNoOfTickets(0)};
+    std::vector<QWidget*> order{&window_.dtpEnterTickets(0)};
+    capture_->AddChoicesToTabOrder(order);
+    const bool first = capture_->EndsAtAButton();
+    if (first) order.insert(order.end(), {&chkRegular, &txtDollars});
+    order.push_back(&window_.txtNoOfTickets(0));
     if (AddOns.txtNoOfExtra) order.push_back(&*AddOns.txtNoOfExtra);
     capture_->AddToTabOrder(order);
-    order.push_back(&chkRegular);
+    if (!first) order.push_back(&chkRegular);
     if (AddOns.chkEncore) order.push_back(&*AddOns.chkEncore);
     if (AddOns.txtEncore) order.push_back(&*AddOns.txtEncore);
     AddOns.txtPlay4.ForEach([&](forms::TextBox& box, int) { order.push_back(&box); });
-    for (QWidget* last :
-         std::initializer_list<QWidget*>{&txtDollars, &cmdNext_Ticket, &cmdCorrection, &cmdSave, &cmdRegular,
-                                         &cmdCancel, &window_.cmdExit(0)})
+    if (!first) order.push_back(&txtDollars);
+    for (QWidget* last : std::initializer_list<QWidget*>{&cmdNext_Ticket, &cmdCorrection, &cmdSave,
+                                                         &cmdRegular, &cmdCancel, &window_.cmdExit(0)})
         order.push_back(last);
     for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }

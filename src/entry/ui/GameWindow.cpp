@@ -108,6 +108,7 @@ void GameWindow::ClearCountersAtLoad() {
     Global& g = run.global;
     g.RecheckAccepted = True;
     State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
+    g.Correcting = State.InNextTicket = Off;
     g.EnteringAddOns = Off;
     g.NoOfExtra = g.NumbersPicked = g.TotalTickets = g.TicketNo = g.ExtraNo = 0;
     g.EntryCounter = g.EntryCounter2 = 0;
@@ -116,6 +117,7 @@ void GameWindow::ClearCountersAtLoad() {
 void GameWindow::ClearCountersAtCancel() {
     Global& g = run.global;
     State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
+    g.Correcting = State.InNextTicket = Off;
     g.TotalTickets = g.NoOfTickets = g.SheetTickets = g.NoOfSheets = g.NoOfTicketsOnSheet = 0;
     g.TicketNo = g.ExtraNo = g.NoOfExtra = g.NumbersPicked = 0;
     g.EnteringAddOns = Off;

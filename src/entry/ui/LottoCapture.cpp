@@ -48,7 +48,10 @@ void LottoCapture::NextSheet() {
     grid_.Clear();
 }
 
-void LottoCapture::FocusAtNextSheet() { window_.Enter.AddOns.FocusCount(); }
+void LottoCapture::FocusAtNextSheet() {
+    FocusFirst();  // where no add-on is counted
+    window_.Enter.AddOns.FocusCount();
+}
 
 bool LottoCapture::CountNumber(int Index) {
     if (grid_.chkNumb(Index).Value() == 1) g_.NumbersPicked += 1;

@@ -22,10 +22,14 @@ class TicketCapture {
     // The play slip, laid out, to stand in fraTickets; and what belongs above it (null: nothing).
     virtual QWidget& Slip() = 0;
     virtual QWidget* Header() { return nullptr; }
-    // Adds the marks that stand beside chkRegular (chkEarlybird), and the slip's controls in the order of
-    // Tab.
+    // Adds the marks that stand beside chkRegular (chkEarlybird).
     virtual void AddMarks(QBoxLayout&) {}
+    // The slip's controls in the order of Tab, and what is chosen for the whole entry and comes before the
+    // count of tickets.
     virtual void AddToTabOrder(std::vector<QWidget*>& order) = 0;
+    virtual void AddChoicesToTabOrder(std::vector<QWidget*>&) {}
+    // Whether leaving the slip forwards leads to a button, so that nothing behind it is reached by Tab.
+    virtual bool EndsAtAButton() const { return false; }
 
     // Lists and counts of numbers as Form_Load and cmdCancel leave them.
     virtual void Load() = 0;
