@@ -32,13 +32,22 @@ void PutBoxes(Dao::Recordset& Rs, int at, const Boxes& boxes, int count) {
     for (int i = 0; i < count; ++i) Rs[at + i] = boxes.at(static_cast<std::size_t>(i));
 }
 
-// Whether the table has a row of the date; it is then the current one.
-bool FindDate(Dao::Recordset& Rs, int count, Date date) {
-    if (count <= 0) return false;
-    Rs.Index("Date");
-    Rs.Seek(date);
-    return !Rs.NoMatch();
-}
+// A Win table that was looked into for a date.
+struct Draws {
+    Draws(Dao::Database& Db, const StoreArgs& at)
+        : Rs(Db.OpenTable(at.TableName)), count(Rs.RecordCount()), found(count > 0 && Find(at.WindowDate)) {}
+
+    Dao::Recordset Rs;
+    int count;
+    bool found;  // the date has a row, which is the current one
+
+  private:
+    bool Find(Date date) {
+        Rs.Index("Date");
+        Rs.Seek(date);
+        return !Rs.NoMatch();
+    }
+};
 
 // Asks whether the row of the date is to be written anew, and keeps the answer.
 bool RecheckWanted(Run& run) {
@@ -57,33 +66,28 @@ bool RecheckWanted(Run& run) {
     return wanted;
 }
 
-void AddWin(Run& run, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes, Dao::Recordset& Rs,
-            int key) {
-    Global& g = run.global;
-    Rs.AddNew();
-    Rs[0] = key;
-    Rs[row.DateAt] = at.WindowDate;
-    if (row.FlagAt) Rs[*row.FlagAt] = g.LottoFlag;
-    PutBoxes(Rs, row.FirstNumber, boxes.Main, row.Count);
-    Rs.Update();
-    if (row.EndsTickets) g.TotalTickets = 0;
+void StartRow(const Global& g, const StoreArgs& at, const WinRow& row, Draws& draws) {
+    if (draws.found) return draws.Rs.Edit();
+    draws.Rs.AddNew();
+    draws.Rs[0] = draws.count + 1;
+    draws.Rs[row.DateAt] = at.WindowDate;
+    if (row.FlagAt) draws.Rs[*row.FlagAt] = g.LottoFlag;
 }
 
 void StoreWin(Run& run, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes) {
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
-        const int count = Rs.RecordCount();
-        if (FindDate(Rs, count, at.WindowDate)) {
-            if (!RecheckWanted(run)) return;
-            Rs.Edit();
-            PutBoxes(Rs, row.FirstNumber, boxes.Main, row.Count);
-            Rs.Update();
-            return;
+    bool added = false;
+    const int error = WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+        std::optional<Draws> draws(std::in_place, file.Db(), at);
+        if (draws->found) {
+            if (!file.Ask([&] { return RecheckWanted(run); })) return;
+            draws.emplace(file.Db(), at);
         }
-        if (count > 0) Rs.MoveLast();
-        AddWin(run, at, row, boxes, Rs, count + 1);
+        StartRow(run.global, at, row, *draws);
+        PutBoxes(draws->Rs, row.FirstNumber, boxes.Main, row.Count);
+        draws->Rs.Update();
+        added = !draws->found;
     });
+    if (added && error == 0 && row.EndsTickets) run.global.TotalTickets = 0;
 }
 
 }  // namespace
@@ -126,11 +130,8 @@ bool WalkToGame(Dao::Recordset& Rs, const std::string& LottoFlag) {
 
 void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
     const Global& g = run.global;
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
-        const int count = Rs.RecordCount();
-        bool found = FindDate(Rs, count, at.WindowDate);
+    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+        auto [Rs, count, found] = Draws(file.Db(), at);
         const bool earlyBird = CellsOf(g.LottoFlag).HasEarlyBird;
         if (found && !earlyBird && AddOnOf(g.ExtraFlag).FourNumbers) found = WalkToGame(Rs, g.LottoFlag);
         if (found) {
@@ -149,11 +150,9 @@ void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
 void StoreAddOnWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
     const Global& g = run.global;
     const int digits = AddOnDigits(g.ExtraFlag);
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
-        const int count = Rs.RecordCount();
-        if (FindDate(Rs, count, at.WindowDate)) {
+    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+        auto [Rs, count, found] = Draws(file.Db(), at);
+        if (found) {
             Rs.Edit();
         } else {
             Rs.AddNew();

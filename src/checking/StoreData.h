@@ -9,9 +9,9 @@
 namespace sorvane {
 
 // Where the date has a row already, these ask "RECHECK?" (in other words while StatUpdate is 1) and keep the
-// answer in MsgResult: Yes rewrites the numbers of that row and sets RecheckAccepted True, RecheckRefused 0;
-// No leaves it and sets them 0 and True. A new row leaves both as they were. StoreKenoWin sets TotalTickets
-// to 0 with a new row.
+// answer in MsgResult: Yes rewrites the numbers of that row (or adds it anew, if it has gone meanwhile) and
+// sets RecheckAccepted True, RecheckRefused 0; No leaves it and sets them 0 and True. A date without a row
+// leaves both as they were. StoreKenoWin sets TotalTickets to 0 with a new row.
 void StoreLotto6Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
 void StoreLotto7Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
 void StoreKenoWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes);

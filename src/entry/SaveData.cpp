@@ -25,9 +25,8 @@ void AddRow(Dao::Recordset& Rs, int key, int RowNo, Fill fill) {
 
 template <class Fill>
 void WriteSheet(Run& run, const StoreArgs& at, int rows, Fill fill) {
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(at.TableName);
         for (int RowNo = 0; RowNo < rows; ++RowNo) {
             const int count = Rs.RecordCount();
             if (count > 0) Rs.MoveLast();
@@ -110,9 +109,8 @@ void SavePick4Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.
 void SaveAddOnTickets(Run& run, const StoreArgs& at) {
     const Global& g = run.global;
     const int digits = AddOnDigits(g.ExtraFlag);
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
+    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(at.TableName);
         // Unlike the other writers this one counts once, before the loop.
         const int count = Rs.RecordCount();
         if (count > 0) Rs.MoveLast();

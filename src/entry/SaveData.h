@@ -7,8 +7,8 @@ namespace sorvane {
 
 // Each opens the table named in `at`, adds its rows under the date in `at`, and closes. `ID1` is the number
 // of rows plus one, not the largest key plus one: after a deletion a key can be taken, which shows its box.
-// Every row is durable when it is written; rows written before an error stay. An error shows its box, and the
-// caller goes on.
+// All rows are one commit; those written before an error stay. An error shows its box, and the caller goes
+// on.
 void SaveLotto6Tickets(Run& run, const StoreArgs& at);  // NoOfTicketsOnSheet rows
 void SaveLottarioTickets(Run& run,
                          const StoreArgs& at);  // twice as many for Lottario: bonus tickets are rows too

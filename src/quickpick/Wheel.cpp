@@ -89,12 +89,9 @@ void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool,
 void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName, int upperBound,
                     const Array<Integer>& frequencies) {
     TableName = "Temp";
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(TableName);
-        if (Rs.RecordCount() != 0) DeleteAllRows(run, DbName, TableName);
-        // Not before: emptying the table opens the file for itself.
-        Db.OneCommit();
+    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(TableName);
+        DeleteAllRows(Rs);
         for (int i = 0; i <= upperBound; ++i) {
             Rs.AddNew();
             Rs[0] = i + 1;
@@ -102,7 +99,6 @@ void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName,
             Rs[2] = frequencies(i);
             Rs.Update();
         }
-        Db.Close();
     });
 }
 

@@ -8,7 +8,8 @@
 namespace sorvane {
 
 // Makes sure that the file exists: the folder is made silently where it is missing, then the empty file, with
-// no table. Shows the general error box when it can't. Raises 75 when even the folder can't be made.
+// no table, both for nobody but the user. Shows the general error box when it can't. Raises 75 when even the
+// folder can't be made.
 void CheckDatabaseExists(Run& run, const std::string& DbName);
 
 // Sets Global::TableOpened to 1 when the table can be opened, else to 0. A missing table shows nothing; any

@@ -157,29 +157,34 @@ struct IndexFields {
     const std::string& second;
 };
 
-// Makes a table, and with it a second one that is missing. All of it is one commit: a program that dies
-// meanwhile leaves no table half made and no pair without its half, which nothing would mend. Where only the
-// indexes fail, the table stands without them.
-void Make(Run& run, const std::string& DbName, const NewTable& table, const NewTable* second,
+// Appends the table and its indexes. Returns the error of the indexes, without which the table stands; raises
+// where it doesn't stand.
+int Append(Dao::Database& Db, const NewTable& table, const IndexFields& index) {
+    Db.Append(Define(table.name, table.creator.fields));
+    if (!table.creator.indexed) return 0;
+    const int error = ErrorOf([&] { CreateIndex(Db, table.name, index.primary, index.second); });
+    if (error != 0 && !Db.HasTable(table.name)) Raise(error);
+    return error;
+}
+
+// Makes a table, and with it the Win table of its pair, if it is missing. All of it is one commit: a program
+// that dies meanwhile leaves no table half made and no pair without its half, which nothing would mend. Else
+// each table stands for itself: the indexes of one that fail are told in a box of their own, and a Win table
+// that can't be made is told by whoever looks for it.
+void Make(Run& run, const std::string& DbName, const NewTable& table, const NewTable* win,
           const IndexFields& index) {
-    int indexError = 0;
-    const int error = StoreRoutine(run, table.creator.tail, table.name, [&] {
-        Dao::Workspace Ws = run.services.engine.Workspaces(0, run.global.Open);
-        Dao::Database Db = Ws.OpenDatabase(DbName);
-        Db.OneCommit();
-        const auto append = [&](const NewTable& added) {
-            Db.Append(Define(added.name, added.creator.fields));
-            if (!added.creator.indexed || indexError != 0) return;
-            indexError = ErrorOf([&] { CreateIndex(Db, added.name, index.primary, index.second); });
-            if (indexError != 0 && !Db.HasTable(added.name)) Raise(indexError);
-        };
-        append(table);
-        if (second && !Db.HasTable(second->name)) append(*second);
-        Db.Close();
+    int ofTable = 0, ofWin = 0;
+    const Dao::Workspace Ws = run.services.engine.Workspaces(0, run.global.Open);
+    const int error = WritingRoutine(run, table.creator.tail, {DbName, table.name}, [&](OwnFile& file) {
+        ofTable = Append(file.Db(), table, index);
+        if (!win || file.Db().HasTable(win->name)) return;
+        const int untold = ErrorOf([&] { ofWin = Append(file.Db(), *win, index); });
+        if (untold != 0 && !file.Db().HasTable(table.name)) Raise(untold);
     });
     if (error != 0) return;
     run.global.TableOpened = On;
-    if (indexError != 0) ShowStoreError(run, Tails::CreateIndex, indexError, table.name);
+    for (const int indexError : {ofTable, ofWin})
+        if (indexError != 0) ShowStoreError(run, Tails::CreateIndex, indexError, table.name);
 }
 
 }  // namespace

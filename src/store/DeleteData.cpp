@@ -20,9 +20,8 @@ void DeleteFromHere(Dao::Recordset& Rs, Date DrawDate) {
 }  // namespace
 
 void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& TableName, Date DrawDate) {
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(TableName);
+    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(TableName);
         const Integer rows = Rs.RecordCount();
         if (rows <= 0) return;
         Rs.Index(DateField);
@@ -33,19 +32,19 @@ void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& T
 }
 
 void DeleteAllRows(Run& run, const std::string& DbName, const std::string& TableName) {
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(TableName);
-        if (Rs.RecordCount() <= 0) return;
-        // The scratch table is emptied with one commit: nothing in it outlives a wheel.
-        Db.OneCommit();
-        Rs.MoveFirst();
-        do {
-            Rs.Delete();
-            if (!Rs.AtEOF()) Rs.MoveNext();
-        } while (!Rs.AtEOF());
-        Db.Close();
+    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(TableName);
+        DeleteAllRows(Rs);
     });
+}
+
+void DeleteAllRows(Dao::Recordset& Rs) {
+    if (Rs.RecordCount() <= 0) return;
+    Rs.MoveFirst();
+    do {
+        Rs.Delete();
+        if (!Rs.AtEOF()) Rs.MoveNext();
+    } while (!Rs.AtEOF());
 }
 
 }  // namespace sorvane

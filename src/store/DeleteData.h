@@ -1,4 +1,4 @@
-// The only two routines that delete rows.
+// The only two routines that delete rows. Each is one commit.
 #pragma once
 
 #include <string>
@@ -14,5 +14,7 @@ void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& T
 
 // Removes all rows of the table.
 void DeleteAllRows(Run& run, const std::string& DbName, const std::string& TableName);
+// The same within a routine that has the table open.
+void DeleteAllRows(Dao::Recordset& Rs);
 
 }  // namespace sorvane

@@ -1,5 +1,7 @@
 #include "store/StoreLedger.h"
 
+#include <optional>
+
 namespace sorvane {
 
 namespace {
@@ -18,37 +20,43 @@ void PutAmount(Dao::Recordset& Rs, const Global& g, Date date) {
     Rs.Update();
 }
 
-// The row of the date belongs to the game and winnings are being entered: the amount is amended, or left on
-// No.
-bool AmendedInstead(Run& run, Dao::Recordset& Rs, Date date) {
-    const Global& g = run.global;
-    Rs.Index("Date");
-    Rs.Seek(date);
-    if (Rs.NoMatch()) {
-        Rs.MoveLast();
+// A ledger that was looked into for a date.
+struct Ledger {
+    Ledger(Dao::Database& Db, const StoreArgs& at, const Global& g)
+        : Rs(Db.OpenTable(at.TableName)), count(Rs.RecordCount()), amends(count > 0 && FindsOwn(at, g)) {}
+
+    Dao::Recordset Rs;
+    int count;
+    // Winnings are being entered and the first row of the date, now the current one, belongs to the game.
+    bool amends;
+
+  private:
+    bool FindsOwn(const StoreArgs& at, const Global& g) {
+        Rs.Index("Date");
+        Rs.Seek(at.WindowDate);
+        if (Rs.NoMatch()) Rs.MoveLast();
+        else if (g.EnteringWinnings == On) return Rs[1].Is(g.LottoFlag);
         return false;
     }
-    if (g.EnteringWinnings != On) return false;
-    const Dao::Value key = Rs[1];
-    if (key.IsNull() || key.ToText() != g.LottoFlag) return false;
-    if (AskToAmend(run) == Answer::Yes) {
-        Rs.Edit();
-        PutAmount(Rs, g, date);
-    }
-    return true;
-}
+};
 
 }  // namespace
 
 void StoreLedgerAmount(Run& run, const StoreArgs& at) {
-    StoreRoutine(run, Tails::Ledger, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(at.TableName);
-        const int count = Rs.RecordCount();
-        if (count > 0 && AmendedInstead(run, Rs, at.WindowDate)) return;
-        Rs.AddNew();
-        Rs[0] = count + 1;
-        PutAmount(Rs, run.global, at.WindowDate);
+    const Global& g = run.global;
+    WritingRoutine(run, Tails::Ledger, at.Table(), [&](OwnFile& file) {
+        std::optional<Ledger> ledger(std::in_place, file.Db(), at, g);
+        if (ledger->amends) {
+            if (file.Ask([&] { return AskToAmend(run); }) != Answer::Yes) return;
+            ledger.emplace(file.Db(), at, g);
+        }
+        if (ledger->amends) {
+            ledger->Rs.Edit();
+        } else {
+            ledger->Rs.AddNew();
+            ledger->Rs[0] = ledger->count + 1;
+        }
+        PutAmount(ledger->Rs, g, at.WindowDate);
     });
 }
 

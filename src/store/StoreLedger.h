@@ -6,8 +6,9 @@
 namespace sorvane {
 
 // Adds a row with `Dollars` to the ledger named in `at`. While EnteringWinnings is On and the first row of
-// the date belongs to the game, asks whether to amend it instead (title "Correct Winnings?"). An amount that
-// does not convert shows "Please enter a valid amount and try again." and writes nothing.
+// the date belongs to the game, asks whether to amend it instead (title "Correct Winnings?"): Yes amends it,
+// or adds the row anew if it has gone meanwhile. An amount that does not convert shows "Please enter a valid
+// amount and try again." and writes nothing.
 void StoreLedgerAmount(Run& run, const StoreArgs& at);
 
 }  // namespace sorvane

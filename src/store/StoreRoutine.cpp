@@ -29,6 +29,18 @@ void ShowStoreError(Run& run, const ErrorTail& tail, int number, std::string_vie
     run.services.dialogs.MsgBox(g.Msg, BoxStyle::Stop, ErrorTitle);
 }
 
+void OwnFile::Open() {
+    db_.emplace(run_.services.engine.OpenDatabase(DbName_, run_.global.Open));
+    db_->OneCommit();
+}
+
+void OwnFile::Close() {
+    if (!db_) return;
+    const int error = ErrorOf([this] { db_->Close(); });
+    db_.reset();
+    if (error != 0) Raise(error);
+}
+
 std::string DatabasePath(const std::string& AppPath) {
     return (std::filesystem::path(AppPath) / "data" / "sorvane.mdb").make_preferred().string();
 }

@@ -1,6 +1,8 @@
-// How a routine that touches the store fails: one error tail for all, and the sentences that differ.
+// How a routine that touches the store fails: one error tail for all, and the sentences that differ. And how
+// one that writes is all or nothing.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -51,13 +53,61 @@ int StoreRoutine(Run& run, const ErrorTail& tail, const std::string& TableName, 
     return number;
 }
 
+// A table, and the file it stands in.
+struct StoreTable {
+    const std::string& DbName;
+    const std::string& TableName;
+};
+
 // What the reading and writing routines are told by their caller. TableName may be changed where a routine
 // says so.
 struct StoreArgs {
     const std::string& DbName;
     std::string& TableName;
     Date WindowDate;
+
+    StoreTable Table() const { return {DbName, TableName}; }
 };
+
+// The file of a routine that writes. While it is open nobody else writes; all that is written is one commit,
+// made when it closes.
+class OwnFile {
+  public:
+    OwnFile(Run& run, const std::string& DbName) : run_(run), DbName_(DbName) { Open(); }
+    Dao::Database& Db() { return *db_; }
+    // Raises when the commit fails: then nothing of it is written.
+    void Close();
+    // Puts a question, with nothing open and no lock while it waits for its answer. What was read before must
+    // be read again: anybody may have changed it meanwhile.
+    template <class Question>
+    auto Ask(Question question) {
+        Close();
+        const auto answer = question();
+        Open();
+        return answer;
+    }
+
+  private:
+    void Open();
+
+    Run& run_;
+    const std::string& DbName_;
+    std::optional<Dao::Database> db_;
+};
+
+// A StoreRoutine that writes: its work gets the OwnFile and is one commit. An error in the middle of the work
+// commits what was written before it, then its box comes. The box of a commit that fails, of which nothing is
+// left, comes only where no error came before it.
+template <class Work>
+int WritingRoutine(Run& run, const ErrorTail& tail, const StoreTable& table, Work work) {
+    return StoreRoutine(run, tail, table.TableName, [&] {
+        OwnFile file(run, table.DbName);
+        const int inTheMiddle = ErrorOf([&] { work(file); });
+        const int atTheCommit = ErrorOf([&] { file.Close(); });
+        if (inTheMiddle != 0) Raise(inTheMiddle);
+        if (atTheCommit != 0) Raise(atTheCommit);
+    });
+}
 
 // The database file of the program: "data/sorvane.mdb" below AppPath, with the platform's separators.
 std::string DatabasePath(const std::string& AppPath);

@@ -1,5 +1,7 @@
 #include "checking/StoreData.h"
 
+#include <filesystem>
+
 #include "checking/CheckWorld.h"
 
 namespace sorvane::testing {
@@ -161,18 +163,44 @@ TEST_P(MainWriters, TheKeyCountsOnBeyondSixteenBits) {
 
 TEST_P(MainWriters, TheFileIsFreeWhileTheQuestionIsUp) {
     Write(1);
-    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo,
-                   [&] { Plain().Do("UPDATE Win SET ID1 = 9"); });
+    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo, [&] {
+        ExpectAllClosed();
+        Plain().Do("BEGIN EXCLUSIVE; UPDATE Win SET ID1 = 9; COMMIT");
+    });
     Write(2);
     EXPECT_EQ(Written(), Texts{Row(9, 2)});
 }
 
-TEST_P(MainWriters, ARowThatVanishesBehindTheQuestionShowsTheGeneralBox) {
+TEST_P(MainWriters, ARowThatVanishesBehindTheQuestionIsWrittenAnewOnYesAndNotOnNo) {
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        Write(1);
+        dialogs.Expect("RECHECK?", Recheck, answer, BoxStyle::YesNo, [&] { Plain().Do("DELETE FROM Win"); });
+        Write(2);
+        EXPECT_EQ(Written(), answer == Answer::Yes ? Texts{Row(1, 2)} : Texts{});
+    }
+}
+
+TEST_P(MainWriters, ARowThatComesBehindTheQuestionIsTheOneRewritten) {
     Write(1);
-    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo, [&] { Plain().Do("DELETE FROM Win"); });
-    ExpectUnexpected(ErrorNumber::RecordDeleted);
+    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo, [&] {
+        PlainFile file = Plain();
+        file.Do("UPDATE Win SET Date = 1, ID1 = 8");
+        file.Do("INSERT INTO Win (ID1, Date) VALUES (5, " + std::to_string(date.Day()) + ")");
+    });
     Write(2);
-    EXPECT_TRUE(Written().empty());
+    EXPECT_EQ(Plain().Rows("SELECT ID1, Ball_1 FROM Win ORDER BY ID1"), (Texts{"5|2", "8|1"}));
+}
+
+TEST_P(MainWriters, AQuestionOnceAnsweredIsNotPutAgainWhereTheFileCannotBeHadBack) {
+    Write(1);
+    const std::string away = DbName() + ".away";
+    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo,
+                   [&] { std::filesystem::rename(DbName(), away); });
+    ExpectUnexpected(ErrorNumber::StoreFileNotFound);
+    Write(2);
+    ExpectAllClosed();
+    std::filesystem::rename(away, DbName());
+    EXPECT_EQ(Written(), Texts{Row(1, 1)});
 }
 
 TEST_P(MainWriters, AMissingTableShowsItsBox) {
@@ -200,6 +228,11 @@ TEST_F(WinWriters, ANewKenoRowEndsTheTicketsAndNothingElseDoes) {
     dialogs.Expect("RECHECK?", Recheck, Answer::Yes);
     Store(StoreKenoWin, "WinONTKeno");
     EXPECT_EQ(global.TotalTickets, 5);
+    dialogs.Expect("RECHECK?", Recheck, Answer::Yes, BoxStyle::YesNo,
+                   [&] { Plain().Do("DELETE FROM WinONTKeno"); });
+    Store(StoreKenoWin, "WinONTKeno");
+    EXPECT_EQ(global.TotalTickets, 0) << "what has gone is a new row";
+    global.TotalTickets = 5;
     date = Date::FromDays(46096);
     boxes.Main.at(0) = "";
     ExpectUnexpected(ErrorNumber::Conversion);

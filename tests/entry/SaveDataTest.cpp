@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "entry/CreateAllTables.h"
 #include "store/StoreLedger.h"
 #include "support/World.h"
@@ -10,6 +12,7 @@
 namespace sorvane {
 namespace {
 
+using testing::PlainFile;
 using testing::World;
 using Names = std::vector<std::string>;
 
@@ -155,6 +158,79 @@ TEST_F(WritersTest, AKeyTakenAfterACleanUpShowsItsBoxAndTheRowsBeforeItStay) {
     world.ExpectUnexpected(3022);
     SaveLotto6Tickets(world.run, At("PlayedBC49"));
     EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "2,3");
+}
+
+class OneCommitTest : public WritersTest {
+  protected:
+    void SetUp() override {
+        Open(Family::frm649, "BC49", "Extra");
+        g.NoOfTicketsOnSheet = 100;
+        g.Lotto6Tickets.Redim(100);
+    }
+    // The file's own count of commits.
+    unsigned Commits() const {
+        std::ifstream file(state.DbName, std::ios::binary);
+        file.seekg(24);
+        unsigned count = 0;
+        for (int i = 0; i < 4; ++i) count = count * 256 + static_cast<unsigned>(file.get());
+        return count;
+    }
+    std::string Keys() { return world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"); }
+    static constexpr const char* Reading = "BEGIN; SELECT * FROM PlayedBC49";
+};
+
+TEST_F(OneCommitTest, ASheetOfAHundredTicketsIsOne) {
+    const unsigned commits = Commits();
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_EQ(Commits(), commits + 1);
+    EXPECT_EQ(world.Plain().One("SELECT count(*) FROM PlayedBC49"), "100");
+}
+
+TEST_F(OneCommitTest, TheRowsBeforeAnErrorAreOnTheDiskWhenItsBoxComesAndTheFileIsFree) {
+    world.Plain().Do("INSERT INTO PlayedBC49 (ID1) VALUES (4)");
+    const unsigned commits = Commits();
+    world.dialogs.Expect("ERROR!",
+                         "ERROR #3022\r\nUnexpected error occurred. Please advise error number to support.",
+                         Answer::Ok, BoxStyle::Stop, [&] {
+                             EXPECT_EQ(Keys(), "2,3,4");
+                             EXPECT_EQ(Commits(), commits + 1);
+                             EXPECT_EQ(g.Open.DbOpen, 0);
+                             world.Plain().Do("BEGIN EXCLUSIVE; COMMIT");
+                         });
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+}
+
+TEST_F(OneCommitTest, WhereItFailsNothingOfTheSheetStaysAndItsBoxComes) {
+    {
+        PlainFile reader = world.Plain();
+        reader.Do(Reading);
+        world.ExpectUnexpected(3260);
+        SaveLotto6Tickets(world.run, At("PlayedBC49"));
+        EXPECT_EQ(g.Open.DbOpen, 0);
+    }
+    EXPECT_EQ(Keys(), "NULL");
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    EXPECT_EQ(world.Plain().One("SELECT max(ID1) FROM PlayedBC49"), "100");
+}
+
+TEST_F(OneCommitTest, WhereItFailsBehindAnErrorNothingStaysAndTheBoxOfTheErrorComes) {
+    world.Plain().Do("INSERT INTO PlayedBC49 (ID1) VALUES (4)");
+    {
+        PlainFile reader = world.Plain();
+        reader.Do(Reading);
+        world.ExpectUnexpected(3022);
+        SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    }
+    EXPECT_EQ(Keys(), "4");
+}
+
+TEST_F(OneCommitTest, WhileAnotherProgramWritesASheetIsRefusedBeforeItCounts) {
+    PlainFile writer = world.Plain();
+    writer.Do("BEGIN IMMEDIATE; INSERT INTO PlayedBC49 (ID1) VALUES (1)");
+    world.ExpectUnexpected(3260);
+    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    writer.Do("COMMIT");
+    EXPECT_EQ(Keys(), "1");
 }
 
 TEST_F(WritersTest, KeysCountOnBeyondSixteenBits) {

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "store/CreateTables.h"
 #include "support/World.h"
 
@@ -32,11 +35,11 @@ class LedgerTest : public ::testing::Test {
     Names Winnings() {
         return world.Plain().Rows("SELECT ID1, Lottoflag, Winnings FROM Winnings ORDER BY rowid");
     }
-    void ExpectQuestion(Answer answer) {
+    void ExpectQuestion(Answer answer, std::function<void()> meanwhile = {}) {
         world.dialogs.Expect("Correct Winnings?",
                              "You have already entered a Winning amount for this\r\n"
                              "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                             answer, BoxStyle::YesNo);
+                             answer, BoxStyle::YesNo, std::move(meanwhile));
     }
 
     World world;
@@ -106,6 +109,36 @@ TEST_F(LedgerTest, ABadAmountInAnAmendedRowLeavesTheOldOne) {
     world.ExpectStoreError(3421, "Please enter a valid amount and try again.");
     Record("Winnings", "ten");
     EXPECT_EQ(Winnings(), Names{"1|Lotto649|10"});
+}
+
+TEST_F(LedgerTest, NothingIsOpenAndNothingLockedWhileTheQuestionWaits) {
+    g.EnteringWinnings = On;
+    Record("Winnings", "10.00");
+    ExpectQuestion(Answer::Yes, [&] {
+        EXPECT_EQ(g.Open.DbOpen, 0);
+        EXPECT_EQ(g.Open.RsOpen, 0);
+        world.Plain().Do("BEGIN EXCLUSIVE; UPDATE Winnings SET ID1 = 9; COMMIT");
+    });
+    Record("Winnings", "25.00");
+    EXPECT_EQ(Winnings(), Names{"9|Lotto649|25"});
+}
+
+TEST_F(LedgerTest, AnAmountThatHasGoneBehindTheQuestionIsAddedAnewOnYesAndNotOnNo) {
+    g.EnteringWinnings = On;
+    for (const Answer answer : {Answer::No, Answer::Yes}) {
+        Record("Winnings", "10.00");
+        ExpectQuestion(answer, [&] { world.Plain().Do("DELETE FROM Winnings"); });
+        Record("Winnings", "25.00");
+        EXPECT_EQ(Winnings(), answer == Answer::Yes ? Names{"1|Lotto649|25"} : Names{});
+    }
+}
+
+TEST_F(LedgerTest, ARowOfAnotherGameThatHasComeBehindTheQuestionIsNotAmended) {
+    g.EnteringWinnings = On;
+    Record("Winnings", "10.00");
+    ExpectQuestion(Answer::Yes, [&] { world.Plain().Do("UPDATE Winnings SET Lottoflag = 'BC49'"); });
+    Record("Winnings", "25.00");
+    EXPECT_EQ(Winnings(), (Names{"1|BC49|10", "2|Lotto649|25"}));
 }
 
 TEST_F(LedgerTest, AMissingLedgerIsNamed) {

@@ -38,6 +38,27 @@ TEST(CheckDatabaseExistsTest, AMissingFolderIsMadeAndTheEmptyFileInItWithoutAMes
     EXPECT_EQ(world.global.Open.WsOpen, 0);
 }
 
+fs::perms RightsOf(const fs::path& path) { return fs::status(path).permissions(); }
+
+TEST(CheckDatabaseExistsTest, WhatItMakesIsTheUsersAloneAndWhatIsThereKeepsItsRights) {
+    constexpr fs::perms Own = fs::perms::owner_read | fs::perms::owner_write;
+    World world;
+    const fs::path folder = world.folder / "data";
+    CheckDatabaseExists(world.run, world.DbName());
+    EXPECT_EQ(RightsOf(folder), fs::perms::owner_all);
+    EXPECT_EQ(RightsOf(world.DbName()), Own);
+    constexpr fs::perms Shared = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec;
+    fs::permissions(folder, Shared);
+    fs::permissions(world.DbName(), Own | fs::perms::group_read);
+    CheckDatabaseExists(world.run, world.DbName());
+    EXPECT_EQ(RightsOf(folder), Shared);
+    EXPECT_EQ(RightsOf(world.DbName()), Own | fs::perms::group_read);
+    fs::remove(world.DbName());
+    CheckDatabaseExists(world.run, world.DbName());
+    EXPECT_EQ(RightsOf(folder), Shared);
+    EXPECT_EQ(RightsOf(world.DbName()), Own);
+}
+
 TEST(CheckDatabaseExistsTest, AFileThatIsThereIsLeftAlone) {
     World world;
     world.WithDatabase();
@@ -228,10 +249,47 @@ TEST(CreateIndexTest, OfAPairTheTablesStandWithoutTheIndexesThatFail) {
     world.global.LottoFlag = "BC49";
     std::string table = "PlayedBC49";
     Integer code = 6;
-    world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
+    for (int box = 0; box < 2; ++box)
+        world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
     CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, "Day");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), (Names{"PlayedBC49", "WinBC49"}));
+}
+
+Names IndexesOf(World& world, const std::string& table) {
+    return world.Plain().Rows("SELECT name FROM pragma_index_list('" + table + "') ORDER BY name");
+}
+
+TEST(CreateIndexTest, AnIndexThatCannotBeMadeLeavesTheOtherTableOfThePairItsOwn) {
+    const Names played{"PlayedBC49.Date", "PlayedBC49.ID1"}, win{"WinBC49.Date", "WinBC49.ID1"};
+    for (const bool ofPlayed : {true, false}) {
+        World world;
+        world.WithDatabase();
+        world.global.LottoFlag = "BC49";
+        world.Plain().Do("CREATE TABLE Other (x); CREATE INDEX \"" +
+                         std::string(ofPlayed ? "PlayedBC49.ID1" : "WinBC49.ID1") + "\" ON Other (x)");
+        std::string table = "PlayedBC49";
+        Integer code = 6;
+        world.ExpectStoreError(3010, " Unable to create index. Please advise error number to support.");
+        CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+        EXPECT_EQ(IndexesOf(world, "PlayedBC49"), ofPlayed ? Names{} : played);
+        EXPECT_EQ(IndexesOf(world, "WinBC49"), ofPlayed ? win : Names{});
+    }
+}
+
+TEST(CreateTableByShapeTest, AWinTableThatCannotBeMadeIsToldOnceAPassAndLeavesThePlayedTableWhole) {
+    World world;
+    world.WithDatabase();
+    world.global.LottoFlag = "BC49";
+    world.Plain().Do("CREATE VIEW WinBC49 AS SELECT 1");
+    std::string table = "PlayedBC49";
+    Integer code = 6;
+    world.ExpectUnexpected(3010);
+    world.dialogs.Expect("ERROR!", "ERROR #3010\r\n" + std::string(Unexpected), Answer::Ok, BoxStyle::Stop,
+                         [&] { world.Plain().Do("DROP VIEW WinBC49"); });
+    CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+    EXPECT_EQ(IndexesOf(world, "PlayedBC49").size(), 2u);
+    EXPECT_EQ(IndexesOf(world, "WinBC49").size(), 2u);
 }
 
 struct ShapeCase {

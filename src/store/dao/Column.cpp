@@ -29,13 +29,8 @@ constexpr std::array<TypeName, 6> TypeNames = {{
 
 constexpr std::int64_t LargestAmount = std::numeric_limits<std::int64_t>::max() / Currency::Scale;
 
-char Upper(char letter) {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-}
-
 bool SameName(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Upper(x) == Upper(y); });
+    return a.size() == b.size() && sqlite3_strnicmp(a.data(), b.data(), static_cast<int>(a.size())) == 0;
 }
 
 int CharactersOf(std::string_view utf8) {

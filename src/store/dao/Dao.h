@@ -138,8 +138,9 @@ class Recordset {
 
     void AddNew();
     void Edit();  // 3021 without a current row
-    // Durable when it returns; the position is unchanged by AddNew. When it raises, nothing is written and
-    // the new or changed row is still there to be mended; a move, AddNew or Edit drops it.
+    // On the disk when it returns, but under OneCommit; the position is unchanged by AddNew. When it raises,
+    // nothing is written and the new or changed row is still there to be mended; a move, AddNew or Edit drops
+    // it.
     void Update();
     void Delete();  // the position stays on the deleted row until a move
 
@@ -191,8 +192,10 @@ class Database {
     // and no key twice (3022). 3010 when the table has an index of that name.
     void AppendIndex(std::string_view table, std::string_view name, std::string_view field, bool primary);
 
-    // From here on rows are committed together, once, when the database closes: for the scratch table alone.
-    // Close raises when that fails, and the database is closed all the same.
+    // From here to the close nobody else writes (3260 when another does for longer than a second), and all
+    // that is written is one commit, made by the close. Close raises when that fails: then nothing of it is
+    // written, and the database is closed all the same. An error of the disk in between undoes all of it at
+    // once: what is written behind it, and the close, raise 3043.
     void OneCommit();
 
     void Close();

@@ -46,7 +46,9 @@ void DatabaseState::Close() {
     dataVersion_ = {};
     Connection closing = std::move(connection_);
     flags_.DbOpen = Off;
-    if (closing.InTransaction()) closing.Execute("COMMIT");
+    if (!oneCommit_) return;
+    if (!closing.InTransaction()) Raise(ErrorNumber::DiskError);
+    closing.Execute("COMMIT");
 }
 
 std::optional<std::string> DatabaseState::FindTable(std::string_view name) const {
@@ -113,12 +115,19 @@ void DatabaseState::AppendIndex(std::string_view table, std::string_view name, s
     Write(create);
 }
 
+void DatabaseState::OneCommit() {
+    LeaveAll();
+    connection_.Execute("BEGIN IMMEDIATE");
+    oneCommit_ = true;
+}
+
 int DatabaseState::Write(Statement& statement) {
+    // Written now it would be a commit of its own, without what went before it.
+    if (oneCommit_ && !connection_.InTransaction()) Raise(ErrorNumber::DiskError);
     // A walk that is open on this connection would make a lock held by somebody else fail at once instead of
     // being waited for.
     LeaveAll();
     ++writes_;
-    if (oneCommit_ && !connection_.InTransaction()) connection_.Execute("BEGIN IMMEDIATE");
     statement.Step();
     return sqlite3_changes(connection_.Handle());
 }

@@ -82,9 +82,10 @@ class DatabaseState {
     int CountOf(std::string_view table) const;
     void Append(const TableDef& table);
     void AppendIndex(std::string_view table, std::string_view name, std::string_view field, bool primary);
-    void OneCommit() { oneCommit_ = true; }
+    void OneCommit();
 
-    // Runs a statement that changes the file; gives the number of rows changed. It is on disk then.
+    // Runs a statement that changes the file; gives the number of rows changed. It is on disk then, but under
+    // OneCommit.
     int Write(Statement& statement);
     // Grows with every write through this connection, whatever came of it.
     std::int64_t Writes() const { return writes_; }

@@ -1,5 +1,6 @@
 #include "store/dao/Sqlite.h"
 
+#include <chrono>
 #include <utility>
 
 #include "platform/RunTimeError.h"
@@ -8,7 +9,20 @@ namespace sorvane::Dao {
 
 namespace {
 
-constexpr int BusyMilliseconds = 1000;
+// How long a file that another holds is waited for, and how often it is asked for meanwhile. Often, because
+// who saves sheet after sheet gives the file back for a moment only.
+constexpr std::chrono::milliseconds LongestWait{1000};
+constexpr std::chrono::microseconds BetweenTwoTries{2000};
+
+int WaitForTheFile(void* waiting, int tries) {
+    auto& wait = *static_cast<Connection::Wait*>(waiting);
+    const auto now = std::chrono::steady_clock::now();
+    if (tries == 0) wait.since = now;
+    // The clock alone would not end the wait of a test, in which it takes no time.
+    if (tries >= LongestWait / BetweenTwoTries || now - wait.since >= LongestWait) return 0;
+    wait.vfs->xSleep(wait.vfs, static_cast<int>(BetweenTwoTries.count()));
+    return 1;
+}
 
 int NumberOfConstraint(int result) {
     switch (result) {
@@ -134,7 +148,8 @@ Connection::Connection(const std::string& path, const std::string& vfs, OpenAs a
 
 void Connection::Configure() {
     sqlite3_extended_result_codes(Handle(), 1);
-    sqlite3_busy_timeout(Handle(), BusyMilliseconds);
+    sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_VFS_POINTER, &wait_->vfs);
+    sqlite3_busy_handler(Handle(), WaitForTheFile, wait_.get());
     constexpr std::pair<int, int> Switches[] = {
         {SQLITE_DBCONFIG_DEFENSIVE, 1},   {SQLITE_DBCONFIG_ENABLE_TRIGGER, 0},
         {SQLITE_DBCONFIG_ENABLE_VIEW, 0}, {SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0},

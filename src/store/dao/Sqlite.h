@@ -4,6 +4,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -74,6 +75,12 @@ class Connection {
     bool InTransaction() const { return sqlite3_get_autocommit(handle_.get()) == 0; }
     void Close() { handle_.reset(); }
 
+    // A wait for a file that another holds.
+    struct Wait {
+        sqlite3_vfs* vfs = nullptr;
+        std::chrono::steady_clock::time_point since;
+    };
+
   private:
     void Configure();
     void CheckLength();
@@ -81,6 +88,7 @@ class Connection {
     struct CloseHandle {
         void operator()(sqlite3* handle) const { sqlite3_close(handle); }
     };
+    std::unique_ptr<Wait> wait_ = std::make_unique<Wait>();  // outlives the handle, which asks it
     std::unique_ptr<sqlite3, CloseHandle> handle_;
 };
 

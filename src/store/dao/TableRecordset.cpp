@@ -43,6 +43,8 @@ TableRecordset::TableRecordset(DatabaseState& database, std::string table)
 void TableRecordset::Release() {
     walk_ = nullptr;
     statements_ = {};
+    insert_ = {};
+    delete_ = {};
 }
 
 // The row-value form (key, rowid) > (?, ?) would walk all rows of one key at each entry.
@@ -281,14 +283,16 @@ void TableRecordset::Edit() {
     pending_ = Pending{false, values_, std::vector<bool>(Columns().size(), false)};
 }
 
-Statement TableRecordset::InsertOf(const Pending& pending) {
-    std::string marks;
-    for (std::size_t i = 0; i < Columns().size(); ++i) marks += i == 0 ? "?" : ", ?";
-    Statement insert = Database().Prepare("INSERT INTO " + Quoted(table_) + " (" + ListOf(Columns()) +
-                                          ") VALUES (" + marks + ")");
+Statement& TableRecordset::InsertOf(const Pending& pending) {
+    if (!insert_) {
+        std::string marks;
+        for (std::size_t i = 0; i < Columns().size(); ++i) marks += i == 0 ? "?" : ", ?";
+        insert_ = Database().Prepare("INSERT INTO " + Quoted(table_) + " (" + ListOf(Columns()) +
+                                     ") VALUES (" + marks + ")");
+    }
     for (std::size_t i = 0; i < Columns().size(); ++i)
-        insert.Bind(static_cast<int>(i) + 1, ToCell(pending.values[i]));
-    return insert;
+        insert_.Bind(static_cast<int>(i) + 1, ToCell(pending.values[i]));
+    return insert_;
 }
 
 Statement TableRecordset::UpdateOf(const Pending& pending) {
@@ -338,8 +342,7 @@ void TableRecordset::Update() {
     if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
     RefuseNullKeys(*pending_);
     if (pending_->adding) {
-        Statement insert = InsertOf(*pending_);
-        Write(insert, 1);
+        Write(InsertOf(*pending_), 1);
     } else if (pending_->touched != std::vector<bool>(Columns().size(), false)) {
         Statement update = UpdateOf(*pending_);
         if (Write(update, 0) == 0) Raise(ErrorNumber::RecordDeleted);
@@ -353,9 +356,10 @@ void TableRecordset::Delete() {
     Leave();
     pending_.reset();
     NeedRow();
-    Statement remove = Database().Prepare("DELETE FROM " + Quoted(table_) + " WHERE " + rowid_ + " = ?1");
-    remove.Bind(1, row_);
-    const int removed = Write(remove, -1);
+    if (!delete_)
+        delete_ = Database().Prepare("DELETE FROM " + Quoted(table_) + " WHERE " + rowid_ + " = ?1");
+    delete_.Bind(1, row_);
+    const int removed = Write(delete_, -1);
     place_ = Place::Deleted;
     if (removed == 0) Raise(ErrorNumber::RecordDeleted);
     // The next row to come may be given the number that has become free; it stands behind the position.

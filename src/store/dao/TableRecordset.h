@@ -61,7 +61,7 @@ class TableRecordset final : public RecordsetState {
     Statement& Enter();
     Statement& EnterNextKey();
     bool StepWalk(Statement& walk);
-    Statement InsertOf(const Pending& pending);
+    Statement& InsertOf(const Pending& pending);
     Statement UpdateOf(const Pending& pending);
     void RefuseNullKeys(const Pending& pending);
     int Write(Statement& statement, int added);
@@ -72,6 +72,7 @@ class TableRecordset final : public RecordsetState {
     std::string index_;
     int key_ = -1;  // ordinal of the index's field
     std::array<Statement, Queries> statements_;
+    Statement insert_, delete_;
 
     Place place_ = Place::Opened;
     bool noMatch_ = false;

@@ -43,6 +43,9 @@ class PlainTool {
         sqlite3_free(message);
         return cells;
     }
+    int Result(const std::string& sql) {
+        return sqlite3_exec(handle_, sql.c_str(), nullptr, nullptr, nullptr);
+    }
     std::string One(const std::string& sql) {
         const auto cells = Ask(sql);
         return cells.empty() ? "no row" : cells.front();

@@ -278,6 +278,29 @@ TEST_F(Faults, EachUpdateIsSyncedBeforeItReturns) {
     }
 }
 
+TEST_F(Faults, WhatAnErrorOfTheDiskHasUndoneIsNotHalfWrittenBehindIt) {
+    int undone = 0;
+    for (int n = 1;; ++n) {
+        Renew();
+        OpenEvery();
+        db_->OneCommit();
+        rs_->Index("ID1");
+        vfs_.FailAt(Operation::Read, n, FaultVfs::Lasting::Once);
+        const int number = ErrorOf([&] {
+            Add(*rs_, RowsBefore + 1, 40010);
+            rs_->Seek(1);
+            rs_->Delete();
+        });
+        if (number == 0) break;
+        EXPECT_EQ(number, ErrorNumber::DiskError);
+        ++undone;
+        EXPECT_EQ(ErrorOf([&] { Add(*rs_, RowsBefore + 2, 40010); }), ErrorNumber::DiskError);
+        EXPECT_EQ(ErrorOf([&] { db_->Close(); }), ErrorNumber::DiskError);
+        EXPECT_EQ(Content(), before_) << "read " << n;
+    }
+    EXPECT_GT(undone, 2);
+}
+
 TEST_F(Faults, OneCommitSyncsOnceForAllRows) {
     Renew();
     OpenEvery();

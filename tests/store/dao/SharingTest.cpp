@@ -86,6 +86,19 @@ TEST_F(Sharing, OneCommitThatCannotBeMadeRaisesAtCloseAndClosesAllTheSame) {
     EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
 }
 
+TEST_F(Sharing, OneCommitIsRefusedAfterASecondWhileAnotherWrites) {
+    CreateWithDays({10});
+    Database db = Open();
+    other_.Do("BEGIN IMMEDIATE");
+    ExpectAboutASecond(SecondsOf([&] { EXPECT_EQ(ErrorOf([&] { db.OneCommit(); }), ErrorNumber::Locked); }));
+    other_.Do("ROLLBACK");
+    db.OneCommit();
+    Recordset rs = db.OpenTable("Every");
+    Add(rs, 2, 10);
+    db.Close();
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "2");
+}
+
 TEST_F(Sharing, AMoveRefusedByALockLeavesThePosition) {
     CreateWithDays({10, 20});
     Database db = Open();

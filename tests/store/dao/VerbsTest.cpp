@@ -363,6 +363,15 @@ TEST_F(Verbs, SqlRowsComeInTheirOrderAndEqualOnesAsTheyWereInserted) {
     EXPECT_EQ(Ids(up), (Numbers{1, 3, 2, 4}));
 }
 
+TEST_F(Verbs, AnIndexDoesNotTurnEqualSqlRowsAround) {
+    CreateWithDays({10, 20, 10, 20, 10});
+    Database db = Open();
+    Recordset down = db.OpenSql("SELECT * FROM [Every] ORDER BY [Date] DESC");
+    EXPECT_EQ(Ids(down), (Numbers{2, 4, 1, 3, 5}));
+    Recordset unordered = db.OpenSql("SELECT [ID1] FROM [Every] WHERE [Date] >= ?", {10});
+    EXPECT_EQ(Ids(unordered), (Numbers{1, 2, 3, 4, 5}));
+}
+
 TEST_F(Verbs, SqlTakesItsValuesInTurnAndComparesTextByCase) {
     Database db = CreateEvery();
     Recordset rs = db.OpenTable("Every");
@@ -467,6 +476,33 @@ TEST_F(Verbs, OneCommitHoldsTheRowsBackUntilTheDatabaseCloses) {
     EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "0");
     db.Close();
     EXPECT_EQ(Plain().One("SELECT ID1 FROM Every"), "2");
+}
+
+TEST_F(Verbs, NobodyElseWritesFromOneCommitToTheClose) {
+    CreateWithDays({10});
+    PlainTool other(path_, 0);
+    const auto isFree = [&] { return other.Result("BEGIN IMMEDIATE; ROLLBACK") == SQLITE_OK; };
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    EXPECT_TRUE(isFree());
+    db.OneCommit();
+    EXPECT_FALSE(isFree());
+    EXPECT_EQ(rs.RecordCount(), 1);
+    EXPECT_EQ(other.One("SELECT count(*) FROM Every"), "1") << "reading goes on";
+    db.Close();
+    EXPECT_TRUE(isFree());
+}
+
+TEST_F(Verbs, ReadingTakesNoLockThatKeepsOthersFromWriting) {
+    CreateWithDays({10, 20});
+    PlainTool other(path_, 0);
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    rs.Seek(20);
+    rs.MoveLast();
+    EXPECT_EQ(other.Result("INSERT INTO Every (ID1) VALUES (3)"), SQLITE_OK);
+    EXPECT_EQ(rs.RecordCount(), 3);
 }
 
 TEST_F(Verbs, OneCommitIsKeptByTheDestructorToo) {
