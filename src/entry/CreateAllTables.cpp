@@ -23,6 +23,8 @@ struct TableStep {
     std::optional<TableName> (*Name)(Family family, const Global& global);
     const Creator* creator = nullptr;
     bool onlyWhenNamed = false;
+    // Makes the table of the next step in the same commit.
+    std::string_view withWin = {};
 };
 
 std::optional<TableName> MainPlayed(Family family, const Global& global) {
@@ -57,7 +59,8 @@ std::optional<TableName> LottarioWin(Family, const Global& global) {
     if (!key) return {};
     return TableName{std::string(key->Win), 6};
 }
-std::optional<TableName> Play4Win(Family, const Global&) { return TableName{"WinFLAPlay4", 4}; }
+constexpr const char* Play4WinName = "WinFLAPlay4";
+std::optional<TableName> Play4Win(Family, const Global&) { return TableName{Play4WinName, 4}; }
 std::optional<TableName> Temp(Family family, const Global&) {
     return TableName{"Temp", FamilyFacts::NumbersPerTicket[family]};
 }
@@ -72,7 +75,8 @@ const TableStep Keno70Steps[] = {
     {MainPlayed}, {MainWin, &CreateWinKenoTable}, {KenoEncore}, {Temp, &CreateTempTable}};
 const TableStep Keno80Steps[] = {{Temp, &CreateTempTable}};
 const TableStep Pick3Steps[] = {{MainPlayed}, {MainWin, &CreateWinPick3Table}, {AddOnPlayed}};
-const TableStep Pick4Steps[] = {{MainPlayed}, {Play4Win, &CreateWinPick4Table}};
+const TableStep Pick4Steps[] = {{.Name = MainPlayed, .withWin = Play4WinName},
+                                {Play4Win, &CreateWinPick4Table}};
 
 const PerFamily<std::span<const TableStep>>& Steps() {
     static const PerFamily<std::span<const TableStep>> steps{
@@ -106,7 +110,7 @@ void CreateAllTables(Run& run, Family family, WindowState& state) {
         else
             MakeSureOf(run, state.DbName, state.TableName, [&] {
                 CreateTableByShape(run, state.DbName, state.TableName, state.NumbersPerTicket,
-                                   PrimaryFieldName, DateFieldName);
+                                   PrimaryFieldName, DateFieldName, std::string(step.withWin));
             });
     }
     state.NumbersPerTicket = FamilyFacts::NumbersPerTicket[family];

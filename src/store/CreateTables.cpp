@@ -195,14 +195,15 @@ void Creator::operator()(Run& run, const std::string& DbName, const std::string&
 }
 
 void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
-                        const std::string& PrimaryField, const std::string& SecondField) {
+                        const std::string& PrimaryField, const std::string& SecondField,
+                        const std::string& WinOtherwise) {
     const IndexFields index{PrimaryField, SecondField};
     for (const ShapePair& pair : ShapePairs()) {
         if (pair.code != ShapeCode) continue;
         const auto winName = pair.WinName(run.global);
-        const NewTable win{pair.win, winName.value_or("")};
+        const NewTable win{pair.win, winName.value_or(WinOtherwise)};
         const auto createPair = [&] {
-            Make(run, DbName, {pair.played, TableName}, winName ? &win : nullptr, index);
+            Make(run, DbName, {pair.played, TableName}, win.name.empty() ? nullptr : &win, index);
         };
         if (pair.code == FourDigits) {
             if (const auto name = Pick4Played(run.global)) TableName = *name;

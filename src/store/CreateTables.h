@@ -53,8 +53,10 @@ inline const std::string DateFieldName = "Date";
 // Makes the pair of tables of a shape code in one commit: 1 digit add-on, 3 and 4 digits, 6, 7, 20 keno; any
 // other does nothing. The played table is made under TableName (for code 4 under the name that ExtraFlag
 // tells, in a probing loop); then TableName becomes the matching Win table's, which a probing loop makes
-// should it still be missing. Where no key matches, the name stays what it was and nothing further is made.
+// should it still be missing. Where no key matches, the name stays what it was and nothing further is made,
+// but a Win table that the caller names itself: it is made with the played one.
 void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
-                        const std::string& PrimaryField, const std::string& SecondField);
+                        const std::string& PrimaryField, const std::string& SecondField,
+                        const std::string& WinOtherwise = {});
 
 }  // namespace sorvane

@@ -1,8 +1,10 @@
 // A program that dies while it makes its tables: what it leaves must do for the next start.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "entry/CreateAllTables.h"
 #include "support/FaultVfs.h"
@@ -48,6 +50,20 @@ class DyingCreation : public ::testing::TestWithParam<Opening> {
     static Names Schema(const World& world) {
         return world.Plain().Rows("SELECT name FROM sqlite_schema ORDER BY name");
     }
+    static void ExpectWholePairs(const World& world, int n) {
+        if (!std::filesystem::exists(world.DbName())) return;
+        const Names names = Schema(world);
+        const auto has = [&](const std::string& name) {
+            return std::find(names.begin(), names.end(), name) != names.end();
+        };
+        constexpr std::string_view Played = "Played";
+        for (const std::string& table : world.Plain().Tables()) {
+            if (table == "Temp") continue;
+            EXPECT_TRUE(has(table + ".ID1") && has(table + ".Date")) << table << ", dead at " << n;
+            if (table.rfind(Played, 0) != 0) continue;
+            EXPECT_TRUE(has("Win" + table.substr(Played.size()))) << table << ", dead at " << n;
+        }
+    }
 };
 
 TEST_P(DyingCreation, LeavesNoTableWithoutItsIndexesAndNoPairWithoutItsHalf) {
@@ -63,6 +79,7 @@ TEST_P(DyingCreation, LeavesNoTableWithoutItsIndexesAndNoPairWithoutItsHalf) {
         vfs.Heal();
         if (lived) break;
         ++died;
+        ExpectWholePairs(world, n);
         EXPECT_TRUE(Open(vfs, world)) << "dead at " << n;
         EXPECT_EQ(Schema(world), complete) << "dead at " << n;
     }
