@@ -12,7 +12,7 @@ namespace {
 // How long a file that another holds is waited for, and how often it is asked for meanwhile. Often, because
 // who saves sheet after sheet gives the file back for a moment only.
 constexpr std::chrono::milliseconds LongestWait{1000};
-constexpr std::chrono::microseconds BetweenTwoTries{2000};
+constexpr std::chrono::microseconds BetweenTwoTries{500};
 
 int WaitForTheFile(void* waiting, int tries) {
     auto& wait = *static_cast<Connection::Wait*>(waiting);
