@@ -157,8 +157,8 @@ struct IndexFields {
     const std::string& second;
 };
 
-// Appends the table and its indexes. Returns the error of the indexes, without which the table stands; raises
-// where it doesn't stand.
+// Appends the table and its indexes. When only the indexes fail, the table stands and their error is
+// returned; any other error is raised.
 int Append(Dao::Database& Db, const NewTable& table, const IndexFields& index) {
     Db.Append(Define(table.name, table.creator.fields));
     if (!table.creator.indexed) return 0;
@@ -167,10 +167,10 @@ int Append(Dao::Database& Db, const NewTable& table, const IndexFields& index) {
     return error;
 }
 
-// Makes a table, and with it the Win table of its pair, if it is missing. All of it is one commit: a program
-// that dies meanwhile leaves no table half made and no pair without its half, which nothing would mend. Else
-// each table stands for itself: the indexes of one that fail are told in a box of their own, and a Win table
-// that can't be made is told by whoever looks for it.
+// Makes a table and, if it is missing, the Win table of its pair. All of it is one commit, because nothing
+// would mend a table without its indexes or a played table without its Win table. Otherwise each table stands
+// for itself: indexes that can't be made show a box for their own table. A Win table that can't be made shows
+// none here; the probing loop behind does.
 void Make(Run& run, const std::string& DbName, const NewTable& table, const NewTable* win,
           const IndexFields& index) {
     int ofTable = 0, ofWin = 0;

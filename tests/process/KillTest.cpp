@@ -1,5 +1,4 @@
-// The program is killed at random moments. What it said is written is there; the rows of a sheet are commits
-// of their own, so that a sheet may be half written.
+// The program is killed at random moments while somebody plays. What it said is written is there.
 //     SORVANE_KILLS  how often, 30 when not told
 //     SORVANE_SEED   repeats the moments of an earlier run
 #include <cstdlib>

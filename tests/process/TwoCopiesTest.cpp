@@ -1,12 +1,10 @@
 // Two copies of the program at one file.
-#include <iostream>
-
 #include "process/Child.h"
 
 namespace sorvane::test {
 namespace {
 
-TEST(TwoCopies, LoseNoRowButWhereAKeyWasTakenAndTheBoxSaidSo) {
+TEST(TwoCopies, LoseNoRowAndNeitherShowsABox) {
     constexpr int Patience = 30000, Sittings = 8;
     Home home;
     constexpr const char* Lotto = "mnuCANONTLotto649";
@@ -19,9 +17,7 @@ TEST(TwoCopies, LoseNoRowButWhereAKeyWasTakenAndTheBoxSaidSo) {
             child->AwaitEnd(Patience);
             home.ExpectKept(child->promises);
             EXPECT_FALSE(child->promises.empty());
-            for (const int number : child->refusals) EXPECT_EQ(number, 3022);
-            std::cout << child->promises.size() << " promises, " << child->refusals.size() << " keys taken"
-                      << std::endl;
+            EXPECT_TRUE(child->refusals.empty());
         }
     }
     home.ExpectWhole();

@@ -101,6 +101,56 @@ TEST(ProbeTableTest, AnyOtherErrorShowsTheGeneralBox) {
     EXPECT_EQ(world.global.TableOpened, 0);
 }
 
+TEST(ProbeTableTest, AFolderInThePlaceOfTheJournalIsNoPermission) {
+    World world;
+    world.WithDatabase();
+    Make(world, CreateSpentTable, "Spent");
+    fs::create_directory(world.DbName() + "-journal");
+    world.ExpectUnexpected(3051);
+    ProbeTable(world.run, world.DbName(), "Spent");
+    EXPECT_EQ(world.global.TableOpened, 0);
+    fs::remove(world.DbName() + "-journal");
+    ProbeTable(world.run, world.DbName(), "Spent");
+    EXPECT_EQ(world.global.TableOpened, 1);
+}
+
+TEST(ProbeTableTest, AFileOfOneByteIsNoDatabaseAndStaysAsItIs) {
+    World world;
+    world.WithDatabase();
+    { std::ofstream(world.DbName(), std::ios::trunc) << 'x'; }
+    world.ExpectUnexpected(3343);
+    ProbeTable(world.run, world.DbName(), "Spent");
+    CheckDatabaseExists(world.run, world.DbName());
+    EXPECT_EQ(fs::file_size(world.DbName()), 1u);
+}
+
+// A folder below which the file's whole path has that many characters.
+std::string FolderForAPathOf(std::size_t characters, const World& world) {
+    const std::size_t behind = world.DbName().size() - world.folder.Path().string().size();
+    std::string folder = world.folder.Path().string();
+    while (folder.size() + behind < characters) {
+        const std::size_t missing = characters - behind - folder.size();
+        if (missing == 1) folder.back() = 'y', folder += "x";
+        else folder += "/" + std::string(std::min<std::size_t>(missing - 1, missing > 102 ? 100 : 200), 'x');
+    }
+    fs::create_directories(folder);
+    return folder;
+}
+
+TEST(CheckDatabaseExistsTest, APathOfFiveHundredCharactersIsTakenAndALongerOneIsNoPermission) {
+    for (const std::size_t characters : {std::size_t{500}, std::size_t{505}}) {
+        World world;
+        world.global.AppPath = FolderForAPathOf(characters, world) + "/";
+        ASSERT_EQ(world.DbName().size(), characters);
+        const bool taken = characters <= 500;
+        if (!taken) world.ExpectUnexpected(3051);
+        CheckDatabaseExists(world.run, world.DbName());
+        if (!taken) world.ExpectUnexpected(3024);
+        ProbeTable(world.run, world.DbName(), "Spent");
+        EXPECT_EQ(fs::exists(world.DbName()), taken);
+    }
+}
+
 TEST(ProbingLoopTest, CreatesAMissingTableSilently) {
     World world;
     world.WithDatabase();

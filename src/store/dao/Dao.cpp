@@ -21,7 +21,7 @@ file_type TypeOf(const std::filesystem::path& path) {
     return std::filesystem::status(path, ignored).type();
 }
 
-// SQLite does not tell a folder from a file that is locked away, and would wait at a pipe for ever.
+// SQLite has one error for a folder and for a file without permission, and would wait for a pipe forever.
 void RefuseNoFile(const std::string& path) {
     const file_type type = TypeOf(PathOf(path));
     if (type == file_type::not_found) Raise(ErrorNumber::StoreFileNotFound);
@@ -125,7 +125,7 @@ Database Workspace::CreateDatabase(const std::string& path, std::string_view) {
     if (TypeOf(file) != file_type::not_found) Raise(ErrorNumber::PathFileAccess);
     if (file.has_parent_path() && TypeOf(file.parent_path()) != file_type::directory)
         Raise(ErrorNumber::PathNotFound);
-    // Without a first write the file would have no bytes, and other tools would take it for anything.
+    // A first write, since other tools can't tell what an empty file is.
     constexpr const char* MarkAsOurs = "PRAGMA application_id = 0x536F7276";
     Connection(path, engine_->vfs_, OpenAs::New).Execute(MarkAsOurs);
     return engine_->OpenDatabase(path, *flags_);

@@ -37,7 +37,7 @@ DatabaseState::DatabaseState(const std::string& path, const std::string& vfs, Op
 }
 
 DatabaseState::~DatabaseState() {
-    // A commit that fails here has no statement left to report it; who needs to know calls Close.
+    // A destructor cannot report a commit that fails. Callers who need to know call Close.
     if (IsOpen()) ErrorOf([this] { Close(); });
 }
 
@@ -75,7 +75,7 @@ std::vector<Column> DatabaseState::ColumnsOf(std::string_view table) const {
 }
 
 int DatabaseState::CountOf(std::string_view table) const {
-    // Counting looks into no cell, and to check them all would take longer than to count.
+    // Counting reads no cell, and checking the cells would take longer than the count itself.
     struct Unchecked {
         explicit Unchecked(const Connection& counted) : connection(counted) { connection.CheckCells(false); }
         Unchecked(const Unchecked&) = delete;
@@ -122,10 +122,9 @@ void DatabaseState::OneCommit() {
 }
 
 int DatabaseState::Write(Statement& statement) {
-    // Written now it would be a commit of its own, without what went before it.
+    // SQLite has undone the rows before this one; alone it would be a part of the routine.
     if (oneCommit_ && !connection_.InTransaction()) Raise(ErrorNumber::DiskError);
-    // A walk that is open on this connection would make a lock held by somebody else fail at once instead of
-    // being waited for.
+    // With a walk open on this connection, SQLite would not wait for a lock that somebody else holds.
     LeaveAll();
     ++writes_;
     statement.Step();

@@ -161,8 +161,8 @@ void Connection::Configure() {
     Execute("PRAGMA mmap_size = 0");
     Execute("PRAGMA temp_store = MEMORY");
     Execute("PRAGMA synchronous = EXTRA");
-    // Another tool may have left the file with a write-ahead log: then one file is not all of it, and a
-    // folder that may only be read cannot open it.
+    // Another tool may have left the file with a write-ahead log. Then some rows are in a second file, and
+    // the file can't be opened in a folder that may only be read.
     Statement journal = Prepare("PRAGMA journal_mode = DELETE");
     if (!journal.Step() || journal.Text(0) != "delete") Raise(ErrorNumber::Locked);
     CheckLength();
@@ -173,8 +173,8 @@ void Connection::CheckCells(bool on) const noexcept {
                  nullptr, nullptr);
 }
 
-// SQLite fills up a last page that is cut off with zeros. The statement holds the lock under which the file's
-// length stands still.
+// SQLite reads a last page that is cut off as if zeros followed. The statement holds a lock, so that the
+// file's length doesn't change meanwhile.
 void Connection::CheckLength() {
     Statement schema = Prepare("SELECT count(*) FROM sqlite_schema");
     schema.Step();

@@ -9,7 +9,8 @@ namespace sorvane::Dao {
 
 namespace {
 
-// A stranger's table may have fields with these names; at most two of them leave one free.
+// A table that another tool made may have fields with these names. It can't use all three and keep its row
+// numbers.
 std::string RowidOf(const std::vector<Column>& columns) {
     for (const char* name : {"rowid", "_rowid_", "oid"}) {
         if (ErrorOf([&] { OrdinalOf(columns, name); }) != 0) return name;
@@ -47,7 +48,7 @@ void TableRecordset::Release() {
     delete_ = {};
 }
 
-// The row-value form (key, rowid) > (?, ?) would walk all rows of one key at each entry.
+// Not written as (key, rowid) > (?, ?): SQLite would then read all rows of the key each time a walk begins.
 std::string TableRecordset::TailOf(Query query) const {
     const std::string key = Indexed() ? Quoted(ColumnAt(key_).name) : std::string();
     const std::string order = " ORDER BY " + (Indexed() ? key + ", " : "") + rowid_;
@@ -183,7 +184,7 @@ void TableRecordset::MoveTo(Query end) {
 void TableRecordset::MoveFirst() { MoveTo(Query::First); }
 void TableRecordset::MoveLast() { MoveTo(Query::Last); }
 
-// The walk that goes on behind the position, among the rows of its key where there is an index.
+// Begins a walk behind the current row; with an index, among the rows of the same key.
 Statement& TableRecordset::Enter() {
     Statement& walk = Prepared(Query::Behind);
     walk.Bind(1, row_);
@@ -200,7 +201,8 @@ Statement& TableRecordset::EnterNextKey() {
     return walk;
 }
 
-// Rows whose numbers do not rise where they must are those of a damaged file, which may go round for ever.
+// In a damaged file a walk may come back to rows it has passed and never end. Row numbers that don't rise
+// tell.
 bool TableRecordset::StepWalk(Statement& walk) {
     if (!walk.Step()) return false;
     const std::int64_t row = walk.Int64(0);
@@ -216,7 +218,7 @@ void TableRecordset::MoveNext() {
     pending_.reset();
     Settle();
     if (place_ != Place::Row && place_ != Place::Deleted) Raise(ErrorNumber::NoCurrentRecord);
-    // A step that fails takes the row it stood on with it, unless that row is kept in memory.
+    // If the step fails, the row of the walk is lost, unless it is kept in memory.
     if (walk_ != nullptr) place_ = Place::Nowhere;
     Statement* walk = std::exchange(walk_, nullptr);
     if (walk == nullptr) walk = &Enter();
@@ -249,7 +251,7 @@ int TableRecordset::GetInt(int ordinal) {
     return Get(ordinal).ToInt();
 }
 
-// The keys of a shared table are compared where they are.
+// Compares the key without copying it: a shared table has many rows to look at.
 bool TableRecordset::Holds(int ordinal, std::string_view text) {
     if (walk_ == nullptr || pending_) return RecordsetState::Holds(ordinal, text);
     sqlite3_value* cell = walk_->ValueAt(ordinal + 1);
@@ -362,7 +364,7 @@ void TableRecordset::Delete() {
     const int removed = Write(delete_, -1);
     place_ = Place::Deleted;
     if (removed == 0) Raise(ErrorNumber::RecordDeleted);
-    // The next row to come may be given the number that has become free; it stands behind the position.
+    // SQLite may give the free number to the next new row, which must then come behind the position.
     if (row_ > std::numeric_limits<std::int64_t>::min()) --row_;
 }
 

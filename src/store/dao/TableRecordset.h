@@ -39,7 +39,7 @@ class TableRecordset final : public RecordsetState {
     void Release() override;
 
   private:
-    // Opened: on the first row, which nobody has asked for yet.
+    // Opened: on the first row, which is read when somebody asks for it.
     enum class Place { Opened, Nowhere, Row, Deleted, AtEnd, Empty };
     enum class Query { First, Last, Behind, NextKey, NextKeyBehindNull, Find, FindDay, ByRow };
     static constexpr std::size_t Queries = 8;
