@@ -101,12 +101,12 @@ TEST(ProbeTableTest, AnyOtherErrorShowsTheGeneralBox) {
     EXPECT_EQ(world.global.TableOpened, 0);
 }
 
-TEST(ProbeTableTest, AFolderInThePlaceOfTheJournalIsNoPermission) {
+TEST(ProbeTableTest, AFolderInThePlaceOfTheJournalIsADiskError) {
     World world;
     world.WithDatabase();
     Make(world, CreateSpentTable, "Spent");
     fs::create_directory(world.DbName() + "-journal");
-    world.ExpectUnexpected(3051);
+    world.ExpectUnexpected(3043);
     ProbeTable(world.run, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 0);
     fs::remove(world.DbName() + "-journal");

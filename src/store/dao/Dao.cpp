@@ -26,6 +26,9 @@ void RefuseNoFile(const std::string& path) {
     const file_type type = TypeOf(PathOf(path));
     if (type == file_type::not_found) Raise(ErrorNumber::StoreFileNotFound);
     if (type != file_type::regular) Raise(ErrorNumber::NoPermission);
+    // SQLite takes a file of one byte for an empty one and would write over it.
+    std::error_code ignored;
+    if (std::filesystem::file_size(PathOf(path), ignored) == 1) Raise(ErrorNumber::NotADatabase);
 }
 
 template <class State>
