@@ -55,6 +55,8 @@ TEST_F(DesktopToolsTest, LeavesOutFoldersThatAreNotAbsolute) {
     fs::current_path(folder.Path());
     EXPECT_EQ(DesktopTools(".").Find("tool"), std::nullopt);
     EXPECT_EQ(DesktopTools("").Find("tool"), std::nullopt);
+    for (const char* nowhere : {"", "."})
+        EXPECT_EQ(DesktopTools(nowhere).Find("sh"), std::nullopt) << nowhere;
     fs::current_path(before);
 }
 
