@@ -34,7 +34,7 @@ std::string BytesOf(const fs::path& path) {
 
 void Write(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-int Run(std::vector<std::string> arguments) {
+int StatusOf(std::vector<std::string> arguments) {
     std::ostringstream data, words;
     Records::Outside outside{data,
                              words,
@@ -50,9 +50,9 @@ std::string SoundFile() {
     fs::create_directories(Folder() / "data");
     fs::create_directories(Folder() / "in");
     Write(Folder() / "draws.csv", "date,numbers,bonus\n2026-11-14,1 2 3 4 5 6,7\n2026-11-18,1 2 3 4 5 7,8\n");
-    if (Run({"draws", "BC49", (Folder() / "draws.csv").string()}) != 0) std::abort();
+    if (StatusOf({"draws", "BC49", (Folder() / "draws.csv").string()}) != 0) std::abort();
     Write(Folder() / "tickets.csv", "date,numbers\n2026-11-14,1 2 3 4 5 6\n2026-11-14,1 2 3 4 5 6\n");
-    if (Run({"tickets", "BC49", (Folder() / "tickets.csv").string(), "--spent"}) != 0) std::abort();
+    if (StatusOf({"tickets", "BC49", (Folder() / "tickets.csv").string(), "--spent"}) != 0) std::abort();
     return BytesOf(Folder() / "data/sorvane.mdb");
 }
 
@@ -84,9 +84,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fs::path file = Folder() / "data/sorvane.mdb";
     Write(file, sound);
     const std::string text(reinterpret_cast<const char*>(data) + 2, size - 2);
-    const int status = Run(Arguments(data[0], data[1], text));
+    const int status = StatusOf(Arguments(data[0], data[1], text));
     if (status == 1 && BytesOf(file) != sound) std::abort();
-    if (status == 0 && Run({"check"}) != 0) std::abort();
+    if (status == 0 && StatusOf({"check"}) != 0) std::abort();
     if (status != 0 && status != 1) std::abort();
     if (fs::exists(Folder() / "data/sorvane.mdb-journal")) std::abort();
     return 0;
