@@ -1,6 +1,7 @@
 #include "forms/MessageBoxes.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
 #include <algorithm>
@@ -50,13 +51,20 @@ Answer AnswerOf(int button) {
     }
 }
 
-// The lines of a text are broken where it says so, as long as the screen has room; Qt would break them
-// sooner.
+// Qt makes no box wider; what is wider in it would be cut off.
+int WidestBox(const QMessageBox& box) {
+    constexpr int SmallScreen = 1024, Beside = 480, Widest = 1000;
+    const int screen = box.screen()->availableSize().width();
+    return screen <= SmallScreen ? screen : std::min(screen - Beside, Widest);
+}
+
+// The lines of a text are broken where it says so, as long as the box has room; Qt would break them sooner.
 void KeepLinesWhole(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
     if (!label) return;
-    const int room = box.screen()->availableSize().width() * 2 / 3;
-    label->setMinimumWidth(std::min(label->sizeHint().width(), room));
+    label->setMinimumWidth(label->sizeHint().width());
+    const int beyond = box.layout()->totalMinimumSize().width() - WidestBox(box);
+    if (beyond > 0) label->setMinimumWidth(label->minimumWidth() - beyond);
 }
 
 }  // namespace

@@ -294,11 +294,25 @@ TEST(MessageBox, TextIsPlainAndItsLineBreaksAreOneLineEach) {
 }
 
 TEST(MessageBox, LinesStayWholeWhereTheScreenHasRoom) {
-    constexpr std::string_view line = "Since you've already saved some tickets, your database is incorrect.";
+    constexpr std::string_view line =
+        "You have entered an amount which doesn't allow enough tickets for your last sheet.";
     Person person;
     person.Expect("Sorvane", line, Answer::Ok, BoxStyle::Ok, [] {
         const auto& label = Person::FindIn<QLabel>(*QApplication::activeModalWidget(), "qt_msgbox_label");
         EXPECT_LT(label.heightForWidth(label.width()), 2 * label.fontMetrics().lineSpacing());
+    });
+    MessageBoxes().MsgBox(line);
+}
+
+TEST(MessageBox, ALineLongerThanTheScreenIsBroken) {
+    std::string line;
+    for (int word = 0; word < 100; ++word) line += "tickets ";
+    Person person;
+    person.Expect("Sorvane", line, Answer::Ok, BoxStyle::Ok, [] {
+        const QWidget& box = *QApplication::activeModalWidget();
+        const auto& label = Person::FindIn<QLabel>(box, "qt_msgbox_label");
+        EXPECT_TRUE(box.rect().contains(QRect(label.mapTo(&box, QPoint()), label.size())));
+        EXPECT_LE(box.width(), box.screen()->availableSize().width());
     });
     MessageBoxes().MsgBox(line);
 }
