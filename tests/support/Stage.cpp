@@ -47,7 +47,9 @@ Stage::Stage(int scale) {
     qputenv("QT_QPA_PLATFORMTHEME", "");
     qputenv("QT_SCALE_FACTOR", QByteArray::number(scale / 100.0));
     QLocale::setDefault(QLocale::c());
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) return;
+    // The platform without a screen has another one of its own, on which not all has room.
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && !platform.startsWith("offscreen")) return;
     const std::string file = screen_.File("screen.json");
     std::ofstream(file) << R"({"screens": [{"name": "stage", "x": 0, "y": 0, "width": )" << 1366 * scale / 100
                         << R"(, "height": )" << 768 * scale / 100
