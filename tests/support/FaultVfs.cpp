@@ -104,7 +104,10 @@ int Delete(sqlite3_vfs* vfs, const char* path, int) {
     return system.xDelete(&system, path, 0);
 }
 
-int NoSleep(sqlite3_vfs*, int microseconds) { return microseconds; }
+int Sleep(sqlite3_vfs* vfs, int microseconds) {
+    VfsOf(vfs).Wait(std::chrono::microseconds(microseconds));
+    return microseconds;
+}
 
 }  // namespace
 
@@ -116,7 +119,7 @@ FaultVfs::FaultVfs(std::string name)
     vfs_.pAppData = this;
     vfs_.xOpen = Open;
     vfs_.xDelete = Delete;
-    vfs_.xSleep = NoSleep;
+    vfs_.xSleep = Sleep;
     sqlite3_vfs_register(&vfs_, 0);
 }
 
@@ -125,6 +128,7 @@ FaultVfs::~FaultVfs() { sqlite3_vfs_unregister(&vfs_); }
 void FaultVfs::Heal() {
     counts_.fill(0);
     failures_ = 0;
+    waited_ = {};
     failAt_ = 0;
     dieAt_ = 0;
     heldFrom_ = 0;

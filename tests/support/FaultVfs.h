@@ -4,6 +4,7 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <limits>
 #include <string>
@@ -43,10 +44,13 @@ class FaultVfs {
     // Operations of this kind, and failures of any, since the last of the calls above.
     int Count(Operation operation) const { return counts_[static_cast<std::size_t>(operation)]; }
     int Failures() const { return failures_; }
+    // How long was waited for locks that others hold; it takes no time.
+    std::chrono::microseconds Waited() const { return waited_; }
 
     // For the file layer: counts, and tells whether this one fails.
     bool Fails(Operation operation);
     bool IsHeld();
+    void Wait(std::chrono::microseconds time) { waited_ += time; }
     // How many of these bytes still fit.
     int Fitting(int bytes);
     sqlite3_vfs& System() const { return *system_; }
@@ -57,6 +61,7 @@ class FaultVfs {
     sqlite3_vfs vfs_;
     std::array<int, Operations.size()> counts_{};
     int failures_ = 0;
+    std::chrono::microseconds waited_{0};
     Operation failing_ = Operation::Open;
     int failAt_ = 0;
     int dieAt_ = 0;
