@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "support/Games.h"
+
 namespace sorvane::testing {
 
 namespace {
@@ -16,12 +18,6 @@ Names KeysOf(Family family) {
     Names keys;
     for (const AddOnPass& pass : AddOnPasses[family]) keys.emplace_back(pass.ExtraFlag);
     return keys;
-}
-
-// What a winning-number text says its range is: the digits behind its last blank but the point.
-int RangeIn(std::string_view text) {
-    const std::string words(text.substr(0, text.rfind(text.ends_with("again.") ? " and try" : ".")));
-    return std::stoi(words.substr(words.rfind(' ') + 1));
 }
 
 }  // namespace
@@ -37,8 +33,8 @@ TEST(CheckFactsTest, EachWindowTestsItsAddOnKeysInItsOrder) {
 }
 
 TEST(CheckFactsTest, EveryGameWithAnAddOnFindsItsPassAndTheOthersNone) {
-    for (const Game& game : Games()) {
-        const bool hasAddOn = FindAddOn(game.ExtraFlag) != nullptr;
+    for (const test::GameTold& game : test::GamesTold) {
+        const bool hasAddOn = test::AddOnOf(game.ExtraFlag) != nullptr;
         EXPECT_EQ(FindAddOnPass(game.opens, game.ExtraFlag) != nullptr, hasAddOn) << game.menu;
     }
 }
@@ -66,21 +62,6 @@ TEST(CheckFactsTest, EveryDigitAddOnIsJudgedByItsOwnLadder) {
             EXPECT_EQ(pass->Check, ladder) << key;
             EXPECT_EQ(pass->Read, &ReadDigitAddOnPlayed) << key;
             EXPECT_EQ(pass->Store, &StoreAddOnWin) << key;
-        }
-    }
-}
-
-TEST(CheckFactsTest, TheTextsNameTheRangesThatTheGuardsHold) {
-    for (const Family family : AllFamilies) {
-        if (Top[family] > 0) {
-            EXPECT_EQ(RangeIn(RangeText[family]), Top[family]) << NameOf(family);
-            if (BoxesRequired[family]) {
-                EXPECT_EQ(RangeIn(MissingText[family]), Top[family]) << NameOf(family);
-            }
-        }
-        if (FourTop[family] > 0) {
-            EXPECT_EQ(RangeIn(FourRangeText[family]), FourTop[family]) << NameOf(family);
-            EXPECT_EQ(RangeIn(FourMissingText[family]), FourTop[family]) << NameOf(family);
         }
     }
 }

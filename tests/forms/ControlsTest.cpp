@@ -2,7 +2,9 @@
 #include <QApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 #include <fstream>
 
 #include "Fixture.h"
@@ -11,6 +13,7 @@
 #include "forms/ControlArray.h"
 #include "forms/Label.h"
 #include "forms/LabelFrame.h"
+#include "forms/ListBox.h"
 #include "forms/Menu.h"
 #include "forms/MultiLineBox.h"
 #include "forms/OptionButton.h"
@@ -298,6 +301,21 @@ TEST(CommandButton, EnterAndTheBlankClickTheOneWithTheFocusAndNoOther) {
     EXPECT_EQ((Log{"Cancel", "Cancel", "Cancel"}), window.log);
 }
 
+TEST(CommandButton, EnterHeldDownClicksOnce) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        LoggingWindow window;
+        CommandButton save("cmdSave", "&Save Tickets");
+        window.LayOut(save);
+        save.OnClick([&] { window.Write("Save"); });
+        Open(window);
+        for (const bool again : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, "\r", again);
+            QCoreApplication::sendEvent(&save, &press);
+        }
+        EXPECT_EQ(Log{"Save"}, window.log);
+    }
+}
+
 TEST(CommandButton, CaptionIsKeptToTheCharacter) {
     CommandButton button("cmdUse", "&Use These #'s");
     EXPECT_EQ("&Use These #'s", button.Caption());
@@ -343,6 +361,15 @@ TEST(AccessKey, OfACheckBoxAndAnOptionMovesTheFocusAndClicks) {
     person.AccessKey('h');
     EXPECT_TRUE(option.Value());
     EXPECT_TRUE(option.HasFocus());
+}
+
+TEST(Label, ItsListIsSpokenWithoutColonAndAmpersand) {
+    Label label("lblNumbersPlayed", "&Numbers Played:");
+    ListBox list("lstNumbersPlayed");
+    label.SetBuddy(list);
+    EXPECT_EQ("Numbers Played", list.accessibleName().toStdString());
+    label.SetCaption("Tag #'s:");
+    EXPECT_EQ("Tag #'s", list.accessibleName().toStdString());
 }
 
 TEST(Label, TextIsPlain) {
@@ -409,6 +436,30 @@ TEST(ComboBox, TypedTextIsNotCompleted) {
     combo.SelectAll();
     person.Type("10");
     EXPECT_EQ(0, combo.ListIndex());
+}
+
+TEST(ComboBox, TheWheelChangesTheChoiceOnlyWhereTheFocusIs) {
+    for (const auto style : {ComboBox::Style::ListOnly, ComboBox::Style::Editable}) {
+        LoggingWindow window;
+        ComboBox list("cboWager", style);
+        CommandButton other("cmdOk", "&Ok");
+        window.LayOut(other, list);
+        for (const char* wager : {"10.00", "5.00", "2.00"}) list.AddItem(wager);
+        list.SetListIndex(1);
+        Open(window);
+        Person person;
+        const auto turn = [&] {
+            const QPointF middle(list.rect().center());
+            QWheelEvent wheel(middle, list.mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&list, &wheel);
+            return list.Text();
+        };
+        EXPECT_EQ("5.00", turn());
+        EXPECT_TRUE(other.HasFocus());
+        list.SetFocus();
+        EXPECT_EQ("2.00", turn());
+    }
 }
 
 TEST(ControlArray, ElementsBearNameAndIndex) {

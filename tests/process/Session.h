@@ -48,7 +48,7 @@ class Session : public Road {
             person.ClickTab("&Check Tickets");
             TypeDraw();
             Click("cmdCheck");
-            Tell("SELECT count(*) FROM " + std::string(key.Win) + " WHERE Date = " + day_, "1");
+            Tell("SELECT count(*) FROM " + std::string(game.Win) + " WHERE Date = " + day_, "1");
             Type("txtDollarsWon", "1,234.50");
             person.Expect("SAVED", "Winning data saved.", Answer::Ok, BoxStyle::Ok, [&] {
                 Tell("SELECT CAST(Winnings AS REAL) FROM Winnings WHERE " + OfMyGame(), "1234.5");
@@ -75,7 +75,7 @@ class Session : public Road {
         std::string rows;
         for (const std::string& ticket : TicketTexts()) rows += (rows.empty() ? "" : "; ") + ticket;
         Tell("SELECT group_concat(ticket, '; ') FROM (SELECT " + BallFields() + " AS ticket FROM " +
-                 std::string(key.Played) + " WHERE Date = " + day_ + " ORDER BY ID1 LIMIT " +
+                 std::string(game.Played) + " WHERE Date = " + day_ + " ORDER BY ID1 LIMIT " +
                  std::to_string(tickets.size()) + ")",
              rows);
     }

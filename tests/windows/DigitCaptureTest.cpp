@@ -611,5 +611,23 @@ TEST_F(DigitWindow, AWindowLeftHiddenByPlay4GoesOnFromWhatPlay4Left) {
     EXPECT_FALSE(IsEnabled("cmdSave"));
 }
 
+TEST_F(DigitWindow, AWayThatTheGameHasNoNameForLeavesTheWayAlone) {
+    for (const char* game : {"Quote4", "ATLPik4"}) {
+        Show(Family::frmPick4, game, game);
+        global.PlayOption = "Box";
+        Click("optPlayOpt(0)");
+        EXPECT_EQ(global.PlayOption, "Box") << game;
+        Window().Leave();
+    }
+    // A way that is no way of this game, as an option that its dressing hides.
+    Show("mnuCANONTPICK3");
+    global.PlayOption = "Box";
+    for (const int hidden : {2, 3}) {
+        auto& way = dynamic_cast<forms::OptionButton&>(Find("optPlayOpt(" + std::to_string(hidden) + ")"));
+        way.SetValue(true);
+        EXPECT_EQ(global.PlayOption, "Box") << hidden;
+    }
+}
+
 }  // namespace
 }  // namespace sorvane::test

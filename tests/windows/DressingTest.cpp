@@ -1,6 +1,7 @@
 // Each game's window as its menu entry leaves it, against the settings written down a second time.
 #include "MainWindow.h"
 #include "forms/Control.h"
+#include "support/Games.h"
 
 namespace sorvane::test {
 namespace {
@@ -13,11 +14,11 @@ class Dressing : public MainWindow {
 
     // Chooses the entry, looks at its window and leaves it.
     void Look(std::string_view menu, const std::function<void()>& at) {
-        const Game& game = *FindGame(menu);
+        const GameTold& game = GameOf(menu);
         bool looked = false;
         person.ExpectWindow(NameOf(game.opens), [&](QWidget& window) {
             looked = true;
-            EXPECT_EQ(forms::ToUtf8(window.windowTitle()), game.titleGoesTo ? "" : game.title);
+            EXPECT_EQ(forms::ToUtf8(window.windowTitle()), game.title);
             EXPECT_EQ(global.LottoFlag, game.LottoFlag);
             EXPECT_EQ(global.ExtraFlag, game.ExtraFlag);
             at();
@@ -115,7 +116,7 @@ class LottoDressing : public Dressing, public ::testing::WithParamInterface<Lott
 
 TEST_P(LottoDressing, StandsAsItsMenuEntrySets) {
     const LottoRow& row = GetParam();
-    const bool super7 = FindGame(row.menu)->opens == Family::frm749;
+    const bool super7 = GameOf(row.menu).opens == Family::frm749;
     Look(row.menu, [&] {
         ExpectRow(row);
         ExpectVisible(!super7, {"chkNumb(47)", "chkNumb(48)"});
@@ -245,7 +246,7 @@ TEST_F(Dressing, Quebec49sBoxComesOnWithTheCount) {
 }
 
 TEST_F(Dressing, EveryGameHasASettingThatItsWindowKnows) {
-    for (const Game& game : Games()) {
+    for (const GameTold& game : GamesTold) {
         SCOPED_TRACE(game.menu);
         Look(game.menu, [] {});
     }

@@ -1,4 +1,5 @@
 // The first tab of the game window: what it shows at load, its filters, the money, the tabs and the ways out.
+#include "support/Games.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -190,7 +191,8 @@ TEST_F(EnterTickets, MoneyThatStartsWithAPointBecomesNoughtWithTheMessage) {
     Show("mnuCANONTLotto649");
     Type("txtDollars", ".50");
     person.Expect("ERROR",
-                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
+                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.",
+                  Answer::Ok, BoxStyle::Ok, [this] { EXPECT_EQ(Window().Enter.txtDollars.Text(), "0.00"); });
     person.Tab();
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
 }
@@ -302,7 +304,7 @@ TEST_F(EnterTickets, MarksCountsAndChoicesAreLiveFromTheStart) {
 }
 
 TEST_F(EnterTickets, OfTheTwoLabelsOfTheMoneyOneIsSeen) {
-    for (const Game& game : Games()) {
+    for (const GameTold& game : GamesTold) {
         Show(game.menu);
         const bool other = Exists("lblDollars") && IsShown("lblDollars");
         EXPECT_NE(IsShown("lblDollarsSpent"), other) << game.menu;

@@ -111,6 +111,23 @@ TEST_F(Winnings, AfterACheckBCDailyThreeAsksItsDraws) {
     EXPECT_EQ(CountOf("Winnings"), "1");
 }
 
+TEST_F(Winnings, AfterACancelBCDailyThreeAsksItsTicketsAgain) {
+    Open("mnuCANBCDAILY3");
+    Do("INSERT INTO PlayedBCDaily3 (ID1, Lottoflag, Date, Ball_1, Ball_2, Ball_3, [Way Played]) VALUES (1, "
+       "'BCDaily3', " +
+       Day() + ", 1, 2, 3, 'Box')");
+    Digits({1, 2, 3});
+    Click("cmdCheck");
+    Window().SSTab1.SetTab(Tab::Enter);
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+    Click("cmdCancel");
+    Window().SSTab1.SetTab(Tab::Check);
+    Do("DELETE FROM WinBCDaily3");
+    ExpectSaved();
+    Enter("5");
+    EXPECT_EQ(CountOf("Winnings"), "1");
+}
+
 TEST_F(Winnings, AnEntryFromOneRegionsWindowIsAmendedFromTheOthers) {
     Open("mnuCANONTLotto649");
     Do("INSERT INTO PlayedLotto649 (ID1, Date) VALUES (1, " + Day() + ")");
@@ -164,6 +181,18 @@ TEST_F(Winnings, DailyKenoMakesItsLostTablesAgain) {
     ExpectSaved();
     Enter("5");
     EXPECT_EQ(Rows("SELECT Lottoflag, Winnings FROM Winnings"), Texts{"ONTKeno|5"});
+}
+
+TEST_F(Winnings, KenoOfEightyMakesTheTablesThatItAsks) {
+    Show(Family::frmKeno80, "PrairieKeno", "");
+    Window().SSTab1.SetTab(Tab::Check);
+    Enter("5");
+    EXPECT_EQ(CountOf("PlayedPrairieKeno"), "0");
+    Do("INSERT INTO PlayedPrairieKeno (ID1, Date, Lottoflag) VALUES (1, " + Day() + ", 'PrairieKeno')");
+    Do("DROP TABLE Winnings");
+    ExpectSaved();
+    Enter("5");
+    EXPECT_EQ(Rows("SELECT Lottoflag, Winnings FROM Winnings"), Texts{"PrairieKeno|5"});
 }
 
 TEST_F(Winnings, OnlyLottariosAmountIsSelectedWhenItGetsTheFocus) {

@@ -12,6 +12,7 @@
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmComingSoon.h"
 #include "shell/ui/frmRequestNewLottery.h"
+#include "support/Games.h"
 #include "windows/MainWindow.h"
 
 namespace sorvane::test {
@@ -28,9 +29,9 @@ inline void SeeTabsOf(WindowWorld& world, std::string_view menu,
     }
     window.SSTab1.SetTab(Tab::Enter);
     AddOnCapture& addOns = window.Enter.AddOns;
-    const AddOn* addOn = FindAddOn(world.global.ExtraFlag);
+    const AddOnTold* addOn = AddOnOf(world.global.ExtraFlag);
     const bool four = addOn && addOn->ExtraFlag == "Extra";
-    if (addOn && addOns.lblExtra && addOn->CountedOnSheet) addOns.lblExtra->SetVisible(true);
+    if (addOn && addOns.lblExtra && addOn->counted) addOns.lblExtra->SetVisible(true);
     if (addOn && addOns.txtEncore && !four) addOns.txtEncore->SetVisible(true);
     addOns.txtPlay4.ForEach([four](forms::TextBox& box, int) { box.SetVisible(four); });
     Person::Settle();
@@ -63,7 +64,7 @@ inline void SeeOtherWindows(MainWindow& world, const std::function<void(forms::W
 
 inline std::vector<std::string_view> EveryGame() {
     std::vector<std::string_view> menus;
-    for (const Game& game : Games()) menus.push_back(game.menu);
+    for (const GameTold& game : GamesTold) menus.push_back(game.menu);
     return menus;
 }
 

@@ -1,6 +1,7 @@
 // Windows that were left take nothing with them.
 #include <iostream>
 
+#include "support/Games.h"
 #include "support/Heap.h"
 #include "windows/MainWindow.h"
 
@@ -17,7 +18,7 @@ TEST_F(Growth, AThousandWindowsOpenedAndLeftTakeNoMemory) {
     std::vector<std::size_t> inUse;
     int windowsLeft = 0;
     for (int round = 0; round < Rounds; ++round) {
-        for (const Game& game : Games()) {
+        for (const GameTold& game : GamesTold) {
             person.ExpectWindow(NameOf(game.opens), [this, round](QWidget& widget) {
                 auto& window = static_cast<GameWindow&>(widget);
                 window.SSTab1.SetTab(round % static_cast<int>(window.Pages.size()));

@@ -550,6 +550,25 @@ TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
     EXPECT_EQ(global.NoOfTicketsOnSheet, 2);  // the last sheet takes all that is left
 }
 
+TEST_F(KenoWindow, EverySheetCountsItsEncoresFromTheFirst) {
+    ShowKeno();
+    SeveralSheets(2, 2);
+    const std::pair<const char*, const char*> sheets[] = {{"123456", "234567"}, {"345678", "456789"}};
+    for (const auto& [first, second] : sheets) {
+        const bool last = std::string(first) == "345678";
+        Put("txtNoOfExtra", "2");
+        PutChoices("2", "1.00");
+        Pick({1, 2});
+        Click("cmdNext_Ticket");
+        Put("txtEncore", first);
+        EXPECT_FALSE(IsEnabled("cmdSave")) << first;
+        Click("cmdNext_Ticket");
+        Put("txtEncore", second);
+        SaveSheet(last);
+    }
+    EXPECT_EQ(Rows("SELECT [Number 1] FROM PlayedEncore ORDER BY ID1"), (Texts{"1", "2", "3", "4"}));
+}
+
 TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
     ShowKeno();
     OneSheet(1);
@@ -594,8 +613,10 @@ TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {
     ShowKeno();
     OneSheet(1);
     Type("txtDollars", ".50");
+    // Behind the box stands nought with the blank that the amount at the count has too.
     person.Expect("ERROR",
-                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.");
+                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.",
+                  Answer::Ok, BoxStyle::Ok, [this] { EXPECT_EQ(Window().Enter.txtDollars.Text(), " 0.00"); });
     person.Tab();
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
     EXPECT_EQ(global.Dollars, "0.00");

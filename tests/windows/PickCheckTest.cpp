@@ -70,6 +70,24 @@ TEST_F(PickCheck, OntarioAsksForTheEncoreBeforeTheBoxesAndEndsAtOnce) {
     EXPECT_EQ(global.EntryCounter, 7);
 }
 
+TEST_F(PickCheck, OntariosListOfEncoresIsEmptiedWhereItsNumberIsAskedFor) {
+    Open("mnuCANONTPICK3");
+    Window().Check.lstEncorePlayed->AddItem("old");
+    ExpectMissing("The Encore number is too short. Please check the number and try again.",
+                  "Encore Too Short");
+    Click("cmdCheck");
+    EXPECT_TRUE(AddOn().empty());
+}
+
+TEST_F(PickCheck, AWindowWithoutEncoresLeavesTheirListAlone) {
+    Open("mnuCANWESTPICK3");
+    Window().Check.lstEncorePlayed->AddItem("old");
+    Digits({3, 2, 1});
+    ExpectMissing("No match for Draw Date selected. Please check the Draw Date and try again.");
+    Click("cmdCheck");
+    EXPECT_EQ(AddOn(), Texts{"old"});
+}
+
 TEST_F(PickCheck, NoTicketOfTheDateEmptiesTheWayOfPlay) {
     Open("mnuCANWESTPICK3");
     global.PlayOption = "Box";

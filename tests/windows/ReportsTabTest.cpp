@@ -193,6 +193,19 @@ TEST_P(EveryReportsTab, TheNumberChartHasTitleAxesLegendAndABarForEachNumber) {
     for (const std::string& text : told) EXPECT_TRUE(texts.contains(text)) << text;
 }
 
+TEST_F(ReportsTabTest, TheDigitsOfAChartBeginAtNoughtAndEndAtNine) {
+    for (const GameCase& game : {Pick3, Play4}) {
+        OpenReports(game);
+        AddDraw(game, std::vector<int>(static_cast<std::size_t>(game.numbers)));
+        Click("cmdNumberFrequency");
+        EXPECT_EQ(Bar(Reports().mscNumberFrequency, 1, 1), 1);
+        const std::set<std::string> texts = TextsOn(Reports().mscNumberFrequency);
+        for (const char* digit : {"0", "9"}) EXPECT_TRUE(texts.contains(digit)) << digit;
+        EXPECT_FALSE(texts.contains("10"));
+        Window().Leave();
+    }
+}
+
 TEST_P(EveryReportsTab, TheMoneyChartHasTitleAndAxesAndItsAmountsAreNotCutOff) {
     OpenReports(GetParam());
     AddMoney("Spent", GetParam().LottoFlag, 0, "98765.43");

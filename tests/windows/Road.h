@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/Text.h"
+#include "support/Games.h"
 #include "windows/MainWindow.h"
 
 namespace sorvane::test {
@@ -15,26 +16,6 @@ namespace sorvane::test {
 inline constexpr std::string_view Sorry = "Sorry. This ticket is not a winner.";
 inline constexpr const char* SecondNumber = "987654";
 inline constexpr int MostLottarioEncores = 10;
-
-// The add-on of a region as a player types it, and what a full hit reads.
-struct AddOnRoad {
-    const char* number;   // the first ticket's number and the number drawn
-    const char* listed;   // its row in lstEncorePlayed
-    const char* verdict;  // its line
-};
-
-inline AddOnRoad RoadOf(const AddOn& addOn) {
-    if (addOn.ExtraFlag == "Encore")
-        return {"123450", "1, 2, 3, 4, 5, 0", "Encore #123450 won $250,000.00!!!"};
-    if (addOn.ExtraFlag == "Extra")
-        return {"10", "10, 20, 30, 40", "Extra # 10, 20, 30, 40 won $500,000.00!!!"};
-    if (addOn.ExtraFlag == "ThePlus")
-        return {"123450", "1, 2, 3, 4, 5, 0", "The Plus #123450 won $100,000.00!!!"};
-    if (addOn.ExtraFlag == "QCExtra")
-        return {"123450", "1, 2, 3, 4, 5, 0", "Extra #123450 won $100,000.00!!!"};
-    if (addOn.ExtraFlag == "Tag") return {"123450", "1, 2, 3, 4, 5, 0", "Tag #123450 won $100,000.00!!!"};
-    return {"1234501", "1, 2, 3, 4, 5, 0, 1", "Extra #1234501 won $250,000.00!!!"};
-}
 
 // What is entered: so many tickets on so many sheets, with so many add-on tickets on each sheet that takes
 // them.
@@ -46,17 +27,16 @@ struct Purchase {
 class Road : public MainWindow {
   public:
     explicit Road(std::string_view menu, const std::string& home = {})
-        : MainWindow(home), game(*FindGame(menu)) {}
+        : MainWindow(home), game(GameOf(menu)) {}
 
     // While the box says that so many sheets of the entry are saved.
     virtual void ToldSaved(const Purchase&, int /*sheets*/) {}
 
-    const Game& game;
+    const GameTold& game;
     const Family family = game.opens;
-    const GameKey& key = *FindKey(family, game.LottoFlag);
-    const AddOn* addOn = FindAddOn(game.ExtraFlag);
-    // Tickets that each bought one makes, its bonus tickets counted in.
-    const int factor = family == Family::frm749 ? 3 : family == Family::frm645 ? 2 : 1;
+    const AddOnTold* addOn = AddOnOf(game.ExtraFlag);
+    // Tickets that come with one bought, itself counted in.
+    const int filled = family == Family::frm749 ? 3 : family == Family::frm645 ? 2 : 1;
     int entered = 0;  // tickets so far, bonus tickets counted in
     std::vector<std::vector<int>> tickets;
 
@@ -98,7 +78,7 @@ class Road : public MainWindow {
         }
     }
 
-    bool CountsAddOns() const { return addOn && addOn->CountedOnSheet; }
+    bool CountsAddOns() const { return addOn && addOn->counted; }
 
     // The most add-on tickets that a sheet of so many tickets takes. Only Lottario limits Encore; elsewhere
     // two more than that are taken.
@@ -113,7 +93,7 @@ class Road : public MainWindow {
             for (int i = 0; i < 4; ++i)
                 Put(At("txtPlay4", i), std::to_string((ticket == 0 ? 10 : 50) + 10 * i));
         } else {
-            Put("txtEncore", ticket == 0 ? RoadOf(*addOn).number : SecondNumber);
+            Put("txtEncore", ticket == 0 ? addOn->number : SecondNumber);
         }
     }
 
@@ -134,7 +114,7 @@ class Road : public MainWindow {
 
     void FillSheet(int sheet, int onSheet, int addOns) {
         if (CountsAddOns()) Put("txtNoOfExtra", std::to_string(addOns));
-        const int total = onSheet * factor;
+        const int total = onSheet * filled;
         for (int ticket = 1; ticket <= total; ++ticket) {
             FillTicket();
             if (ticket < total) Click("cmdNext_Ticket");
@@ -242,7 +222,7 @@ class Road : public MainWindow {
         if (!addOn) return;
         if (addOn->ExtraFlag == "Extra")
             for (int i = 0; i < 4; ++i) Type(At("txtWin4", i), std::to_string(10 + 10 * i));
-        else Type("txtWinEncore", RoadOf(*addOn).number);
+        else Type("txtWinEncore", addOn->number);
     }
 
     // The verdicts of add-on tickets entered on `sheets` sheets.
@@ -253,10 +233,8 @@ class Road : public MainWindow {
         for (int sheet = 0; sheet < sheets; ++sheet)
             for (int ticket = 0; ticket < perSheet; ++ticket) {
                 const bool four = addOn->ExtraFlag == "Extra";
-                listed.push_back(ticket == 0 ? RoadOf(*addOn).listed
-                                 : four      ? "50, 60, 70, 80"
-                                             : "9, 8, 7, 6, 5, 4");
-                verdicts.push_back(ticket == 0 ? RoadOf(*addOn).verdict
+                listed.push_back(ticket == 0 ? addOn->listed : four ? "50, 60, 70, 80" : "9, 8, 7, 6, 5, 4");
+                verdicts.push_back(ticket == 0 ? addOn->verdict
                                    : four      ? "Sorry, Extra # 50, 60, 70, 80 is not a winner."
                                                : "Sorry. Encore ticket #987654 is not a winner.");
             }

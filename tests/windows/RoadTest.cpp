@@ -20,7 +20,7 @@ TEST_P(RoadTest, LeadsFromTheMenuToTheFileToTheVerdictAndSurvivesARestart) {
                      std::to_string(purchase.addOns));
         Inside([&] { EnterTickets(purchase); });
     }
-    const std::string played(key.Played);
+    const std::string played(game.Played);
     EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + played + " ORDER BY ID1"), TicketTexts());
     EXPECT_EQ(Rows("SELECT DISTINCT date(Date + 2415018.5) FROM " + played), Texts{std::string(Today)});
     EXPECT_EQ(Rows("SELECT Lottoflag FROM Spent"), Texts(3, std::string(game.LottoFlag)));
@@ -37,7 +37,7 @@ TEST_P(RoadTest, LeadsFromTheMenuToTheFileToTheVerdictAndSurvivesARestart) {
         if (addOn) {
             EXPECT_EQ(ListOf("lstEncorePlayed"), listed);
         }
-        EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(key.Win)), Texts{"1"});
+        EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(game.Win)), Texts{"1"});
         ExpectRecheck(Answer::Yes);
         Click("cmdCheck");
         EXPECT_EQ(ListOf("lstMessage"), verdicts);
@@ -46,7 +46,7 @@ TEST_P(RoadTest, LeadsFromTheMenuToTheFileToTheVerdictAndSurvivesARestart) {
         // The digit windows judge all the same.
         EXPECT_EQ(ListOf("lstMessage"), IsPick(family) ? verdicts : Texts{});
     });
-    EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(key.Win)), Texts{"1"});
+    EXPECT_EQ(Rows("SELECT COUNT(*) FROM " + std::string(game.Win)), Texts{"1"});
 }
 
 // The same for somebody without a mouse, whose focus is seen at every step.
@@ -59,7 +59,7 @@ TEST_P(KeyboardRoadTest, NeedsNoMouse) {
     Start();
     const Purchase purchase{4, 2, 1};
     Inside([&] { EnterTickets(purchase); });
-    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(key.Played) + " ORDER BY ID1"),
+    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(game.Played) + " ORDER BY ID1"),
               TicketTexts());
     Texts verdicts = Verdicts(), listed;
     ExpectAddOns(listed, verdicts, purchase);
@@ -137,27 +137,27 @@ TEST_P(EncoreRoadTest, ASheetWithoutEncoreAfterOneWithTwoIsSavedSilently) {
         SaveSheet(true);
     });
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"2"});
-    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(key.Played) + " ORDER BY ID1"),
+    EXPECT_EQ(Rows("SELECT " + BallFields() + " FROM " + std::string(game.Played) + " ORDER BY ID1"),
               TicketTexts());
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM Spent"), Texts{"1"});
 }
 
 using Menus = std::vector<std::string_view>;
 
-Menus MenusOf(const std::function<bool(const Game&)>& wanted) {
+Menus MenusOf(const std::function<bool(const GameTold&)>& wanted) {
     Menus menus;
-    for (const Game& game : Games())
+    for (const GameTold& game : GamesTold)
         if (wanted(game)) menus.push_back(game.menu);
     return menus;
 }
 Menus AllMenus() {
-    return MenusOf([](const Game&) { return true; });
+    return MenusOf([](const GameTold&) { return true; });
 }
 Menus AddOnMenus() {
-    return MenusOf([](const Game& game) { return FindAddOn(game.ExtraFlag) != nullptr; });
+    return MenusOf([](const GameTold& game) { return AddOnOf(game.ExtraFlag) != nullptr; });
 }
 Menus EncoreMenus() {
-    return MenusOf([](const Game& game) { return game.ExtraFlag == "Encore"; });
+    return MenusOf([](const GameTold& game) { return game.ExtraFlag == "Encore"; });
 }
 
 std::string NameOfMenu(const ::testing::TestParamInfo<std::string_view>& menu) {

@@ -417,6 +417,25 @@ TEST_F(HalfSaved, KenoCleansNoAddOnTableButEncores) {
     EXPECT_EQ(CountOf("PlayedATLChoice"), "0");
 }
 
+TEST_F(HalfSaved, KenoOfEightyCleansEncoresTooAndNoOtherAddOn) {
+    const std::string day = std::to_string(Date::FromText(Today).Day());
+    Show("mnuCANONTKENO");  // which makes the table of the Encores
+    Window().Leave();
+    for (const char* addOn : {"Encore", "Extra"}) {
+        Do("DELETE FROM PlayedEncore");
+        Do("INSERT INTO PlayedEncore (ID1, Date) VALUES (1, " + day + ")");
+        Show(Family::frmKeno80, "PrairieKeno", addOn);
+        SeveralSheets(2, 2);
+        PickFrom(1, 20);
+        SaveSheet(false);
+        // PlayedExtra does not exist: touching it would show its box.
+        ExpectCleanUp(Answer::Yes);
+        Click("cmdExit(0)");
+        EXPECT_EQ(CountOf("PlayedPrairieKeno"), "0") << addOn;
+        EXPECT_EQ(CountOf("PlayedEncore"), std::string(addOn) == "Encore" ? "0" : "1") << addOn;
+    }
+}
+
 TEST_F(HalfSaved, YesRemovesAllRowsOfTheDateFromBothTablesWhicheverGameTheyCarry) {
     Begin("mnuCANBCBC49");
     const std::string day = std::to_string(Date::FromText(Today).Day());
@@ -448,6 +467,26 @@ TEST_F(HalfSaved, TheDateIsThatOfTheLastSaveEvenIfACheckOrEnterWinningsHasMovedO
         Click("cmdExit(2)");
         EXPECT_EQ(CountOf("PlayedBC49"), "0");
     }
+}
+
+TEST_F(HalfSaved, TheAddOnRowsOfTheLastSaveGoWithItsTicketsAndThoseOfALaterCheckStay) {
+    Show("mnuCANBCBC49");
+    SeveralSheets(2, 2);
+    Put("txtNoOfExtra", "1");
+    PickFrom(1, 6);
+    Click("cmdNext_Ticket");
+    for (int box = 0; box < 4; ++box) Put("txtPlay4(" + std::to_string(box) + ")", "5");
+    SaveSheet(false);
+    const std::string other = std::to_string(Date::FromText("2006-03-01").Day());
+    Do("INSERT INTO PlayedExtra (ID1, Date) VALUES (70, " + other + ")");
+    Window().SSTab1.SetTab(Tab::Check);
+    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-01"));
+    person.Expect("ERROR", "Missing Data. Please enter a valid number from 1 to 49 and try again.");
+    Click("cmdCheck");
+    ExpectCleanUp(Answer::Yes);
+    Click("cmdExit(2)");
+    EXPECT_EQ(CountOf("PlayedBC49"), "0");
+    EXPECT_EQ(Rows("SELECT ID1 FROM PlayedExtra"), Texts{"70"});
 }
 
 TEST_F(HalfSaved, ASheetOfAnotherDateThatWasNotSavedLeavesTheDateOfTheLastSave) {
@@ -543,7 +582,7 @@ class EveryEntry : public SlipWorld, public ::testing::WithParamInterface<Family
     }
     void Ticket() {
         if (IsPick(GetParam())) Visit(GetParam() == Family::frmPick3 ? "cboNumber(2)" : "cboNumber(3)");
-        else PickFrom(1, PerFamily<int>{{6, 7, 6, 2, 20, 3, 4}}[GetParam()]);
+        else PickFrom(1, PerFamily<int>{{6, 7, 6, 2, 20, 0, 0}}[GetParam()]);
     }
     // All tickets of the sheet, bonus tickets included, on from those that are there.
     void FillSheet() {
@@ -574,10 +613,26 @@ TEST_P(EveryEntry, CountsAsSavedOnceASheetWasReallyWritten) {
     Click("cmdSave");
     EXPECT_EQ(global.TicketsSaved, True);
     EXPECT_EQ(CountOf("Spent"), "0");
-    if (GetParam() != Family::frmKeno80 && GetParam() != Family::frmPick4)
-        return;  // loading again forgets what was saved
+    // These two stay as they are; the others load again, which forgets what was saved.
+    const bool stays = GetParam() == Family::frmKeno80 || GetParam() == Family::frmPick4;
     RefuseToSave();
-    EXPECT_EQ(global.TicketsSaved, True);
+    EXPECT_EQ(global.TicketsSaved, stays ? True : Off);
+}
+
+TEST_P(EveryEntry, MakesLostTablesAgainBehindASaveButKenoOfEighty) {
+    Begin();
+    FillSheet();
+    Do("DROP TABLE Winnings");
+    SaveSheet(false);
+    const Texts again = Rows("SELECT name FROM sqlite_schema WHERE name = 'Winnings'");
+    EXPECT_EQ(again, GetParam() == Family::frmKeno80 ? Texts{} : Texts{"Winnings"});
+}
+
+TEST_P(EveryEntry, ACorrectionBeforeAnyTicketStopsAtNoughtButInKeno) {
+    Begin();
+    Window().Enter.cmdCorrection.SetEnabled(true);
+    Click("cmdCorrection");
+    EXPECT_EQ(global.TicketNo, GetParam() == Family::frmKeno70 || GetParam() == Family::frmKeno80 ? -1 : 0);
 }
 
 TEST_P(EveryEntry, LeavesWithoutAQuestionAfterANo) {

@@ -207,6 +207,21 @@ TEST_F(SixNumberCheck, AnotherDateForgetsTheResultsButKeepsTheFourNumbers) {
     EXPECT_EQ(TextOf("txtWin4(0)"), "1");
 }
 
+TEST_F(SixNumberCheck, TheDatesOfTheOtherPagesLeaveTheResultsAlone) {
+    OpenOntario();
+    Ticket(1, "1, 2, 3, 4, 5, 6");
+    Draw("txtWin6", {1, 2, 3, 4, 5, 6, 7});
+    Click("cmdCheck");
+    for (const int page : {0, 1}) {
+        Window().dtpEnterTickets(page).SetValue(Date::FromText("2006-03-10"));
+        EXPECT_EQ(Messages(), Texts{"Congratulations! You've hit the JACKPOT!!!"}) << page;
+        EXPECT_EQ(Played(), Texts{"1, 2, 3, 4, 5, 6"}) << page;
+        EXPECT_EQ(AddOn(), Texts{"Not Played"}) << page;
+        EXPECT_EQ(TextOf("txtWin6(0)"), "1") << page;
+        EXPECT_EQ(TextOf("txtWinEncore"), "123456") << page;
+    }
+}
+
 TEST_F(SixNumberCheck, ADoubleClickOnAVerdictLeadsToItsTicketOrItsAddOn) {
     OpenOntario();
     Ticket(1, "1, 2, 3, 4, 5, 6");

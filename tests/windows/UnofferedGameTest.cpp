@@ -129,7 +129,7 @@ class UnofferedGameTest : public SlipWorld, public ::testing::WithParamInterface
 
     void EnterTicket() {
         OneSheet(1);
-        if (IsPick(game.family)) {
+        if (game.family == Family::frmPick4) {
             for (int i = 0; i < 4; ++i) Choose("cboNumber(" + std::to_string(i) + ")", std::to_string(i + 1));
             person.Tab();
         } else if (game.family == Family::frmKeno70) {
@@ -143,16 +143,16 @@ class UnofferedGameTest : public SlipWorld, public ::testing::WithParamInterface
     }
 
     std::string TicketRow() const {
-        const int balls = IsPick(game.family) ? 4 : 10;
+        const int balls = game.family == Family::frmPick4 ? 4 : 10;
         std::string fields;
         for (int i = 1; i <= balls; ++i) fields += "Ball_" + std::to_string(i) + ", ";
-        fields += IsPick(game.family) ? "[Way Played], " : "Wager, [# of Balls], ";
+        fields += game.family == Family::frmPick4 ? "[Way Played], " : "Wager, [# of Balls], ";
         return Rows("SELECT " + fields + "Regular FROM " + game.played).at(0);
     }
 
     // The numbers of the ticket backwards, and what lies behind them.
     void TypeDraw() {
-        const bool pick = IsPick(game.family);
+        const bool pick = game.family == Family::frmPick4;
         for (int i = 0; i < (pick ? 4 : 20); ++i)
             if (pick) Choose("cboWin4(" + std::to_string(i) + ")", std::to_string(4 - i));
             else Type("txtWin20(" + std::to_string(i) + ")", std::to_string(20 - i));
@@ -193,7 +193,7 @@ TEST_P(UnofferedGameTest, WorksFromTheTicketToTheVerdictTheWinningsAndTheReports
     Check(false);
     if (game.drawn) {
         EXPECT_EQ(Rows("SELECT Lottoflag, Ball_1, Ball_4 FROM " + std::string(game.drawn)),
-                  Texts{game.LottoFlag + std::string(IsPick(game.family) ? "|4|1" : "|20|17")});
+                  Texts{game.LottoFlag + std::string(game.family == Family::frmPick4 ? "|4|1" : "|20|17")});
     }
     EnterWinnings();
     EXPECT_EQ(Rows("SELECT Lottoflag, Winnings FROM Winnings"),
