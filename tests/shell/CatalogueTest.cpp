@@ -13,6 +13,7 @@
 #include "shell/Catalogue.h"
 #include "shell/FamilyFacts.h"
 #include "shell/SelectGame.h"
+#include "support/Games.h"
 
 namespace sorvane {
 namespace {
@@ -382,6 +383,22 @@ const std::vector<KeyRow> KeyRows{
     {"Quote4", Family::frmPick4, "PlayedQuote4", "WinQuote4"},
     {"ATLPik4", Family::frmPick4, "PlayedATLPik4", "WinATLPik4"},
 };
+
+// What the tests of windows are told instead of reading the catalogue.
+TEST(Games, EachIsToldToTheTestsOfItsWindow) {
+    ASSERT_EQ(test::GamesTold.size(), Games().size());
+    for (const Game& game : Games()) {
+        const test::GameTold& told = test::GameOf(game.menu);
+        EXPECT_EQ(told.opens, game.opens) << game.menu;
+        EXPECT_EQ(told.title, game.titleGoesTo ? "" : game.title) << game.menu;
+        EXPECT_EQ(told.LottoFlag, game.LottoFlag) << game.menu;
+        EXPECT_EQ(told.ExtraFlag, game.ExtraFlag) << game.menu;
+        const GameKey* key = FindKey(game.opens, game.LottoFlag);
+        ASSERT_NE(key, nullptr) << game.menu;
+        EXPECT_EQ(told.Played, key->Played) << game.menu;
+        EXPECT_EQ(told.Win, key->Win) << game.menu;
+    }
+}
 
 TEST(GameKeys, EachLeadsToItsTablesWhereTicketsAreSaved) {
     ASSERT_EQ(GameKeys().size(), KeyRows.size());

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <ostream>
+#include <stdexcept>
 #include <string_view>
 
 #include "shell/Family.h"
@@ -83,7 +84,7 @@ inline constexpr std::array<GameTold, 22> GamesTold{{
 constexpr const GameTold& GameOf(std::string_view menu) {
     for (const GameTold& game : GamesTold)
         if (game.menu == menu) return game;
-    throw "no such game";
+    throw std::invalid_argument("no such game");
 }
 
 }  // namespace sorvane::test
