@@ -50,7 +50,7 @@ Control* Control::Of(QWidget* widget) {
 }
 
 void Control::Fire(const std::function<void()>& handler) {
-    if (handler) Runtime::Current().Run(handler);
+    if (handler) Runtime::Current().Handle(handler);
 }
 
 }  // namespace sorvane::forms

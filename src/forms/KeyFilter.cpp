@@ -7,7 +7,7 @@ namespace sorvane::forms {
 bool KeyHandler::Refuses(int key) const {
     if (!handler_) return false;
     KeyPress press(key);
-    Runtime::Current().Run([&] { handler_(press); });
+    Runtime::Current().Handle([&] { handler_(press); });
     return press.Swallowed();
 }
 

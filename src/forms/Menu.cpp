@@ -20,7 +20,8 @@ QAction& Menu::AddEntry(std::string_view name, std::string_view caption, std::fu
     QAction* entry = addAction(ToQt(caption));
     entry->setObjectName(ToQt(name));
     entry->setEnabled(static_cast<bool>(handler));
-    connect(entry, &QAction::triggered, this, [run = std::move(handler)] { Runtime::Current().Run(run); });
+    connect(entry, &QAction::triggered, this,
+            [handler = std::move(handler)] { Runtime::Current().Handle(handler); });
     return *entry;
 }
 

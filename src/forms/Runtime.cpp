@@ -56,7 +56,7 @@ void Runtime::WithoutFocus(QWidget& widget, const std::function<void()>& change)
     QWidget* window = widget.window();
     QWidget* focus = window->focusWidget();
     if (window == &widget || !focus || !(focus == &widget || widget.isAncestorOf(focus))) return change();
-    Run([&] {
+    Handle([&] {
         // The window itself keeps the focus meanwhile: left to Qt it would go to the next field, which may
         // object to being left again, and with no focus at all Qt would choose one when the window is
         // activated.
@@ -92,7 +92,7 @@ void Runtime::Settle() {
     const int depth = std::exchange(level.depth, 0);
     level.moving = true;
     if (left)
-        Run([left] {
+        Handle([left] {
             left->Leave();
             if (left->lostFocus_) left->lostFocus_();
         });

@@ -18,7 +18,7 @@ class Control;
 
 // Owned by the Application. Single-threaded, like Qt's windows.
 class Runtime {
-    // One a modal window or box, and one at the bottom for what runs before any window is shown.
+    // One for each modal window or box, and one at the bottom for what runs before any window is shown.
     struct Level {
         QPointer<QWidget> window;               // null: a box, or a window that was left
         QPointer<QWidget> active;               // the control that has the focus, as the handlers know it
@@ -42,7 +42,7 @@ class Runtime {
     // Runs a handler. What it throws ends it and is shown in a box; nothing passes on. When the outermost
     // handler has ended, the focus goes where it was asked to go.
     template <class Handler>
-    void Run(Handler handler) {
+    void Handle(Handler handler) {
         Level& level = levels_.back();
         ++level.depth;
         if (const int number = Caught(handler)) ShowUnhandled(number);

@@ -12,7 +12,6 @@
 #include <utility>
 
 #include "forms/Look.h"
-#include "forms/MessageBoxes.h"
 #include "forms/Utf8.h"
 
 namespace sorvane::forms {
@@ -82,7 +81,7 @@ void Window::Appear(Qt::WindowModality modality) {
 void Window::TakeSize() {
     const int frame = Look::TitleBar(*this);
     ensurePolished();
-    // What was dressed a moment ago has told no one yet.
+    // Captions that were set a moment ago have not reached the layouts yet.
     for (auto* widget : findChildren<QWidget*>()) widget->updateGeometry();
     QSize asked = sizeHint();
     if (QWidget* menu = layout() ? layout()->menuBar() : nullptr) {
@@ -96,10 +95,6 @@ void Window::Unload() {
     if (level_) level_->Detach();
     hide();
     if (loop_) loop_->quit();
-}
-
-Answer Window::MsgBox(std::string_view text, int style, std::string_view title) {
-    return MessageBoxes().MsgBox(text, style, title);
 }
 
 QWidget* Window::Fallback(QWidget* lost) {
@@ -134,6 +129,10 @@ bool Window::focusNextPrevChild(bool next) {
 void Window::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     TitleToSystem();
+}
+
+void SetTabOrder(const std::vector<QWidget*>& order) {
+    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
 
 }  // namespace sorvane::forms

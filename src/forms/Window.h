@@ -11,7 +11,6 @@
 #include "forms/CommandButton.h"
 #include "forms/Control.h"
 #include "forms/Runtime.h"
-#include "platform/Services.h"
 
 class QEventLoop;
 
@@ -23,7 +22,7 @@ class Window : public QWidget {
     enum class Kind { Main, Dialog };
     // `name` becomes Qt's objectName: "frm649".
     explicit Window(std::string_view name, Kind kind = Kind::Dialog);
-    // Not while its ShowModal runs.
+    // Must not be called while its ShowModal runs.
     ~Window() override;
 
     std::string Name() const;
@@ -54,10 +53,6 @@ class Window : public QWidget {
     // it, else the next enabled control that is not a field for text.
     void SetFallbackFocus(std::vector<Control*> controls) { fallback_ = std::move(controls); }
 
-    // A box in front of whatever window is in front.
-    static Answer MsgBox(std::string_view text, int style = BoxStyle::Ok,
-                         std::string_view title = ProgramName);
-
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -78,5 +73,8 @@ class Window : public QWidget {
     QPointer<QWidget> firstFocus_;
     std::vector<Control*> fallback_;
 };
+
+// The Tab key goes through the widgets in this order; those that are hidden or disabled are passed over.
+void SetTabOrder(const std::vector<QWidget*>& order);
 
 }  // namespace sorvane::forms

@@ -2,6 +2,7 @@
 #include "Fixture.h"
 #include "forms/ControlArray.h"
 #include "forms/LabelFrame.h"
+#include "forms/MessageBoxes.h"
 #include "forms/NumberBall.h"
 #include "forms/TextBox.h"
 
@@ -87,7 +88,7 @@ TEST_F(FocusFallback, WishOfTheHandlerBeatsTheFallback) {
 TEST_F(FocusFallback, BoxShownAfterTheGridWasDisabledDoesNotLetQtChoose) {
     window.chkNumb.OnClick([&](int) {
         window.fraTickets.SetEnabled(false);
-        Window::MsgBox("Done");
+        MessageBoxes().MsgBox("Done");
     });
     person.Expect("Sorvane", "Done");
     person.Click(window.chkNumb(0));

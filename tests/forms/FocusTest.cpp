@@ -9,6 +9,7 @@
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/DatePicker.h"
+#include "forms/MessageBoxes.h"
 #include "forms/TextBox.h"
 
 namespace sorvane::test {
@@ -37,7 +38,7 @@ class Guarded : public LoggingWindow {
         field.OnLostFocus([this, &field] {
             Write("-" + field.Name());
             if (!guarding || !field.Text().empty()) return;
-            MsgBox("Missing " + field.Name(), BoxStyle::Ok, "ERROR");
+            MessageBoxes().MsgBox("Missing " + field.Name(), BoxStyle::Ok, "ERROR");
             if (guardTakesFocusBack) field.SetFocus();
         });
     }
@@ -199,7 +200,7 @@ TEST_F(Focus, BoxesCauseNeitherLostNorGotFocus) {
     window.guarding = false;
     person.Click(window.cmdNext);
     window.log.clear();
-    window.cmdNext.OnClick([&] { Window::MsgBox("Hello"); });
+    window.cmdNext.OnClick([&] { MessageBoxes().MsgBox("Hello"); });
     person.Expect("Sorvane", "Hello");
     person.Enter();
     EXPECT_EQ(Log{}, window.log);
@@ -211,7 +212,7 @@ TEST_F(Focus, BoxBetweenAWishAndTheEndOfTheHandlerCausesNoEvents) {
     window.guarding = false;
     window.cmdNext.OnClick([&] {
         window.txtSecond.SetFocus();
-        Window::MsgBox("Hello");
+        MessageBoxes().MsgBox("Hello");
         window.Write("end of handler");
     });
     person.Expect("Sorvane", "Hello");

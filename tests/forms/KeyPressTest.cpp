@@ -4,6 +4,7 @@
 
 #include "Fixture.h"
 #include "forms/ComboBox.h"
+#include "forms/MessageBoxes.h"
 #include "forms/MultiLineBox.h"
 #include "forms/TextBox.h"
 
@@ -72,7 +73,7 @@ TEST_F(Keys, RefusedKeyNeverReachesTheField) {
 TEST_F(Keys, RefusalMayEmptyTheFieldAndShowABox) {
     window.txtOne.SetText("12");
     window.txtOne.OnKeyPress([&](KeyPress& key) {
-        Window::MsgBox("Please enter a valid number.", BoxStyle::Exclamation, "Error!");
+        MessageBoxes().MsgBox("Please enter a valid number.", BoxStyle::Exclamation, "Error!");
         window.txtOne.SetText("");
         window.txtOne.SetCaret(0);
         key.Swallow();

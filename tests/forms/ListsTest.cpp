@@ -9,6 +9,7 @@
 #include "Fixture.h"
 #include "forms/DatePicker.h"
 #include "forms/ListBox.h"
+#include "forms/MessageBoxes.h"
 #include "forms/TextBox.h"
 
 namespace sorvane::test {
@@ -244,7 +245,7 @@ TEST_F(Dates, BoxShownByAChangeOnLeavingComesWhenTheFocusHasMoved) {
     window.Watch(field);
     date.OnChange([&] {
         EXPECT_TRUE(field.HasFocus());
-        Window::MsgBox("Changed");
+        MessageBoxes().MsgBox("Changed");
     });
     person.Key(Qt::Key_Home);
     person.Type("2027");
@@ -258,7 +259,7 @@ TEST_F(Dates, FinishedByABoxThatCameUpFiresOnceToo) {
     person.Key(Qt::Key_Home);
     person.Type("2027");
     person.Expect("Sorvane", "Hello");
-    Window::MsgBox("Hello");
+    MessageBoxes().MsgBox("Hello");
     Person::Settle();
     EXPECT_EQ((Log{"2027-11-21"}), window.log);
 }

@@ -3,6 +3,7 @@
 
 #include "Fixture.h"
 #include "forms/ControlArray.h"
+#include "forms/MessageBoxes.h"
 #include "forms/TextBox.h"
 
 namespace sorvane::test {
@@ -55,7 +56,7 @@ TEST_F(Tabs, LostFocusComesWhenThePageIsInFrontAndBeforeTheClick) {
 }
 
 TEST_F(Tabs, BoxDuringAChangeOfTabComesOverThePageInFront) {
-    window.txtNoOfTickets.OnLostFocus([&] { Window::MsgBox("Missing"); });
+    window.txtNoOfTickets.OnLostFocus([&] { MessageBoxes().MsgBox("Missing"); });
     person.Expect("Sorvane", "Missing", Answer::Ok, BoxStyle::Ok, [&] {
         EXPECT_TRUE(window.txtWin.isVisible());
         EXPECT_FALSE(window.txtNoOfTickets.isVisible());

@@ -188,7 +188,7 @@ TEST(Window, MayBeUnloadedByItsOwnHandlerWhichGoesOn) {
         leaving.push_back(std::move(window));
         own.Unload();
         EXPECT_FALSE(own.isVisible());
-        Window::MsgBox("Tickets Saved", BoxStyle::Ok, "CONFIRMED");
+        MessageBoxes().MsgBox("Tickets Saved", BoxStyle::Ok, "CONFIRMED");
         own.txtCount.SetText("0");
         own.txtCount.SetFocus();
         own.cmdOk.SetEnabled(false);

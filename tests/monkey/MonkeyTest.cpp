@@ -136,7 +136,7 @@ class Life : public MainWindow {
     // No entry of the menu leads there.
     void OpenKeno80() {
         Note("keno 80");
-        forms::Runtime::Current().Run([this] {
+        forms::Runtime::Current().Handle([this] {
             Select(Family::frmKeno80, "BCClubKeno", "");
             windows.ShowModal(windows.Load(Family::frmKeno80));
         });

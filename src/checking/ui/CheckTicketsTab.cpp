@@ -5,14 +5,10 @@
 #include <QVBoxLayout>
 
 #include "checking/CheckFacts.h"
-#include "forms/BusyPointer.h"
 #include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
 #include "shell/ui/GameFrame.h"
-#include "store/CheckTB_DBExists.h"
-#include "store/CreateTables.h"
-#include "store/StoreLedger.h"
 
 namespace sorvane {
 
@@ -21,9 +17,8 @@ namespace {
 using namespace CheckFacts;
 
 constexpr int BoxesARow = 10;
-constexpr int FourBoxes = 4;
 
-// A value outside 1 to `top` empties the box and keeps it in hand; an empty box is no such value.
+// A value outside 1 to `top` shows `text`, empties the box and brings the focus back. An empty box passes.
 void GuardRange(GameFrame& window, forms::TextBox& box, int top, std::string_view text) {
     if (top == 0 || box.Text().empty()) return;
     const double value = Val(box.Text());
@@ -33,7 +28,7 @@ void GuardRange(GameFrame& window, forms::TextBox& box, int top, std::string_vie
     box.SetFocus();
 }
 
-// Selects the row that a verdict belongs to; one that the list lacks leads nowhere.
+// Selects the row that a verdict belongs to. Nothing happens when the list lacks the row.
 void Follow(forms::ListBox& to, int row, forms::ListBox& other) {
     if (row >= to.ListCount()) return;
     to.SetListIndex(row);
@@ -45,12 +40,10 @@ bool IsWinner(std::string_view line) {
            (line.find(" won ") != std::string_view::npos && !line.starts_with("Sorry"));
 }
 
-StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
-
 }  // namespace
 
 CheckTicketsTab::CheckTicketsTab(GameFrame& window)
-    : txtWin(BoxStem[window.Which]), cboWin(BoxStem[window.Which]), window_(window) {
+    : txtWin(BoxStem[window.Which]), cboWin(BoxStem[window.Which]), window_(window), flow_(window, *this) {
     window.dtpEnterTickets.Load(2).SetAccessibleName("Draw Date");
     window.cmdExit.Load(2, "E&xit");
     MakeBoxes();
@@ -92,7 +85,7 @@ void CheckTicketsTab::MakeBoxes() {
     if (HasEncoreList[family]) {
         lblEncorePlayed.emplace("lblEncorePlayed", "Encore #'s:");
         lstEncorePlayed.emplace("lstEncorePlayed");
-        // Play 4 shows the list, and nothing comes there.
+        // Play 4 shows the list, but it stays empty.
         if (HasEncoreBox[family]) lstEncorePlayed->SetHint("Its add-on numbers");
     }
 }
@@ -116,9 +109,9 @@ void CheckTicketsTab::AttachHandlers() {
     }
     if (FollowsRows[family]) lstMessage.OnDblClick([this] { lstMessage_DblClick(); });
     if (ClickFollows[family]) lstNumbersPlayed.OnClick([this] { lstNumbersPlayed_Click(); });
-    chkStatUpdate.OnClick([this] { chkStatUpdate_Click(); });
-    cmdCheck.OnClick([this] { cmdCheck_Click(); });
-    cmdEnterWinnings.OnClick([this] { cmdEnterWinnings_Click(); });
+    chkStatUpdate.OnClick([this] { flow_.chkStatUpdate_Click(); });
+    cmdCheck.OnClick([this] { flow_.cmdCheck_Click(); });
+    cmdEnterWinnings.OnClick([this] { flow_.cmdEnterWinnings_Click(); });
 }
 
 void CheckTicketsTab::LayOut() {
@@ -154,7 +147,7 @@ QLayout* CheckTicketsTab::WinnerRow() {
     auto* four = new QHBoxLayout;
     four->setSpacing(space);
     if (lblWinEarlybird) four->addWidget(&*lblWinEarlybird);
-    // In the windows of two add-ons one label names the number and the four numbers alike.
+    // Windows of two add-ons have one label for both the number and the four numbers.
     if (lblWinEncore && !lblWinEarlybird) four->addWidget(&*lblWinEncore);
     txtWin4.ForEach([&](forms::TextBox& box, int) {
         box.setFixedWidth(width);
@@ -198,7 +191,7 @@ QLayout* CheckTicketsTab::ListsRow() {
         label.SetBuddy(list);
         lists->addWidget(&label, 0, column);
         lists->addWidget(&list, 1, column++);
-        // A stretch of the list, not of its column: the others take the room of one that is hidden.
+        // The stretch is the list's, not its column's, so that the others take its room when it is hidden.
         QSizePolicy policy = list.sizePolicy();
         policy.setHorizontalStretch(share);
         list.setSizePolicy(policy);
@@ -243,23 +236,15 @@ QLayout* CheckTicketsTab::WinningsRow() {
 }
 
 void CheckTicketsTab::OrderTabs() {
-    QWidget* last = &window_.dtpEnterTickets(2);
-    const auto next = [&](QWidget& widget) {
-        QWidget::setTabOrder(last, &widget);
-        last = &widget;
-    };
-    txtWin.ForEach([&](forms::TextBox& box, int) { next(box); });
-    cboWin.ForEach([&](forms::ComboBox& box, int) { next(box); });
-    txtWin4.ForEach([&](forms::TextBox& box, int) { next(box); });
-    if (txtWinEncore) next(*txtWinEncore);
-    next(chkStatUpdate);
-    next(cmdCheck);
-    next(lstNumbersPlayed);
-    if (lstEncorePlayed) next(*lstEncorePlayed);
-    next(lstMessage);
-    next(txtDollarsWon);
-    next(cmdEnterWinnings);
-    next(window_.cmdExit(2));
+    std::vector<QWidget*> order{&window_.dtpEnterTickets(2)};
+    txtWin.ForEach([&](forms::TextBox& box, int) { order.push_back(&box); });
+    cboWin.ForEach([&](forms::ComboBox& box, int) { order.push_back(&box); });
+    txtWin4.ForEach([&](forms::TextBox& box, int) { order.push_back(&box); });
+    if (txtWinEncore) order.push_back(&*txtWinEncore);
+    order.insert(order.end(), {&chkStatUpdate, &cmdCheck, &lstNumbersPlayed});
+    if (lstEncorePlayed) order.push_back(&*lstEncorePlayed);
+    order.insert(order.end(), {&lstMessage, &txtDollarsWon, &cmdEnterWinnings, &window_.cmdExit(2)});
+    forms::SetTabOrder(order);
 }
 
 std::string CheckTicketsTab::MainText(int index) const {
@@ -297,156 +282,6 @@ void CheckTicketsTab::ForgetResults() {
     if (txtWinEncore) txtWinEncore->SetText("");
     if (DateEmptiesFour[window_.Which]) txtWin4.ForEach([](forms::TextBox& box, int) { box.SetText(""); });
     ClearLists();
-}
-
-bool CheckTicketsTab::StatOnly() const {
-    return KnowsStatUpdate[window_.Which] && window_.run.global.StatUpdate == On;
-}
-
-void CheckTicketsTab::cmdCheck_Click() {
-    if (!RunCheck()) return;
-    window_.run.global.EntryCounter = 0;
-    window_.run.global.NoRowForDate = Off;
-}
-
-bool CheckTicketsTab::RunCheck() {
-    const Family family = window_.Which;
-    window_.run.global.EnteringWinnings = Off;
-    window_.State.WindowDate = window_.dtpEnterTickets(2).Value();
-    if (!DateHasCome()) return true;
-    if (ListsCleared[family] == Clearing::AfterDate) {
-        lstMessage.Clear();
-        lstNumbersPlayed.Clear();
-    }
-    if (AddOnTested[family] == AddOnTest::BeforeBoxes && !AddOnIsLongEnough()) return false;
-    if (!BoxesAreFilled()) return true;
-    if (ListsCleared[family] == Clearing::AfterBoxes) ClearLists();
-    if (!StatOnly()) {
-        const AddOnTest when = AddOnTested[family];
-        if ((when == AddOnTest::AfterBoxes || when == AddOnTest::AfterLists) && !AddOnIsLongEnough())
-            return !TooShortEndsAtOnce[family];
-        if (ListsCleared[family] == Clearing::AfterAddOn) ClearLists();
-        if (!ReadTickets()) return true;
-    }
-    StoreDraw();
-    if (!GoesOnToJudging()) return true;
-    const WinningBoxes boxes = Boxes();
-    JudgeTickets(boxes);
-    CheckAddOn(boxes);
-    return true;
-}
-
-bool CheckTicketsTab::DateHasCome() {
-    Run& run = window_.run;
-    if (window_.State.WindowDate <= run.services.clock.Today()) return true;
-    run.global.Msg = FutureText;
-    window_.MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
-    return false;
-}
-
-bool CheckTicketsTab::Missing(std::string_view text, std::string_view title, forms::Control& box) {
-    window_.run.global.Msg = text;
-    window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
-    box.SetFocus();
-    return false;
-}
-
-bool CheckTicketsTab::BoxesAreFilled() {
-    const Family family = window_.Which;
-    if (!BoxesRequired[family]) return true;
-    for (int i = 0; i < BoxCount[family]; ++i)
-        if (MainText(i).empty()) return Missing(MissingText[family], MissingTitle[family], MainBox(i));
-    return FourTested[family] != FourTest::Always || StatOnly() || FourAreFilled();
-}
-
-bool CheckTicketsTab::FourAreFilled() {
-    for (int i = 0; i < FourBoxes; ++i)
-        if (txtWin4(i).Text().empty()) return Missing(FourMissingText[window_.Which], CheckTitle, txtWin4(i));
-    return true;
-}
-
-bool CheckTicketsTab::AddOnIsLongEnough() {
-    const Family family = window_.Which;
-    const Global& g = window_.run.global;
-    if (StatOnly()) return true;
-    if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
-    if (ClearsEncoreListAtTest[family] && lstEncorePlayed) lstEncorePlayed->Clear();
-    if (FourTested[family] == FourTest::UnderExtra && g.ExtraFlag == "Extra") return FourAreFilled();
-    if (Len(txtWinEncore->Text()) >= AddOnDigits(g.ExtraFlag)) return true;
-    return Missing(TooShortText(family, g.ExtraFlag), TooShortTitle[family], *txtWinEncore);
-}
-
-bool CheckTicketsTab::ReadTickets() {
-    WindowState& state = window_.State;
-    Run& run = window_.run;
-    if (const auto table = CheckTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
-    Read[window_.Which](run, At(state), lstNumbersPlayed);
-    return run.global.NoRowForDate != On;
-}
-
-void CheckTicketsTab::StoreDraw() {
-    WindowState& state = window_.State;
-    Run& run = window_.run;
-    if (const auto table = WinTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
-    if (ProbesWin[window_.Which])
-        MakeSureOf(run, state.DbName, state.TableName, [&] {
-            CreateWinKenoTable(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
-        });
-    Store[window_.Which](run, At(state), Boxes());
-}
-
-bool CheckTicketsTab::GoesOnToJudging() {
-    Global& g = window_.run.global;
-    if (RefusalStops[window_.Which] && g.RecheckRefused == True) {
-        g.RecheckRefused = Off;
-        g.RecheckAccepted = True;
-        return false;
-    }
-    if (!StatOnly()) return true;
-    if (g.RecheckAccepted != True) {
-        g.RecheckAccepted = True;
-        return false;
-    }
-    g.Msg = UpdatedText;
-    window_.MsgBox(g.Msg, BoxStyle::Ok, UpdatedTitle);
-    if (UpdateEmptiesBoxes[window_.Which]) EmptyMainBoxes();
-    return false;
-}
-
-void CheckTicketsTab::JudgeTickets(const WinningBoxes& boxes) {
-    const Family family = window_.Which;
-    Run& run = window_.run;
-    if (AlsoStore[family]) {
-        window_.State.TableName = AlsoWin[family];
-        AlsoStore[family](run, At(window_.State), boxes);
-    }
-    forms::BusyPointer busy;
-    const int rows = run.global.EntryCounter;
-    for (int Row = 0; Row < rows; ++Row) {
-        CheckFacts::Check[family](run, boxes, Row, lstMessage);
-        if (AlsoCheck[family]) AlsoCheck[family](run, boxes, Row, lstMessage);
-        busy.Tick();
-    }
-    window_.State.TicketRows = lstNumbersPlayed.ListCount();
-    run.global.EntryCounter = 0;
-}
-
-void CheckTicketsTab::CheckAddOn(const WinningBoxes& boxes) {
-    Run& run = window_.run;
-    WindowState& state = window_.State;
-    const AddOnPass* pass = FindAddOnPass(window_.Which, run.global.ExtraFlag);
-    if (!pass || !lstEncorePlayed) return;
-    const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
-    state.TableName = addOn.Played;
-    pass->Read(run, At(state), *lstEncorePlayed);
-    state.TableName = addOn.Win;
-    pass->Store(run, At(state), boxes);
-    forms::BusyPointer busy;
-    const int rows = run.global.EntryCounter;
-    for (int Row = 0; Row < rows; ++Row) {
-        pass->Check(run, boxes, Row, lstMessage);
-        busy.Tick();
-    }
 }
 
 void CheckTicketsTab::RefuseAndKeep(forms::KeyPress& key, int style) {
@@ -500,20 +335,6 @@ void CheckTicketsTab::txtDollarsWon_KeyPress(forms::KeyPress& key) {
         RefuseAndKeep(key, BoxStyle::Ok);
 }
 
-void CheckTicketsTab::chkStatUpdate_Click() {
-    const bool on = chkStatUpdate.Value() == 1;
-    window_.run.global.StatUpdate = on ? On : Off;
-    cmdCheck.SetCaption(on ? "&Update" : "&Check");
-    const unsigned disables = StatDisables[window_.Which];
-    if (disables & StatControls::EarlyBird) lblWinEarlybird->SetEnabled(!on);
-    if (disables & StatControls::Four)
-        txtWin4.ForEach([on](forms::TextBox& box, int) { box.SetEnabled(!on); });
-    if (disables & StatControls::Encore) {
-        lblWinEncore->SetEnabled(!on);
-        txtWinEncore->SetEnabled(!on);
-    }
-}
-
 void CheckTicketsTab::lstMessage_DblClick() {
     const int row = lstMessage.ListIndex();
     const int split = window_.State.TicketRows;
@@ -525,36 +346,6 @@ void CheckTicketsTab::lstNumbersPlayed_Click() {
     // The first click after the window opened does nothing: meant.
     if (window_.State.ListArmed == On) lstMessage.SetListIndex(lstNumbersPlayed.ListIndex());
     else window_.State.ListArmed = On;
-}
-
-void CheckTicketsTab::cmdEnterWinnings_Click() {
-    Run& run = window_.run;
-    WindowState& state = window_.State;
-    const bool probes = ProbesForWinnings[window_.Which];
-    run.global.EnteringWinnings = On;
-    run.global.TableOpened = Off;
-    state.WindowDate = window_.dtpEnterTickets(2).Value();
-    if (const auto table = WinningsTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
-    if (probes) MakeSureOfTable();
-    FindDrawEntry(run, At(state));
-    if (run.global.WinningsDrawFound == Off) return;
-    run.global.TableOpened = Off;
-    state.TableName = "Winnings";
-    if (probes) MakeSureOfTable();
-    run.global.Dollars = txtDollarsWon.Text();
-    StoreLedgerAmount(run, At(state));
-    // The box comes in every case, also when nothing was stored: meant.
-    run.global.Msg = SavedText;
-    window_.MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
-}
-
-void CheckTicketsTab::MakeSureOfTable() {
-    Run& run = window_.run;
-    WindowState& state = window_.State;
-    const Creator& played = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayed6Table;
-    const Creator& creator = state.TableName == "Winnings" ? CreateWinningsTable : played;
-    MakeSureOf(run, state.DbName, state.TableName,
-               [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
 }
 
 }  // namespace sorvane

@@ -1,11 +1,12 @@
-// The tab "&Check Tickets": the draw, the verdicts, the winnings.
+// The page of the tab "&Check Tickets": the draw, the verdicts, the winnings. What its buttons do is
+// CheckFlow.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 
 #include "checking/WinningBoxes.h"
+#include "checking/ui/CheckFlow.h"
 #include "forms/CheckBox.h"
 #include "forms/ComboBox.h"
 #include "forms/CommandButton.h"
@@ -50,6 +51,15 @@ class CheckTicketsTab {
 
     // dtpEnterTickets(2) has changed: the results of an earlier check go away.
     void ForgetResults();
+    // The winning boxes of the main draw, counted from 0: what stands in one, and the box itself.
+    std::string MainText(int index) const;
+    forms::Control& MainBox(int index);
+    // All boxes and the date, as they stand.
+    WinningBoxes Boxes() const;
+    void EmptyMainBoxes();
+    void ClearLists();
+
+    static constexpr int FourBoxes = 4;  // of txtWin4, where the family has it
 
   private:
     void MakeBoxes();
@@ -60,28 +70,6 @@ class CheckTicketsTab {
     QLayout* WinningsRow();
     void OrderTabs();
 
-    // The check, step by step; false where it ends there.
-    void cmdCheck_Click();
-    bool DateHasCome();
-    bool BoxesAreFilled();
-    bool FourAreFilled();
-    bool AddOnIsLongEnough();
-    bool ReadTickets();
-    void StoreDraw();
-    bool GoesOnToJudging();
-    void JudgeTickets(const WinningBoxes& boxes);
-    void CheckAddOn(const WinningBoxes& boxes);
-    // The whole check; false where it ended at once, without the last step.
-    bool RunCheck();
-    bool Missing(std::string_view text, std::string_view title, forms::Control& box);
-
-    bool StatOnly() const;
-    void ClearLists();
-    void EmptyMainBoxes();
-    std::string MainText(int index) const;
-    forms::Control& MainBox(int index);
-    WinningBoxes Boxes() const;
-
     // Refuses a key; the text stays as it is.
     void RefuseAndKeep(forms::KeyPress& key, int style);
     void txtWin_KeyPress(int Index, forms::KeyPress& key);
@@ -89,13 +77,11 @@ class CheckTicketsTab {
     void txtWinEncore_KeyPress(forms::KeyPress& key);
     void txtWinEncore_LostFocus();
     void txtDollarsWon_KeyPress(forms::KeyPress& key);
-    void chkStatUpdate_Click();
     void lstMessage_DblClick();
     void lstNumbersPlayed_Click();
-    void cmdEnterWinnings_Click();
-    void MakeSureOfTable();
 
     GameFrame& window_;
+    CheckFlow flow_;
 };
 
 }  // namespace sorvane

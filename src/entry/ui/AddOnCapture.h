@@ -70,8 +70,8 @@ class AddOnCapture {
     // fraTicketNumber: `kind` and the number of the add-on ticket in hand.
     void ShowTitle(std::string_view kind);
 
-    // txtEncore into the element of AddOnTickets: a digit a slot, or 99 in each where no add-on was bought.
-    // Raises 9 where AddOnTickets lacks the element (the count and chkEncore alone size it), 13 where
+    // txtEncore into the element of AddOnTickets: one digit in each slot, or 99 in all where no add-on was
+    // bought. Raises 9 where AddOnTickets lacks the element (the count and chkEncore alone size it), 13 where
     // txtEncore has too few digits.
     void StoreAddOnTicket(int element);
     // The add-on step of cmdSave: stores and writes the add-on tickets of the sheet by ExtraFlag. Raises what

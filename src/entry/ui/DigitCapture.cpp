@@ -148,7 +148,7 @@ void DigitCapture::TakeWager(WagerOption option) {
     const int tickets = IntegerPart(window_.txtNoOfTickets(0).Text());
     g_.Dollars = WagerAmount(option, g_.LottoFlag, tickets);
     window_.Enter.txtDollars.SetText(g_.Dollars);
-    // The way goes, but PlayOption keeps its name.
+    // The option goes off, but PlayOption keeps its name.
     if (option == WagerOption::One && HasHalfWagers(g_.LottoFlag) && optPlayOpt(2).Value())
         optPlayOpt(2).SetValue(false);
 }
@@ -160,7 +160,7 @@ std::string DigitCapture::AmountAtCount(int tickets) const {
     return g_.Dollars;
 }
 
-// Nobody asks whether a digit was chosen: leaving the last list ends the ticket, each time.
+// Leaving the last list ends the ticket each time, whether a digit was chosen or not.
 void DigitCapture::TicketComplete() {
     EnterTicketsTab& tab = window_.Enter;
     g_.TicketNo += 1;

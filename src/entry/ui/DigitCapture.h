@@ -15,7 +15,7 @@
 namespace sorvane {
 
 class DigitCapture final : public TicketCapture {
-    QWidget slip_, header_;  // before what stands in them
+    QWidget slip_, header_;  // declared before the controls in them
 
   public:
     explicit DigitCapture(GameWindow& window);
@@ -49,7 +49,7 @@ class DigitCapture final : public TicketCapture {
     int TicketsOnSheet() const override { return g_.NoOfTicketsOnSheet; }
     bool SheetIsFull() const override;
     void SaveSheet(const StoreArgs& at) override;
-    // In the Florida games by the wager chosen; with neither of the two small ones Dollars as it was.
+    // The Florida games reckon with "$1.00" or "$2.00"; with neither chosen, Dollars as it was.
     std::string AmountAtCount(int tickets) const override;
 
   private:

@@ -33,7 +33,7 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
     txtDollars.SetText(NoDollars);
     txtDollars.SetAccessibleName("Dollars spent");
     window.cmdExit.Load(0, "E&xit");
-    // Which of the two labels of the money is seen depends on where the game puts the field.
+    // A family shows one of the two labels of the amount.
     if (HasDollarsLabel[window.Which]) {
         lblDollars.emplace("lblDollars", "Dollars Spent:   $");
         lblDollarsSpent.SetVisible(false);
@@ -73,7 +73,7 @@ void EnterTicketsTab::LayOut() {
     whole->addLayout(HeadRow());
     whole->addLayout(body, 1);
     OrderTabs();
-    // The count of frmPick4 is there a second time; nothing shows it.
+    // frmPick4 has a second count field, which is never shown.
     if (window_.Which != Family::frmPick4) return;
     forms::TextBox& second = window_.txtNoOfTickets.Load(2);
     second.setParent(&page);
@@ -103,8 +103,8 @@ QLayout* EnterTicketsTab::HeadRow() {
     return head;
 }
 
-// The marks of the ticket and the numbers of its add-on, in a row as high when these are hidden, so that the
-// play slip stays as it is.
+// The marks of the ticket and the numbers of its add-on. The row keeps its height when they are hidden, so
+// that the play slip stays where it is.
 QLayout* EnterTicketsTab::MarksRow() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
@@ -134,7 +134,7 @@ QLayout* EnterTicketsTab::MarksRow() {
     return marks;
 }
 
-// What the sheet costs, and what is done with it, in the order of the work.
+// The cost of the sheet, then the buttons in the order of the work.
 QLayout* EnterTicketsTab::ButtonColumn() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
@@ -179,7 +179,7 @@ void EnterTicketsTab::OrderTabs() {
     for (QWidget* last : std::initializer_list<QWidget*>{&cmdNext_Ticket, &cmdCorrection, &cmdSave,
                                                          &cmdRegular, &cmdCancel, &window_.cmdExit(0)})
         order.push_back(last);
-    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+    forms::SetTabOrder(order);
 }
 
 void EnterTicketsTab::ShowTitle(std::string_view kind, int number) {

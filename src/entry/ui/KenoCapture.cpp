@@ -25,7 +25,7 @@ void FillBalls(forms::ComboBox& list) {
 
 KenoCapture::KenoCapture(GameWindow& window) : LottoCapture(window) {
     LayOut();
-    if (!IsKeno70()) return;  // the lists of frmKeno80 are there, without a flow
+    if (!IsKeno70()) return;  // frmKeno80 has the lists, but nothing happens when they are left
     cboNoOfBallsPerTicket.OnGotFocus([this] { cboNoOfBallsPerTicket.SelectAll(); });
     cboNoOfBallsPerTicket.OnLostFocus([this] { cboNoOfBallsPerTicket_LostFocus(); });
     cboWager.OnLostFocus([this] { cboWager_LostFocus(); });
@@ -105,7 +105,7 @@ void KenoCapture::cboWager_LostFocus() {
 }
 
 void KenoCapture::chkNumb_Click(int Index) {
-    // No ticket is complete without a number, also while none is chosen (the grid is cleared at load).
+    // A ticket without a number is never complete: clearing the grid at load fires Clicks too.
     if (!CountNumber(Index) || g_.NumbersPicked == 0) return;
     g_.TicketNo += 1;
     grid_.SetOpen(false);

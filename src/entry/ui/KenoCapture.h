@@ -10,7 +10,7 @@
 namespace sorvane {
 
 class KenoCapture final : public LottoCapture {
-    QWidget header_;  // before what stands in it
+    QWidget header_;  // declared before the controls in it
 
   public:
     explicit KenoCapture(GameWindow& window);
@@ -41,7 +41,7 @@ class KenoCapture final : public LottoCapture {
     bool IsKeno70() const;
     bool AnyTicked() const;
 
-    bool aTicketIsStored_ = false;  // in this entry: its wager has settled the amount
+    bool aTicketIsStored_ = false;  // in this entry: its wager has decided the amount
 };
 
 }  // namespace sorvane

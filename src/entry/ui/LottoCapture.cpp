@@ -150,7 +150,7 @@ void BonusCapture::chkNumb_Click(int Index) {
         next.SetCaption(NextBonus);
         CountBonusTicket();
     }
-    // A sheet of which nobody said how many tickets it holds leads nowhere.
+    // Nothing follows while the number of tickets on the sheet is not known.
     next.SetEnabled(g_.TicketNo < SheetTotal());
     if (bought) BoughtTicketComplete();
     if (g_.TicketNo == SheetTotal()) SheetComplete();

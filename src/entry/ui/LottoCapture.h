@@ -36,17 +36,17 @@ class LottoCapture : public TicketCapture {
   protected:
     // chkNumb has changed.
     virtual void chkNumb_Click(int Index);
-    // A number more or less; true when the ticket is complete.
+    // Counts a number that was ticked or unticked; true when the ticket is complete.
     bool CountNumber(int Index);
     // How many numbers make a ticket.
     virtual int NumbersWanted() const;
     // The last ticket of the sheet is complete: on to the add-ons, or to saving.
     void SheetComplete();
-    // The numbers ticked, upwards, into the slots, and the draw date; `clear`: each box is cleared.
+    // Puts the ticked numbers in rising order into the slots, and the draw date; `clear` unticks them.
     template <class Ticket>
     void TakeNumbers(Ticket& ticket, bool clear);
-    // What storing does around the array: before, and behind it (`more`: further tickets follow on this
-    // sheet).
+    // What every storing does before and after the ticket is put into its array (`more`: further tickets
+    // follow on this sheet).
     void BeforeStoring();
     void AfterStoring(bool more);
     void ShowTicketTitle();

@@ -10,7 +10,7 @@
 namespace sorvane {
 
 // chkNumb(0) to chkNumb(count - 1), captions "1" and up, as on the paper slip. The grid is enabled and
-// disabled as a whole: one step of the focus instead of one a number.
+// disabled as a whole, so that the focus moves once and not once for each number.
 class NumberGrid : public QWidget {
   public:
     NumberGrid(int numbers, int columns);

@@ -81,7 +81,8 @@ void SheetFlow::AskTicketsOnSheet() {
     window_.windows.ShowModal(question);
 }
 
-// By the field, not by the tickets accepted: on the way to the reports they may differ.
+// Counts by the text of the field, which differs from the accepted count when the player leaves for the
+// reports.
 void SheetFlow::DefaultTheAmount(forms::TextBox& count) {
     if (count.Text().empty() && EmptyCountBecomesZero[window_.Which]) count.SetText("0");
     const int tickets = count.Text().empty() ? 0 : int{IntegerPart(count.Text())};

@@ -39,7 +39,7 @@ class SheetFlow {
     void RecordSpending();
 
     GameWindow& window_;
-    bool aTicketASheet_ = false;  // as many sheets as tickets: nobody needs to be asked how they are spread
+    bool aTicketASheet_ = false;  // as many sheets as tickets, so each sheet has one
 };
 
 }  // namespace sorvane

@@ -58,7 +58,7 @@ class TicketCapture {
         int marked = 0, wanted = 0;
     };
     virtual Marks Marked() const { return {}; }
-    // How many tickets the sheet in hand takes, bonus tickets counted in; 0 before somebody said so.
+    // How many tickets the sheet in hand takes, bonus tickets counted in; 0 while that is not known.
     virtual int TicketsOnSheet() const = 0;
     // Whether the sheet may be written.
     virtual bool SheetIsFull() const = 0;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int CountDigits = 5;
 
-// About what a ticket costs, for the busy pointer.
+// About how long a ticket takes, for the busy pointer.
 constexpr std::chrono::microseconds ToGenerate{25}, ToPrint{100};
 forms::BusyPointer BusyFor(int tickets, std::chrono::microseconds each) {
     return forms::BusyPointer(std::chrono::duration_cast<std::chrono::milliseconds>(tickets * each));
@@ -106,7 +106,7 @@ QLayout* QuickPickTab::ButtonColumn() {
     return buttons;
 }
 
-// Where the wheel does nothing it comes last: leaving its fields asks for numbers that nobody needs.
+// A wheel that does nothing comes last, because leaving its fields asks for numbers that are not needed.
 void QuickPickTab::OrderTabs() {
     std::vector<QWidget*> order{&window_.dtpEnterTickets(1), &window_.txtNoOfTickets(1)};
     if (cboNoOfQPs) order.push_back(&*cboNoOfQPs);
@@ -115,7 +115,7 @@ void QuickPickTab::OrderTabs() {
                                                          &cmdHelp, &window_.cmdExit(1)})
         order.push_back(next);
     if (Wheel && !WheelLive[window_.Which]) Wheel->AddToTabOrder(order);
-    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+    forms::SetTabOrder(order);
 }
 
 void QuickPickTab::ChooseHot() {

@@ -23,7 +23,7 @@ class QuickPickTab {
     forms::Label lblDrawDate{"lblDrawDate", "Draw Date:"};
     forms::Label lblNoOfTickets{"lblNoOfTickets", "Number of Tickets:"};
     std::optional<forms::Label> lblNumOfBalls;  // keno windows, like the next one
-    std::optional<forms::ComboBox> cboNoOfQPs;  // tells nothing in frmKeno80: meant
+    std::optional<forms::ComboBox> cboNoOfQPs;  // has no effect in frmKeno80: meant
     std::optional<WheelControls> Wheel;         // not in the digit windows
     forms::Label lblDisplay{"lblDisplay", "Number Display:"};
     forms::ListBox lstDisplay{"lstDisplay"};

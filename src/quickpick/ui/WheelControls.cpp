@@ -17,7 +17,7 @@ namespace {
 
 constexpr int FavouritesARow = 6;
 
-// What the option of each index has to say in frm645.
+// The options by index, and what each shows above the boxes in frm645.
 struct WheelOption {
     std::string_view caption;
     std::string_view favourites;  // the label above the boxes
@@ -144,7 +144,7 @@ void WheelControls::txtHowMany_KeyPress(forms::KeyPress& key) {
 
 void WheelControls::txtHowMany_LostFocus() {
     TakeHowMany();
-    // In any case, also behind a refusal.
+    // This comes in any case, also after a refusal.
     if (WheelSizes[window_.Which]) CompareWithWheelSize();
 }
 
@@ -200,7 +200,8 @@ void WheelControls::txtFavs_KeyPress(int Index, forms::KeyPress& key) {
         box.SelectAll();
     }
     if (key.KeyAscii != forms::EnterKey) return;
-    // The tickets decide, also in frm645, where the numbers to wheel are kept elsewhere: meant.
+    // The last box follows from NoOfTickets, also in frm645, which keeps the numbers to wheel elsewhere:
+    // meant.
     const int last = window_.run.global.NoOfTickets - 1;
     if (Index < last && txtFavs.IsLoaded(Index + 1)) txtFavs(Index + 1).SetFocus();
     else if (Index == last) generate_.SetFocus();

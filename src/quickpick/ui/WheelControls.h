@@ -28,7 +28,7 @@ class WheelControls final : public WheelFace {
     forms::Label txtEnterFavs{"txtEnterFavs", "Favourites"};
     forms::ControlArray<forms::TextBox> txtFavs{"txtFavs"};
 
-    // The option that is on; hot before any is.
+    // The option that is on; Hot while none is.
     WheelType Chosen() const;
     // The fields in the order of the Tab key.
     void AddToTabOrder(std::vector<QWidget*>& order);

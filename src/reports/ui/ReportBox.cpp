@@ -8,7 +8,7 @@
 namespace sorvane {
 
 namespace {
-// The head line with the longest title of a window.
+// As wide as the head line under the longest title of a window.
 constexpr int Columns = 80, LeastColumns = 32;
 constexpr int Lines = 28, LeastLines = 8;
 }  // namespace

@@ -22,7 +22,7 @@ class ReportBox final : public forms::MultiLineBox {
     QSize sizeHint() const override;
 
   private:
-    // Room for lines so long and so many.
+    // The size that shows so many lines of so many characters.
     QSize SizeFor(int columns, int lines) const;
 };
 

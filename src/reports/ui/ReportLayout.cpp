@@ -8,6 +8,7 @@
 
 #include "forms/Look.h"
 #include "forms/Utf8.h"
+#include "forms/Window.h"
 
 namespace sorvane {
 
@@ -61,7 +62,7 @@ void LayOutReports(QWidget& page, const std::vector<QWidget*>& views,
     whole->setSpacing(gap);
     whole->addLayout(Place(views), 1);
     whole->addLayout(buttons);
-    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+    forms::SetTabOrder(order);
 }
 
 }  // namespace sorvane

@@ -19,7 +19,7 @@
 namespace sorvane {
 
 namespace {
-// About what can be printed, for the busy pointer.
+// About how fast a report is printed, for the busy pointer.
 constexpr std::size_t CharactersAMillisecond = 500;
 }  // namespace
 

@@ -20,11 +20,11 @@ class ReportsTab {
     forms::CommandButton cmdProfitLoss{"cmdProfitLoss", "&Profit/Loss"};
     forms::CommandButton cmdReport;  // cmdNFReport in frm645
     forms::CommandButton cmdPLReport{"cmdPLReport", "Profit/&Loss"};
-    forms::CommandButton cmdPrintReport{"cmdPrintReport", "&Print"};  // does nothing but in frm645
+    forms::CommandButton cmdPrintReport{"cmdPrintReport", "&Print"};  // does nothing except in frm645
     forms::Chart mscNumberFrequency{"mscNumberFrequency"};
     forms::Chart mscProfitLoss{"mscProfitLoss"};
     ReportBox txtReport{"txtReport"};
-    ChartCells Frequencies{mscNumberFrequency};
+    ChartCells Frequencies{mscNumberFrequency};  // that chart, as tallies and wheels fill it
 
     // Both charts emptied, at load and at cancel. Which of the three is seen stays as it is.
     void ClearCharts();

@@ -12,7 +12,7 @@
 
 namespace sorvane {
 
-// Takes every row of the ledgers, because Global::LottoFlag is empty: whoever opens the window empties it
+// Takes every row of the ledgers, because Global::LottoFlag is empty: its opener empties it
 // before. Opens on an empty chart.
 class frmReport final : public forms::Window {
   public:

@@ -1,4 +1,4 @@
-// The small question which report of a digit game is wanted.
+// The dialog that asks which report of a digit game is wanted.
 #pragma once
 
 #include "forms/CommandButton.h"

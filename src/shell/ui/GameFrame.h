@@ -45,14 +45,14 @@ class GameFrame : public forms::Window {
     forms::TabStrip SSTab1{"SSTab1"};
     std::array<QWidget, 4> Pages;
     // These three arrays cross the tabs. A tab loads its elements and lays them out; the window attaches
-    // their handlers. Element 0 is of the entry, 1 of the quick picks.
+    // their handlers. Element 0 belongs to the entry, 1 to the quick picks.
     forms::ControlArray<forms::TextBox> txtNoOfTickets{"txtNoOfTickets"};       // 2 in frmPick4
     forms::ControlArray<forms::DatePicker> dtpEnterTickets{"dtpEnterTickets"};  // 2 check
     forms::ControlArray<forms::CommandButton> cmdExit{"cmdExit"};               // 2 check, 3 reports
 
   protected:
-    // Elements of the arrays stand in frames of the tabs, which are destroyed before the arrays: to be called
-    // before the first tab goes.
+    // Takes the elements of the arrays out of the frames of the tabs, which would destroy them. To be called
+    // before the first tab is destroyed.
     void TakeArraysOut();
 };
 

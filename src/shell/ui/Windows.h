@@ -1,4 +1,4 @@
-// The registry of the game windows: who is loaded, and who buries whom.
+// The registry of the game windows: which are loaded, and when they are destroyed.
 #pragma once
 
 #include <array>

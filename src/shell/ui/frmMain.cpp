@@ -100,7 +100,7 @@ std::function<void()> frmMain::HandlerOf(const MenuEntry& entry) {
 }
 
 void frmMain::Load() {
-    forms::Runtime::Current().Run([this] { Form_Load(); });
+    forms::Runtime::Current().Handle([this] { Form_Load(); });
 }
 
 void frmMain::Form_Load() {
@@ -128,7 +128,7 @@ void frmMain::Open(const Game& game) {
     windows_.ShowModal(window);
 }
 
-// What is open belongs to the routine that opened it, so that only the flags are left to be cleared.
+// The routine that opened something has closed it; only the flags are left to be cleared.
 void frmMain::cmdExit_Click() {
     run_.global.Open = {};
     end_();

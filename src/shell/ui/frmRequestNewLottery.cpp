@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <initializer_list>
+#include <utility>
 
 #include "forms/Keys.h"
 #include "forms/Look.h"
@@ -101,59 +102,12 @@ RequestForm frmRequestNewLottery::Filled() const {
 
 void frmRequestNewLottery::LayOut() {
     const int space = forms::Look::Space(*this), gap = forms::Look::Gap(*this);
-    const int margin = forms::Look::Margin(*this);
-    const int number = forms::Look::DigitsWidth(*this, 6);
+    const int margin = forms::Look::Margin(*this) * 2;
     for (forms::TextBox* field :
          {&txtNumberOfNumbers, &txtLow, &txtHigh, &txtNumberOfBonusTickets, &txtCostPerTicket})
-        field->setFixedWidth(number);
+        field->setFixedWidth(forms::Look::DigitsWidth(*this, 6));
     txtAdditionalInfo.setMinimumHeight(forms::Look::BallSize(*this) * 2);
-
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(gap);
-    grid->setVerticalSpacing(space);
-    int row = 0;
-    const auto add = [&](forms::Label& label, forms::Control& field, auto* content) {
-        label.SetBuddy(field);
-        grid->addWidget(&label, row, 0);
-        if constexpr (std::is_base_of_v<QWidget, std::remove_pointer_t<decltype(content)>>)
-            grid->addWidget(content, row++, 1);
-        else grid->addLayout(content, row++, 1);
-    };
-    add(lblNameOfLottery, txtNameOfLottery, &txtNameOfLottery);
-    add(lblCountry, txtCountry, &txtCountry);
-    add(lblProvinceState, txtProvinceState, &txtProvinceState);
-    add(lblNumberOfNumbers, txtNumberOfNumbers, Beside(space, {&txtNumberOfNumbers}));
-    lblLow.SetBuddy(txtLow);
-    lblHigh.SetBuddy(txtHigh);
-    add(lblRange, txtLow, Beside(space, {&lblLow, &txtLow, &lblHigh, &txtHigh}));
-
-    fraBonusNumber.setLayout(Beside(gap, {&optYesBonusNumber, &optNoBonusNumber}));
-    fraBonusTicket.setLayout(Beside(gap, {&optYesBonusTicket, &optNoBonusTicket}));
-    auto* questions = forms::Look::Row(*this);
-    questions->setSpacing(gap);
-    questions->addWidget(&fraBonusNumber, 1);
-    questions->addWidget(&fraBonusTicket, 1);
-
-    auto* money = new QGridLayout;
-    money->setHorizontalSpacing(gap);
-    money->setVerticalSpacing(space);
-    lblNumberOfBonusTickets.SetBuddy(txtNumberOfBonusTickets);
-    lblCostPerTicket.SetBuddy(txtCostPerTicket);
-    money->addWidget(&lblNumberOfBonusTickets, 0, 0);
-    money->addWidget(&txtNumberOfBonusTickets, 0, 2);
-    money->addWidget(&lblCostPerTicket, 1, 0);
-    money->addWidget(&lblDollarSign, 1, 1);
-    money->addWidget(&txtCostPerTicket, 1, 2);
-    money->setColumnStretch(3, 1);
-
     lblAdditionalInfo.SetBuddy(txtAdditionalInfo);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(space);
-    buttons->addWidget(&cmdClear);
-    buttons->addStretch(1);
-    buttons->addWidget(&cmdPrint);
-    buttons->addWidget(&cmdExit);
-
     if (forms::Look::IsNarrow(*this)) {
         lblText1.setWordWrap(true);
         lblText1.setMinimumWidth(forms::Look::DigitsWidth(*this, 50));
@@ -162,41 +116,89 @@ void frmRequestNewLottery::LayOut() {
     window->setContentsMargins(0, 0, 0, 0);
     window->addWidget(new forms::ScrollPage(form_));
     auto* whole = new QVBoxLayout(&form_);
-    whole->setContentsMargins(margin * 2, margin * 2, margin * 2, margin * 2);
+    whole->setContentsMargins(margin, margin, margin, margin);
     whole->setSpacing(space);
     whole->addWidget(&lblText1);
     whole->addWidget(&lblText2);
     whole->addSpacing(gap);
-    whole->addLayout(grid);
+    whole->addLayout(LotteryGrid());
     whole->addSpacing(space);
-    whole->addLayout(questions);
+    whole->addLayout(QuestionsRow());
     whole->addSpacing(space);
-    whole->addLayout(money);
+    whole->addLayout(MoneyGrid());
     whole->addSpacing(space);
     whole->addWidget(&lblAdditionalInfo);
     whole->addWidget(&txtAdditionalInfo, 1);
     whole->addSpacing(gap);
-    whole->addLayout(buttons);
+    whole->addLayout(ButtonsRow());
+}
+
+QLayout* frmRequestNewLottery::LotteryGrid() {
+    const int space = forms::Look::Space(*this);
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(forms::Look::Gap(*this));
+    grid->setVerticalSpacing(space);
+    int row = 0;
+    const auto label = [&](forms::Label& text, forms::Control& field) {
+        text.SetBuddy(field);
+        grid->addWidget(&text, row, 0);
+    };
+    for (const auto& [text, field] : {std::pair{&lblNameOfLottery, &txtNameOfLottery},
+                                      {&lblCountry, &txtCountry},
+                                      {&lblProvinceState, &txtProvinceState}}) {
+        label(*text, *field);
+        grid->addWidget(field, row++, 1);
+    }
+    label(lblNumberOfNumbers, txtNumberOfNumbers);
+    grid->addLayout(Beside(space, {&txtNumberOfNumbers}), row++, 1);
+    lblLow.SetBuddy(txtLow);
+    lblHigh.SetBuddy(txtHigh);
+    label(lblRange, txtLow);
+    grid->addLayout(Beside(space, {&lblLow, &txtLow, &lblHigh, &txtHigh}), row, 1);
+    return grid;
+}
+
+QLayout* frmRequestNewLottery::QuestionsRow() {
+    const int gap = forms::Look::Gap(*this);
+    fraBonusNumber.setLayout(Beside(gap, {&optYesBonusNumber, &optNoBonusNumber}));
+    fraBonusTicket.setLayout(Beside(gap, {&optYesBonusTicket, &optNoBonusTicket}));
+    auto* questions = forms::Look::Row(*this);
+    questions->setSpacing(gap);
+    questions->addWidget(&fraBonusNumber, 1);
+    questions->addWidget(&fraBonusTicket, 1);
+    return questions;
+}
+
+QLayout* frmRequestNewLottery::MoneyGrid() {
+    auto* money = new QGridLayout;
+    money->setHorizontalSpacing(forms::Look::Gap(*this));
+    money->setVerticalSpacing(forms::Look::Space(*this));
+    lblNumberOfBonusTickets.SetBuddy(txtNumberOfBonusTickets);
+    lblCostPerTicket.SetBuddy(txtCostPerTicket);
+    money->addWidget(&lblNumberOfBonusTickets, 0, 0);
+    money->addWidget(&txtNumberOfBonusTickets, 0, 2);
+    money->addWidget(&lblCostPerTicket, 1, 0);
+    money->addWidget(&lblDollarSign, 1, 1);
+    money->addWidget(&txtCostPerTicket, 1, 2);
+    money->setColumnStretch(3, 1);
+    return money;
+}
+
+QLayout* frmRequestNewLottery::ButtonsRow() {
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(forms::Look::Space(*this));
+    buttons->addWidget(&cmdClear);
+    buttons->addStretch(1);
+    buttons->addWidget(&cmdPrint);
+    buttons->addWidget(&cmdExit);
+    return buttons;
 }
 
 void frmRequestNewLottery::OrderTabs() {
-    QWidget* const order[] = {&txtNameOfLottery,
-                              &txtCountry,
-                              &txtProvinceState,
-                              &txtNumberOfNumbers,
-                              &txtLow,
-                              &txtHigh,
-                              &optYesBonusNumber,
-                              &optNoBonusNumber,
-                              &optYesBonusTicket,
-                              &optNoBonusTicket,
-                              &txtNumberOfBonusTickets,
-                              &txtCostPerTicket,
-                              &txtAdditionalInfo,
-                              &cmdClear,
-                              &cmdPrint,
-                              &cmdExit};
-    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+    forms::SetTabOrder({&txtNameOfLottery, &txtCountry, &txtProvinceState, &txtNumberOfNumbers, &txtLow,
+                        &txtHigh, &optYesBonusNumber, &optNoBonusNumber, &optYesBonusTicket,
+                        &optNoBonusTicket, &txtNumberOfBonusTickets, &txtCostPerTicket, &txtAdditionalInfo,
+                        &cmdClear, &cmdPrint, &cmdExit});
 }
 
 }  // namespace sorvane

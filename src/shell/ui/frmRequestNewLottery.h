@@ -14,6 +14,8 @@
 #include "shell/Global.h"
 #include "shell/RequestForm.h"
 
+class QLayout;
+
 namespace sorvane {
 
 class frmRequestNewLottery final : public forms::Window {
@@ -22,6 +24,10 @@ class frmRequestNewLottery final : public forms::Window {
 
   private:
     void LayOut();
+    QLayout* LotteryGrid();
+    QLayout* QuestionsRow();
+    QLayout* MoneyGrid();
+    QLayout* ButtonsRow();
     void OrderTabs();
     void AttachHandlers();
     void FilterKeys(forms::TextBox& field, bool (*accepts)(int key), std::string_view refusal);

@@ -1,0 +1,218 @@
+#include "checking/ui/CheckFlow.h"
+
+#include "checking/CheckFacts.h"
+#include "checking/ui/CheckTicketsTab.h"
+#include "forms/BusyPointer.h"
+#include "platform/Text.h"
+#include "shell/ui/GameFrame.h"
+#include "store/CheckTB_DBExists.h"
+#include "store/CreateTables.h"
+#include "store/StoreLedger.h"
+
+namespace sorvane {
+
+namespace {
+
+using namespace CheckFacts;
+
+StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
+
+}  // namespace
+
+void CheckFlow::cmdCheck_Click() {
+    if (!RunCheck()) return;
+    window_.run.global.EntryCounter = 0;
+    window_.run.global.NoRowForDate = Off;
+}
+
+bool CheckFlow::RunCheck() {
+    const Family family = window_.Which;
+    window_.run.global.EnteringWinnings = Off;
+    window_.State.WindowDate = window_.dtpEnterTickets(2).Value();
+    if (!DateHasCome()) return true;
+    if (ListsCleared[family] == Clearing::AfterDate) {
+        page_.lstMessage.Clear();
+        page_.lstNumbersPlayed.Clear();
+    }
+    if (AddOnTested[family] == AddOnTest::BeforeBoxes && !AddOnIsLongEnough()) return false;
+    if (!BoxesAreFilled()) return true;
+    if (ListsCleared[family] == Clearing::AfterBoxes) page_.ClearLists();
+    if (!StatOnly()) {
+        const AddOnTest when = AddOnTested[family];
+        if ((when == AddOnTest::AfterBoxes || when == AddOnTest::AfterLists) && !AddOnIsLongEnough())
+            return !TooShortEndsAtOnce[family];
+        if (ListsCleared[family] == Clearing::AfterAddOn) page_.ClearLists();
+        if (!ReadTickets()) return true;
+    }
+    StoreDraw();
+    if (!GoesOnToJudging()) return true;
+    const WinningBoxes boxes = page_.Boxes();
+    JudgeTickets(boxes);
+    CheckAddOn(boxes);
+    return true;
+}
+
+bool CheckFlow::StatOnly() const {
+    return KnowsStatUpdate[window_.Which] && window_.run.global.StatUpdate == On;
+}
+
+bool CheckFlow::DateHasCome() {
+    Run& run = window_.run;
+    if (window_.State.WindowDate <= run.services.clock.Today()) return true;
+    run.global.Msg = FutureText;
+    window_.MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
+    return false;
+}
+
+bool CheckFlow::Missing(std::string_view text, std::string_view title, forms::Control& box) {
+    window_.run.global.Msg = text;
+    window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
+    box.SetFocus();
+    return false;
+}
+
+bool CheckFlow::BoxesAreFilled() {
+    const Family family = window_.Which;
+    if (!BoxesRequired[family]) return true;
+    for (int i = 0; i < BoxCount[family]; ++i)
+        if (page_.MainText(i).empty())
+            return Missing(MissingText[family], MissingTitle[family], page_.MainBox(i));
+    return FourTested[family] != FourTest::Always || StatOnly() || FourAreFilled();
+}
+
+bool CheckFlow::FourAreFilled() {
+    for (int i = 0; i < CheckTicketsTab::FourBoxes; ++i)
+        if (page_.txtWin4(i).Text().empty())
+            return Missing(FourMissingText[window_.Which], CheckTitle, page_.txtWin4(i));
+    return true;
+}
+
+bool CheckFlow::AddOnIsLongEnough() {
+    const Family family = window_.Which;
+    const Global& g = window_.run.global;
+    if (StatOnly()) return true;
+    if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
+    if (ClearsEncoreListAtTest[family] && page_.lstEncorePlayed) page_.lstEncorePlayed->Clear();
+    if (FourTested[family] == FourTest::UnderExtra && g.ExtraFlag == "Extra") return FourAreFilled();
+    if (Len(page_.txtWinEncore->Text()) >= AddOnDigits(g.ExtraFlag)) return true;
+    return Missing(TooShortText(family, g.ExtraFlag), TooShortTitle[family], *page_.txtWinEncore);
+}
+
+bool CheckFlow::ReadTickets() {
+    WindowState& state = window_.State;
+    Run& run = window_.run;
+    if (const auto table = CheckTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    Read[window_.Which](run, At(state), page_.lstNumbersPlayed);
+    return run.global.NoRowForDate != On;
+}
+
+void CheckFlow::StoreDraw() {
+    WindowState& state = window_.State;
+    Run& run = window_.run;
+    if (const auto table = WinTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    if (ProbesWin[window_.Which])
+        MakeSureOf(run, state.DbName, state.TableName, [&] {
+            CreateWinKenoTable(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
+        });
+    Store[window_.Which](run, At(state), page_.Boxes());
+}
+
+bool CheckFlow::GoesOnToJudging() {
+    Global& g = window_.run.global;
+    if (RefusalStops[window_.Which] && g.RecheckRefused == True) {
+        g.RecheckRefused = Off;
+        g.RecheckAccepted = True;
+        return false;
+    }
+    if (!StatOnly()) return true;
+    if (g.RecheckAccepted != True) {
+        g.RecheckAccepted = True;
+        return false;
+    }
+    g.Msg = UpdatedText;
+    window_.MsgBox(g.Msg, BoxStyle::Ok, UpdatedTitle);
+    if (UpdateEmptiesBoxes[window_.Which]) page_.EmptyMainBoxes();
+    return false;
+}
+
+void CheckFlow::JudgeTickets(const WinningBoxes& boxes) {
+    const Family family = window_.Which;
+    Run& run = window_.run;
+    if (AlsoStore[family]) {
+        window_.State.TableName = AlsoWin[family];
+        AlsoStore[family](run, At(window_.State), boxes);
+    }
+    forms::BusyPointer busy;
+    const int rows = run.global.EntryCounter;
+    for (int Row = 0; Row < rows; ++Row) {
+        CheckFacts::Check[family](run, boxes, Row, page_.lstMessage);
+        if (AlsoCheck[family]) AlsoCheck[family](run, boxes, Row, page_.lstMessage);
+        busy.Tick();
+    }
+    window_.State.TicketRows = page_.lstNumbersPlayed.ListCount();
+    run.global.EntryCounter = 0;
+}
+
+void CheckFlow::CheckAddOn(const WinningBoxes& boxes) {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const AddOnPass* pass = FindAddOnPass(window_.Which, run.global.ExtraFlag);
+    if (!pass || !page_.lstEncorePlayed) return;
+    const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
+    state.TableName = addOn.Played;
+    pass->Read(run, At(state), *page_.lstEncorePlayed);
+    state.TableName = addOn.Win;
+    pass->Store(run, At(state), boxes);
+    forms::BusyPointer busy;
+    const int rows = run.global.EntryCounter;
+    for (int Row = 0; Row < rows; ++Row) {
+        pass->Check(run, boxes, Row, page_.lstMessage);
+        busy.Tick();
+    }
+}
+
+void CheckFlow::chkStatUpdate_Click() {
+    const bool on = page_.chkStatUpdate.Value() == 1;
+    window_.run.global.StatUpdate = on ? On : Off;
+    page_.cmdCheck.SetCaption(on ? "&Update" : "&Check");
+    const unsigned disables = StatDisables[window_.Which];
+    if (disables & StatControls::EarlyBird) page_.lblWinEarlybird->SetEnabled(!on);
+    if (disables & StatControls::Four)
+        page_.txtWin4.ForEach([on](forms::TextBox& box, int) { box.SetEnabled(!on); });
+    if (disables & StatControls::Encore) {
+        page_.lblWinEncore->SetEnabled(!on);
+        page_.txtWinEncore->SetEnabled(!on);
+    }
+}
+
+void CheckFlow::cmdEnterWinnings_Click() {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const bool probes = ProbesForWinnings[window_.Which];
+    run.global.EnteringWinnings = On;
+    run.global.TableOpened = Off;
+    state.WindowDate = window_.dtpEnterTickets(2).Value();
+    if (const auto table = WinningsTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    if (probes) MakeSureOfTable();
+    FindDrawEntry(run, At(state));
+    if (run.global.WinningsDrawFound == Off) return;
+    run.global.TableOpened = Off;
+    state.TableName = "Winnings";
+    if (probes) MakeSureOfTable();
+    run.global.Dollars = page_.txtDollarsWon.Text();
+    StoreLedgerAmount(run, At(state));
+    // The box comes in every case, also when nothing was stored: meant.
+    run.global.Msg = SavedText;
+    window_.MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
+}
+
+void CheckFlow::MakeSureOfTable() {
+    Run& run = window_.run;
+    WindowState& state = window_.State;
+    const Creator& played = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayed6Table;
+    const Creator& creator = state.TableName == "Winnings" ? CreateWinningsTable : played;
+    MakeSureOf(run, state.DbName, state.TableName,
+               [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+}
+
+}  // namespace sorvane
