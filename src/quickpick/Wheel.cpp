@@ -118,17 +118,16 @@ bool HasEnoughDraws(Run& run, const std::string& DbName, const std::string& Tabl
 constexpr std::string_view HotOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq] DESC";
 constexpr std::string_view ColdOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq]";
 
-void GenerateFrequencyWheel(Run& run, std::string_view order, const Integer& howMany,
-                            const std::string& DbName, std::string& TableName, const WheelWindow& window,
-                            const Integer& mode, const Integer& NumbersPerTicket,
-                            const Integer& wheelLength) {
+void GenerateFrequencyWheel(Run& run, std::string_view order, const WheelRun& wheel,
+                            const WheelWindow& window, const Integer& wheelLength) {
     Global& g = run.global;
-    if (!HasEnoughDraws(run, DbName, TableName)) return;
-    TallyByGameShape(run, NumbersPerTicket, DbName, TableName, window.chart, mode);
+    const Integer& howMany = wheel.HowManyToWheel;
+    if (!HasEnoughDraws(run, wheel.DbName, wheel.TableName)) return;
+    TallyByGameShape(run, wheel.NumbersPerTicket, wheel.DbName, wheel.TableName, window.chart, wheel.mode);
     Array<Integer> pool;
     pool.Redim(howMany);
-    BuildTempTable(run, DbName, TableName, g.BallFrequency.UBound(), g.BallFrequency);
-    Dao::Database Db = run.services.engine.OpenDatabase(DbName, g.Open);
+    BuildTempTable(run, wheel.DbName, wheel.TableName, g.BallFrequency.UBound(), g.BallFrequency);
+    Dao::Database Db = run.services.engine.OpenDatabase(wheel.DbName, g.Open);
     Dao::Recordset Rs = Db.OpenSql(order);
     if (Rs.RecordCount() > 0) {
         Rs.MoveFirst();
@@ -137,7 +136,7 @@ void GenerateFrequencyWheel(Run& run, std::string_view order, const Integer& how
             Rs.MoveNext();
         }
     }
-    DeleteAllRows(run, DbName, TableName);
+    DeleteAllRows(run, wheel.DbName, wheel.TableName);
     SortNumbers(g, pool);
     for (int i = 0; i < howMany; ++i) window.face.ShowFavourite(i, Str(pool(i)));
     WheelTickets(run, window, pool, wheelLength);
@@ -146,18 +145,14 @@ void GenerateFrequencyWheel(Run& run, std::string_view order, const Integer& how
 
 }  // namespace
 
-void GenerateHotWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
-                      const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
+void GenerateHotWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
                       const Integer& wheelLength) {
-    GenerateFrequencyWheel(run, HotOrder, howMany, DbName, TableName, window, mode, NumbersPerTicket,
-                           wheelLength);
+    GenerateFrequencyWheel(run, HotOrder, wheel, window, wheelLength);
 }
 
-void GenerateColdWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
-                       const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
+void GenerateColdWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
                        const Integer& wheelLength) {
-    GenerateFrequencyWheel(run, ColdOrder, howMany, DbName, TableName, window, mode, NumbersPerTicket,
-                           wheelLength);
+    GenerateFrequencyWheel(run, ColdOrder, wheel, window, wheelLength);
 }
 
 namespace {
@@ -208,8 +203,7 @@ void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& win
             window.face.EmptyFavourites();
             wheel.TableName = WinTableOfWheel;
             const auto generate = wheel.type == WheelType::Hot ? GenerateHotWheel : GenerateColdWheel;
-            generate(run, wheel.HowManyToWheel, wheel.DbName, wheel.TableName, window, wheel.mode,
-                     wheel.NumbersPerTicket, WheelLength);
+            generate(run, wheel, window, WheelLength);
         }
     }
 }

@@ -34,9 +34,7 @@ struct WheelWindow {
 // Indexes of optWheelType.
 enum class WheelType { Hot, Cold, Favourites, QuickPick };
 
-// What cmdGenerate of frm645 does. Sets Generating for the run and mode to 1; a run that is refused for a
-// missing favourite or for too little history, or that ends in an error, leaves Generating on. There is no
-// handler: errors of the wheel go to the caller.
+// What a wheel has from its window.
 struct WheelRun {
     WheelType type;
     const Integer& HowManyToWheel;
@@ -46,18 +44,20 @@ struct WheelRun {
     Integer& mode;
     Array<std::string>& QuickPicks;
 };
+
+// What cmdGenerate of frm645 does. Sets Generating for the run and mode to 1; a run that is refused for a
+// missing favourite or for too little history, or that ends in an error, leaves Generating on. There is no
+// handler: errors of the wheel go to the caller.
 void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& window);
 
-// Build the pool from the `howMany` numbers most (hot) or least (cold) often drawn, show it in the favourites
-// and wheel it. `TableName` names the win table and ends as "Temp". Fewer than 20 draws show "Not enough data
-// to generate Hot Numbers..." (title "Not Enough Data", the word Hot for both) and end. Equal frequencies
-// come in the order of their numbers. The table Temp is empty again before the tickets are made; Generating
-// ends as False, unless an error goes to the caller (9 from WheelTickets, or a store error of the query).
-void GenerateHotWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
-                      const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
-                      const Integer& wheelLength);
-void GenerateColdWheel(Run& run, const Integer& howMany, const std::string& DbName, std::string& TableName,
-                       const WheelWindow& window, const Integer& mode, const Integer& NumbersPerTicket,
+// Build the pool from the HowManyToWheel numbers most (hot) or least (cold) often drawn, show it in the
+// favourites and wheel it. TableName names the win table and ends as "Temp". Fewer than 20 draws show "Not
+// enough data to generate Hot Numbers..." (title "Not Enough Data", the word Hot for both) and end. Equal
+// frequencies come in the order of their numbers. The table Temp is empty again before the tickets are made;
+// Generating ends as False, unless an error goes to the caller (9 from WheelTickets, or a store error of the
+// query).
+void GenerateHotWheel(Run& run, const WheelRun& wheel, const WheelWindow& window, const Integer& wheelLength);
+void GenerateColdWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
                        const Integer& wheelLength);
 
 // Fills the table Temp, emptied first, with the numbers 1 to upperBound + 1 and their frequencies. TableName

@@ -62,7 +62,10 @@ template <auto generate>
 void Wheels(Desk& desk) {
     NoFace face;
     desk.run.global.Generating = true;
-    generate(desk.run, 7, desk.DbName, desk.state.TableName, {face, desk.list, desk.chart}, ReportMode, 6, 6);
+    Integer howMany = 7, numbers = 6, mode = ReportMode;
+    Array<std::string> unused;
+    generate(desk.run, {{}, howMany, numbers, desk.DbName, desk.state.TableName, mode, unused},
+             {face, desk.list, desk.chart}, 6);
 }
 
 template <Family family>

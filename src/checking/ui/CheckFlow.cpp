@@ -15,8 +15,6 @@ namespace {
 
 using namespace CheckFacts;
 
-StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
-
 }  // namespace
 
 void CheckFlow::cmdCheck_Click() {
@@ -102,7 +100,7 @@ bool CheckFlow::ReadTickets() {
     WindowState& state = window_.State;
     Run& run = window_.run;
     if (const auto table = CheckTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
-    Read[window_.Which](run, At(state), page_.lstNumbersPlayed);
+    Read[window_.Which](run, window_.At(), page_.lstNumbersPlayed);
     return run.global.NoRowForDate != On;
 }
 
@@ -114,7 +112,7 @@ void CheckFlow::StoreDraw() {
         MakeSureOf(run, state.DbName, state.TableName, [&] {
             CreateWinKenoTable(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
         });
-    Store[window_.Which](run, At(state), page_.Boxes());
+    Store[window_.Which](run, window_.At(), page_.Boxes());
 }
 
 bool CheckFlow::GoesOnToJudging() {
@@ -140,7 +138,7 @@ void CheckFlow::JudgeTickets(const WinningBoxes& boxes) {
     Run& run = window_.run;
     if (AlsoStore[family]) {
         window_.State.TableName = AlsoWin[family];
-        AlsoStore[family](run, At(window_.State), boxes);
+        AlsoStore[family](run, window_.At(), boxes);
     }
     forms::BusyPointer busy;
     const int rows = run.global.EntryCounter;
@@ -160,9 +158,9 @@ void CheckFlow::CheckAddOn(const WinningBoxes& boxes) {
     if (!pass || !page_.lstEncorePlayed) return;
     const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
     state.TableName = addOn.Played;
-    pass->Read(run, At(state), *page_.lstEncorePlayed);
+    pass->Read(run, window_.At(), *page_.lstEncorePlayed);
     state.TableName = addOn.Win;
-    pass->Store(run, At(state), boxes);
+    pass->Store(run, window_.At(), boxes);
     forms::BusyPointer busy;
     const int rows = run.global.EntryCounter;
     for (int Row = 0; Row < rows; ++Row) {
@@ -194,13 +192,13 @@ void CheckFlow::cmdEnterWinnings_Click() {
     state.WindowDate = window_.dtpEnterTickets(2).Value();
     if (const auto table = WinningsTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
     if (probes) MakeSureOfTable();
-    FindDrawEntry(run, At(state));
+    FindDrawEntry(run, window_.At());
     if (run.global.WinningsDrawFound == Off) return;
     run.global.TableOpened = Off;
     state.TableName = "Winnings";
     if (probes) MakeSureOfTable();
     run.global.Dollars = page_.txtDollarsWon.Text();
-    StoreLedgerAmount(run, At(state));
+    StoreLedgerAmount(run, window_.At());
     // The box comes in every case, also when nothing was stored: meant.
     run.global.Msg = SavedText;
     window_.MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);

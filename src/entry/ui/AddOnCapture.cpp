@@ -289,20 +289,18 @@ void AddOnCapture::SaveSheet() {
 
 void AddOnCapture::SaveNumbers() {
     const AddOn& addOn = *FindAddOn(g_.ExtraFlag);
-    WindowState& state = window_.State;
     // ExtraNo may still be that of the sheet before, when this one has no add-on.
     StoreAddOnTicket(addOn.CountedOnSheet && IsBought() ? int{g_.ExtraNo} : 0);
-    state.TableName = addOn.Played;
-    SaveAddOnTickets(window_.run, {state.DbName, state.TableName, state.WindowDate});
+    window_.State.TableName = addOn.Played;
+    SaveAddOnTickets(window_.run, window_.At());
     chkEncore->SetValue(0);
     txtEncore->SetText("");
 }
 
 void AddOnCapture::SaveExtra() {
-    WindowState& state = window_.State;
     StoreExtraTicket();
-    state.TableName = FindAddOn(g_.ExtraFlag)->Played;
-    SaveExtraTickets(window_.run, {state.DbName, state.TableName, state.WindowDate});
+    window_.State.TableName = FindAddOn(g_.ExtraFlag)->Played;
+    SaveExtraTickets(window_.run, window_.At());
     EmptyPlay4();
     HideExtra();
 }

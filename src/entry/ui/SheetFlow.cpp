@@ -19,8 +19,6 @@ namespace {
 
 constexpr std::string_view Confirmed = "CONFIRMED";
 
-StoreArgs At(WindowState& state) { return {state.DbName, state.TableName, state.WindowDate}; }
-
 }  // namespace
 
 void SheetFlow::TicketCountLeft(int Index) {
@@ -143,7 +141,7 @@ void SheetFlow::SaveSheet() {
     w.State.SavedDate = w.State.WindowDate;
     if (const auto table = PlayedTable(w.Which, g.LottoFlag)) w.State.TableName = *table;
     if (!StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
-    w.Enter.Capture().SaveSheet(At(w.State));
+    w.Enter.Capture().SaveSheet(w.At());
     if (!AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
     if (w.State.CurrentSheet < g.NoOfSheets) BeginNextSheet();
     else if (w.State.CurrentSheet == g.NoOfSheets) FinishEntry();
@@ -200,7 +198,7 @@ void SheetFlow::FinishEntry() {
 
 void SheetFlow::RecordSpending() {
     window_.State.TableName = "Spent";
-    StoreLedgerAmount(window_.run, At(window_.State));
+    StoreLedgerAmount(window_.run, window_.At());
 }
 
 void SheetFlow::OfferCleanUp(std::string_view title) {

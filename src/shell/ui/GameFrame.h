@@ -14,6 +14,7 @@
 #include "shell/Family.h"
 #include "shell/Global.h"
 #include "shell/WindowState.h"
+#include "store/StoreRoutine.h"
 
 namespace sorvane {
 
@@ -36,6 +37,9 @@ class GameFrame : public forms::Window {
     void Leave();
     // A box in front of whatever window is in front.
     Answer MsgBox(std::string_view text, int style = BoxStyle::Ok, std::string_view title = ProgramName);
+
+    // What the routines of the store get of the window: the table last named and the date in hand.
+    StoreArgs At() { return {State.DbName, State.TableName, State.WindowDate}; }
 
     const Family Which;
     Run& run;
