@@ -90,7 +90,7 @@ TEST_F(Sharing, OneCommitIsRefusedAfterASecondWhileAnotherWrites) {
     CreateWithDays({10});
     Database db = Open();
     other_.Do("BEGIN IMMEDIATE");
-    ExpectAboutASecond(SecondsOf([&] { EXPECT_EQ(ErrorOf([&] { db.OneCommit(); }), ErrorNumber::Locked); }));
+    ExpectLockedAfterASecond([&] { db.OneCommit(); });
     other_.Do("ROLLBACK");
     db.OneCommit();
     Recordset rs = db.OpenTable("Every");
