@@ -33,7 +33,12 @@ class ReadOnlyPlace {
         const auto change = on ? fs::perm_options::remove : fs::perm_options::add;
         const auto write = on ? fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write
                               : fs::perms::owner_write;
-        for (const auto& entry : fs::directory_iterator(folder_)) fs::permissions(entry, write, change);
+        constexpr auto Read = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+        for (const auto& entry : fs::directory_iterator(folder_)) {
+            // Somebody else must still be able to read what the program made for its own user.
+            fs::permissions(entry, Read, fs::perm_options::add);
+            fs::permissions(entry, write, change);
+        }
         fs::permissions(folder_, write, change);
         if (on) somebodyElse_.emplace();
         return true;
