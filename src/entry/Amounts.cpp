@@ -1,5 +1,6 @@
 #include "entry/Amounts.h"
 
+#include "entry/EntryFacts.h"
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
 
@@ -11,9 +12,8 @@ std::string DefaultAmount(Family family, std::string_view LottoFlag, int tickets
         const std::string half = (Currency::FromTenThousandths(Currency::Scale / 2) * tickets).ToText();
         return half + (tickets % 2 == 0 ? ".00" : "0");
     }
-    if (family == Family::frm749) return Str(2L * tickets) + ".00";
-    // The leading blank of the keno amount is meant.
-    return (family == Family::frmKeno70 ? " " : "") + Str(tickets) + ".00";
+    const long dollars = static_cast<long>(EntryFacts::TicketDollars[family]) * tickets;
+    return std::string(EntryFacts::AmountLead[family]) + Str(dollars) + ".00";
 }
 
 bool HasHalfWagers(std::string_view LottoFlag) { return CellsOf(LottoFlag).HalfWagers; }

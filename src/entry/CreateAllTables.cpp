@@ -10,6 +10,8 @@
 
 namespace sorvane {
 
+using namespace EntryFacts;
+
 namespace {
 
 struct TableName {

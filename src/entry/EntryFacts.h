@@ -8,7 +8,7 @@
 
 #include "shell/FamilyFacts.h"
 
-namespace sorvane {
+namespace sorvane::EntryFacts {
 
 // Where Enter in a field moves the focus.
 enum class Go { Stay, Extra, Make, Box0, List0 };
@@ -45,7 +45,8 @@ inline constexpr PerFamily<Go>   EnterInCount0      {{ Go::Extra, Go::Stay, Go::
 inline constexpr PerFamily<Go>   EnterInCount1      {{ Go::Extra, Go::Stay, Go::Make, Go::Make, Go::Make, Go::Stay, Go::Stay }};
 inline constexpr PerFamily<Go>   EnterInExtra       {{ Go::Box0, Go::Stay, Go::Stay, Go::Box0, Go::Stay, Go::List0, Go::Stay }};
 inline constexpr PerFamily<Cap>  ExtraLimit         {{ Cap::Sheet, Cap::Sheet, Cap::Ten, Cap::Sheet, Cap::None, Cap::Sheet, Cap::None }};
-inline constexpr PerFamily<std::string_view> PointAmount{{ "0.00", "0.00", "0.00", " 0.00", "0.00", "0.00", "0.00" }};
+inline constexpr PerFamily<int>  TicketDollars      {{ 1,     2,     1,     1,     1,     1,     1     }};  // of a game that is not half the price
+inline constexpr PerFamily<std::string_view> AmountLead{{ "", "",    "",    " ",   "",    "",    ""    }};  // before the amount at the count, and before that of a lone point: meant
 inline constexpr PerFamily<bool> EmptyCountBecomesZero{{ no,  yes,   no,    no,    no,    no,    no    }};  // before the amount is reckoned; the others stay empty
 inline constexpr PerFamily<bool> CountOpensGrid     {{ yes,   yes,   yes,   no,    yes,   no,    no    }};
 inline constexpr PerFamily<bool> NotSavedReloads    {{ yes,   yes,   yes,   yes,   no,    yes,   no    }};
@@ -64,4 +65,4 @@ inline constexpr PerFamily<Keys> Creates            {{ ButWestern, Every, Encore
 inline constexpr PerFamily<Keys> Cleans             {{ Every, Every, Every, EncoreAlone, EncoreAlone, Every, Every }};
 // clang-format on
 
-}  // namespace sorvane
+}  // namespace sorvane::EntryFacts

@@ -21,6 +21,5 @@ void MultiLineBox::SetFixedPitch() {
     setFont(Look::FixedFont());
     setLineWrapMode(NoWrap);
 }
-void MultiLineBox::SetCaretToEnd() { moveCursor(QTextCursor::End); }
 
 }  // namespace sorvane::forms

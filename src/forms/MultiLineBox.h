@@ -19,8 +19,6 @@ class MultiLineBox : public KeyFilter<QPlainTextEdit>, public Control {
     void SetReadOnly(bool readOnly);
     // A font whose characters are all of one width; lines are not wrapped then.
     void SetFixedPitch();
-    // Puts the caret behind the last character.
-    void SetCaretToEnd();
 
   private:
     std::function<void()> change_;

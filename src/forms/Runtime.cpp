@@ -121,10 +121,9 @@ Runtime::Hold::Hold() : level_(Current().levels_.back()) { ++level_.hold; }
 
 Runtime::Hold::~Hold() { Release(); }
 
-bool Runtime::Hold::Release() {
-    if (std::exchange(released_, true) || --level_.hold > 0) return false;
+void Runtime::Hold::Release() {
+    if (std::exchange(released_, true) || --level_.hold > 0) return;
     if (std::exchange(level_.held, false)) Current().Settle();
-    return true;
 }
 
 Runtime::Modal::Modal(QWidget* window) {

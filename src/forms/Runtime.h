@@ -70,8 +70,8 @@ class Runtime {
         ~Hold();
         Hold(const Hold&) = delete;
         Hold& operator=(const Hold&) = delete;
-        // Settles now if this is the outermost; true in that case.
-        bool Release();
+        // Settles now if this is the outermost.
+        void Release();
 
       private:
         Level& level_;

@@ -16,7 +16,8 @@ class TabStrip::Change {
   public:
     explicit Change(TabStrip& tabs) : tabs_(tabs), before_(tabs.currentIndex()) {}
     ~Change() {
-        if (hold_.Release() && tabs_.currentIndex() != before_) Fire(tabs_.click_);
+        hold_.Release();
+        if (tabs_.currentIndex() != before_) Fire(tabs_.click_);
     }
     Change(const Change&) = delete;
     Change& operator=(const Change&) = delete;

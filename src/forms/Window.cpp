@@ -112,7 +112,7 @@ void Window::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!Runtime::Current().IsInFront(*this)) return;
     if (!closeButton_) Unload();
-    else if (closeButton_->isEnabled()) closeButton_->click();
+    else closeButton_->click();  // does nothing while it is disabled
 }
 
 void Window::keyPressEvent(QKeyEvent* event) {

@@ -7,7 +7,7 @@
 
 #include "shell/Family.h"
 
-namespace sorvane {
+namespace sorvane::QuickPickFacts {
 
 // Where the accepted value of txtHowMany goes.
 enum class HowMany { NoOfTickets, HowManyToWheel, Nowhere };
@@ -28,7 +28,6 @@ inline constexpr int WheelSizeElse = 1000;
 inline constexpr PerFamily<bool> WheelFrame       {{ true,  true,  true,  true,  true,  false, false }};
 inline constexpr PerFamily<bool> WheelLive        {{ false, false, true,  false, false, false, false }};  // the others show the frame and generate at random: meant
 inline constexpr PerFamily<int>  WheelLowest      {{ 7,     8,     7,     0,     0,     0,     0     }};  // of txtHowMany; 0: no lower bound
-inline constexpr PerFamily<int>  FavsLimit        {{ 49,    49,    45,    70,    80,    0,     0     }};
 inline constexpr PerFamily<bool> EmptyFavAsks     {{ true,  true,  false, true,  true,  false, false }};
 inline constexpr PerFamily<HowMany> HowManyGoesTo {{ HowMany::NoOfTickets, HowMany::NoOfTickets, HowMany::HowManyToWheel, HowMany::NoOfTickets, HowMany::NoOfTickets, HowMany::Nowhere, HowMany::Nowhere }};
 inline constexpr PerFamily<const WheelSizeRows*> WheelSizes{{ &SixNumberWheels, &SevenNumberWheels, &SixNumberWheels, nullptr, nullptr, nullptr, nullptr }};
@@ -43,4 +42,4 @@ constexpr int WheelSizeOf(Family family, std::string_view text) {
     return WheelSizeElse;
 }
 
-}  // namespace sorvane
+}  // namespace sorvane::QuickPickFacts

@@ -8,6 +8,8 @@
 
 namespace sorvane {
 
+using namespace ReportFacts;
+
 void ChartDigits(Run& run, const ReportArgs& args, ChartFace& chart) {
     run.global.PositionCounts = {};
     args.mode = ChartMode;

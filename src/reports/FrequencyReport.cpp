@@ -4,6 +4,8 @@
 
 namespace sorvane {
 
+using namespace ReportFacts;
+
 void ChartFrequency(Run& run, const ReportArgs& args, ChartFace& chart) {
     if (!Tally[args.family]) return;
     args.mode = ChartMode;

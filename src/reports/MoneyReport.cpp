@@ -6,6 +6,8 @@
 
 namespace sorvane {
 
+using namespace ReportFacts;
+
 namespace {
 
 constexpr std::string_view TotalPicture = "###,###,##0.00";

@@ -10,7 +10,7 @@
 #include "reports/DisplayData.h"
 #include "shell/Family.h"
 
-namespace sorvane {
+namespace sorvane::ReportFacts {
 
 using TallyRoutine = void (*)(Run& run, const std::string& DbName, const std::string& TableName,
                               ChartFace& chart, const Integer& mode);
@@ -26,7 +26,6 @@ inline constexpr int NotSized = -1;
 inline constexpr PerFamily<TallyRoutine> Tally     {{ TallySixNumberFrequency, TallySevenNumberFrequency, TallySixNumberFrequency, TallyKenoFrequency, nullptr, TallyPick3Digits, TallyPick4Digits }};  // keno 80 has none
 inline constexpr PerFamily<int>  LastRow           {{ 48,    46,    44,    69,    -1,    -1,    -1    }};  // of the number report; Super 7 leaves 48 and 49 off
 inline constexpr PerFamily<int>  NumbersUpper      {{ 49,    NotSized, 44, 70,    NotSized, 3,  3     }};  // Numbers as cmdReport sizes it; the digit games only when their table is missing
-inline constexpr PerFamily<int>  ChartRows         {{ 49,    49,    45,    70,    80,    10,    10    }};
 inline constexpr PerFamily<std::string_view> ChartTitle{{ "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency by Position", "Number Frequency by Position" }};
 inline constexpr PerFamily<std::string_view> ChartAxis {{ "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers", "Numbers" }};
 inline constexpr PerFamily<std::span<const std::string_view>> ChartSeries{{ FrequencySeries, FrequencySeries, FrequencySeries, FrequencySeries, FrequencySeries, Pick3Series, PositionSeries }};
@@ -73,4 +72,4 @@ inline constexpr MoneyWindow AllGamesMoney{false,
                                            &Global::AllSpentLines,
                                            &Global::AllWonLines};
 
-}  // namespace sorvane
+}  // namespace sorvane::ReportFacts

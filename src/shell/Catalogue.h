@@ -62,7 +62,7 @@ struct GameKey {
     bool HasEarlyBird = false;             // a second draw; each ticket tells whether it takes part
     bool ClearsLastGrid = false;           // the grid of a sheet's last ticket is cleared, too
     bool CheckLiveAtCount = false;         // accepting the count of tickets enables chkEncore
-    bool FillsLists = false;               // keno 70: the lists of balls and wagers have entries
+    bool FillsLists = false;               // keno: the lists of balls and wagers have entries
     bool PaysPrizes = false;               // keno: there is a prize table; else a check only counts
     bool EncoreByGame = false;             // keno 70: Encore is asked by the game, not by the add-on key
     bool HalfWagers = false;               // digit games: an option means the wager doubled
@@ -98,7 +98,10 @@ struct AddOn {
     int Digits = 6;               // of the number: asked for, kept and read back
     bool FourNumbers = false;     // txtPlay4 and txtWin4 hold it; else a number of digits
     bool CountedOnSheet = false;  // as many tickets as txtNoOfExtra says; else one, by chkEncore
+    bool BoundToSheet = false;    // not more of them than tickets on the sheet
 
+    // txtEncore takes a number for each ticket counted.
+    constexpr bool NumbersInTurn() const { return CountedOnSheet && !FourNumbers; }
     // Of its tables: 1 digits of a number, 4 four numbers.
     constexpr int ShapeCode() const { return FourNumbers ? 4 : 1; }
 };

@@ -10,6 +10,8 @@
 #include "support/FaultVfs.h"
 
 namespace sorvane {
+
+using namespace ReportFacts;
 namespace {
 
 using Operation = FaultVfs::Operation;

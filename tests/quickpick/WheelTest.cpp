@@ -13,6 +13,8 @@
 #include "support/World.h"
 
 namespace sorvane {
+
+using namespace QuickPickFacts;
 namespace {
 
 using testing::RecordingChart;

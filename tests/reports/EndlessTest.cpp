@@ -18,6 +18,8 @@
 #include "reports/ReportWorld.h"
 
 namespace sorvane {
+
+using namespace ReportFacts;
 namespace {
 
 using testing::ReportWorld;

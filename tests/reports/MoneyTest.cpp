@@ -8,6 +8,8 @@
 #include "reports/ReportWorld.h"
 
 namespace sorvane {
+
+using namespace ReportFacts;
 namespace {
 
 using testing::Crlf;

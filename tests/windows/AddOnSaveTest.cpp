@@ -145,6 +145,28 @@ TEST_F(AddOnWindow, OneNumberASheetIsTakenBackForTheNextSheet) {
     EXPECT_EQ(CountOf("PlayedQCExtra"), "1");
 }
 
+TEST_F(AddOnWindow, AfterTheLastSheetTheCountOfExtraTicketsIsNoughtAgain) {
+    EnterTicket("mnuCANBCBC49", "1");
+    Click("cmdNext_Ticket");
+    PutPlay4("1", "2", "3", "4");
+    SaveSheet(true);
+    const AddOnCapture& addOns = Window().Enter.AddOns;
+    EXPECT_EQ(addOns.txtNoOfExtra->Text(), "0");
+    EXPECT_EQ(addOns.txtPlay4(0).Text(), "");
+}
+
+TEST_F(AddOnWindow, AfterTheLastSheetAnAddOnThatTheWindowDoesNotSaveIsTakenBack) {
+    Show(Family::frm649, "Lotto649", "WESTExtra");
+    Click("chkEncore");
+    OneSheet(1);
+    TickSix();
+    SaveSheet(true);
+    const AddOnCapture& addOns = Window().Enter.AddOns;
+    EXPECT_EQ(addOns.chkEncore->Value(), 0);
+    EXPECT_EQ(addOns.txtEncore->Text(), "");
+    EXPECT_EQ(global.NoOfExtra, 0);
+}
+
 TEST_F(AddOnWindow, ACheckTickedAndClearedWritesNoRow) {
     EnterTicket("mnuCANQCLotto649");
     Click("chkEncore");

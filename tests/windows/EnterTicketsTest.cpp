@@ -1,4 +1,6 @@
 // The first tab of the game window: what it shows at load, its filters, the money, the tabs and the ways out.
+#include <QAccessible>
+
 #include "support/Games.h"
 #include "windows/Slip.h"
 
@@ -195,6 +197,19 @@ TEST_F(EnterTickets, MoneyThatStartsWithAPointBecomesNoughtWithTheMessage) {
                   Answer::Ok, BoxStyle::Ok, [this] { EXPECT_EQ(Window().Enter.txtDollars.Text(), "0.00"); });
     person.Tab();
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
+}
+
+TEST_F(EnterTickets, AnAssistiveToolThatEmptiesTheAmountBringsTheFocusToIt) {
+    Show("mnuCANBCBC49");
+    OneSheet(1);
+    ASSERT_EQ(TextOf("txtDollars"), "0.50");
+    ASSERT_NE(Focus(), "txtDollars");
+    QAccessibleInterface* field = QAccessible::queryAccessibleInterface(&Find("txtDollars"));
+    ASSERT_TRUE(field && field->editableTextInterface());
+    field->editableTextInterface()->deleteText(0, 4);
+    EXPECT_EQ(TextOf("txtDollars"), "0.00");
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(Focus(), "txtDollars");
 }
 
 TEST_F(EnterTickets, MoneyTypedIsTheAmountOfTheEntry) {

@@ -39,6 +39,18 @@ TEST_F(Winnings, ADateWithoutTicketsIsRefusedWithTheNumberNought) {
     EXPECT_EQ(CountOf("Winnings"), "0");
 }
 
+TEST_F(Winnings, ARefusedEntryForgetsTheTableOpenedBefore) {
+    Open("mnuCANBCBC49");
+    TicketOfBC49();
+    Window().dtpEnterTickets(2).SetValue(Date::FromText("2006-03-10"));
+    ASSERT_EQ(global.TableOpened, Off);
+    global.TableOpened = On;  // as a report leaves it
+    person.Expect("ERROR!",
+                  "ERROR #0\r\nNo entry for this Draw Date. Please check the Draw Date\r\nand try again.");
+    Enter("5");
+    EXPECT_EQ(global.TableOpened, Off);
+}
+
 TEST_F(Winnings, LettersOrNothingAreAConversionFailureAndTheBoxComesAllTheSame) {
     Open("mnuCANBCBC49");
     TicketOfBC49();

@@ -159,6 +159,45 @@ TEST_F(LottoCaptureTest, SuperSevenOffersNoFortyEightAndNoFortyNineOnceDressed) 
     EXPECT_EQ(Next(), "&Bonus Tickets");
 }
 
+TEST_F(LottoCaptureTest, AClickOnAGridOpenedAgainBeforeTheBonusTicketsTakesTheMarkOutOfReach) {
+    Show("mnuCANBCSuper7");
+    OneSheet(1);
+    PickFrom(1, 7);
+    ASSERT_EQ(Next(), "&Bonus Tickets");
+    Count("1");  // accepted once more, which opens the grid
+    ASSERT_TRUE(GridIsOpen());
+    ASSERT_TRUE(IsEnabled("chkRegular"));
+    Click(Ball(7));
+    EXPECT_FALSE(IsEnabled("chkRegular"));
+}
+
+TEST_F(LottoCaptureTest, ACountOnTheQuickPickTabBringsLottariosBonusTicketsForward) {
+    Show("mnuCANONTLOTTARIO");
+    OneSheet(3);
+    person.ClickTab("&Quick");
+    Put("txtNoOfTickets(1)", "5");  // of the six tickets of the sheet five count as entered
+    person.ClickTab("&Enter");
+    PickFrom(1, 6);
+    EXPECT_EQ(global.TicketNo, 1);
+    EXPECT_EQ(Next(), "&Bonus Tickets");
+    EXPECT_EQ(Window().State.BonusPhase, On);
+}
+
+TEST_F(LottoCaptureTest, ReEnteringATicketOfTheBonusGamesLowersTheTicketsOfTheEntryAndEndsAtOnce) {
+    const std::pair<const char*, int> games[] = {{"mnuCANBCSuper7", 7}, {"mnuCANONTLOTTARIO", 6}};
+    for (const auto& [menu, numbers] : games) {
+        Show(menu);
+        OneSheet(2);
+        PickFrom(1, numbers);
+        Click("cmdCorrection");
+        EXPECT_EQ(global.TotalTickets, 1) << menu;
+        EXPECT_EQ(global.TicketNo, 0) << menu;
+        EXPECT_EQ(global.NumbersPicked, 0) << menu;
+        EXPECT_EQ(global.Correcting, Off) << menu;
+        Window().Leave();
+    }
+}
+
 TEST_F(LottoCaptureTest, WithoutASheetATicketOfTheBonusGamesLeadsNowhereEither) {
     const std::pair<const char*, int> games[] = {{"mnuCANBCSuper7", 7}, {"mnuCANONTLOTTARIO", 6}};
     for (const auto& [menu, numbers] : games) {

@@ -1,4 +1,5 @@
 // Sheet by sheet: the count, the two questions, saving, cancel, and leaving half-way.
+#include "entry/ui/CountDialogs.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -326,6 +327,25 @@ TEST_F(SheetFlowTest, AFailedSaveStillSaysTicketsSavedAndTheEntryGoesOn) {
     person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
     Click("cmdSave");
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
+}
+
+TEST_F(SheetFlowTest, WithoutSheetsTheQuestionForTheTicketsOfOneTakesAllThatAreLeft) {
+    global.NoOfTickets = global.TotalTickets = 3;
+    for (const int sheets : {2, 0}) {
+        global.NoOfSheets = sheets;
+        frmTicketsOnSheet question(run);
+        person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
+            Type("txtNoOfTicketsOnSheet", "3");
+            if (sheets > 0)
+                person.Expect("ERROR!",
+                              "You have entered an amount which doesn't allow enough tickets for your last "
+                              "sheet.\r\nPlease select a new amount and Click on 'OK' again.");
+            Click("cmdOk");
+            if (sheets > 0) Click("cmdCancel");
+        });
+        windows.ShowModal(question);
+        EXPECT_EQ(global.NoOfTicketsOnSheet, 3);
+    }
 }
 
 TEST_F(SheetFlowTest, CancelAsksAndStartsOverWithoutTouchingTheStore) {

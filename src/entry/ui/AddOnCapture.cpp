@@ -9,6 +9,8 @@
 
 namespace sorvane {
 
+using namespace EntryFacts;
+
 namespace {
 
 constexpr int ShortestEncore = 6;
@@ -123,7 +125,7 @@ void AddOnCapture::txtNoOfExtra_LostFocus() {
 
 void AddOnCapture::TakeCount() {
     const std::string text = txtNoOfExtra->Text();
-    if (g_.ExtraFlag == "Extra" && !text.empty() && CDbl(text) > g_.NoOfTicketsOnSheet) {
+    if (AddOnOf(g_.ExtraFlag).BoundToSheet && !text.empty() && CDbl(text) > g_.NoOfTicketsOnSheet) {
         g_.Msg = "Too many Extra tickets entered. Please enter a value less than" + g_.NL +
                  "or equal to the number of Tickets on this sheet.";
         window_.MsgBox(g_.Msg, BoxStyle::Ok, ErrorTitle);
@@ -132,11 +134,11 @@ void AddOnCapture::TakeCount() {
     }
     if (txtNoOfExtra->Text().empty()) EmptyCount();
     g_.NoOfExtra = Count();
-    if (g_.ExtraFlag == "Encore") g_.AddOnTickets.Redim(g_.NoOfExtra);
+    if (AddOnOf(g_.ExtraFlag).NumbersInTurn()) g_.AddOnTickets.Redim(g_.NoOfExtra);
 }
 
 void AddOnCapture::TakeLottarioCount() {
-    if (g_.LottoFlag != "Lottario") return;
+    if (!FindKey(window_.Which, g_.LottoFlag)) return;
     if (txtNoOfExtra->Text().empty()) EmptyCount();
     if (CDbl(txtNoOfExtra->Text()) > MostLottarioEncores) {
         window_.MsgBox("Maximum number of 10 Encore Tickets per Sheet. Please try again.", BoxStyle::Ok,
@@ -174,8 +176,7 @@ void AddOnCapture::txtEncore_LostFocus() {
         txtEncore->SetFocus();
         return;
     }
-    if (EveryEncoreGoesOn[window_.Which] || g_.ExtraFlag == "Encore" || g_.ExtraFlag == "Extra")
-        NumberComplete();
+    if (EveryEncoreGoesOn[window_.Which] || AddOnOf(g_.ExtraFlag).CountedOnSheet) NumberComplete();
 }
 
 void AddOnCapture::txtPlay4_LostFocus(int Index) {
@@ -203,8 +204,9 @@ void AddOnCapture::NumberComplete() {
 void AddOnCapture::ShowTitle(std::string_view kind) { window_.Enter.ShowTitle(kind, g_.ExtraNo + 1); }
 
 bool AddOnCapture::OfferPhase() {
-    const bool extra = g_.ExtraFlag == "Extra" && HasPlay4[window_.Which];
-    if ((!extra && g_.ExtraFlag != "Encore") || Count() <= 0) return false;
+    const AddOn& addOn = AddOnOf(g_.ExtraFlag);
+    const bool extra = addOn.FourNumbers && HasPlay4[window_.Which];
+    if ((!extra && !addOn.NumbersInTurn()) || Count() <= 0) return false;
     window_.Enter.cmdNext_Ticket.SetCaption(extra ? AddOnCaption::EnterExtra : AddOnCaption::EnterEncore);
     window_.Enter.cmdNext_Ticket.SetEnabled(true);
     ShowTitle(extra ? AddOnCaption::ExtraTitle : AddOnCaption::EncoreTitle);
@@ -307,7 +309,7 @@ void AddOnCapture::SaveExtra() {
 
 void AddOnCapture::ClearAfterLastSheet() {
     if (!HasPlay4[window_.Which]) return;
-    if (g_.ExtraFlag == "Extra") {
+    if (AddOnOf(g_.ExtraFlag).FourNumbers) {
         EmptyCount();
         EmptyPlay4();
     } else {

@@ -4,12 +4,12 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "entry/EntryFacts.h"
 #include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
+#include "shell/FamilyFacts.h"
 
 namespace sorvane {
 
@@ -170,7 +170,7 @@ void DigitCapture::TicketComplete() {
     tab.cmdCorrection.SetEnabled(true);
     tab.cmdNext_Ticket.SetFocus();
     if (g_.TicketNo != g_.NoOfTicketsOnSheet) return;
-    if (g_.ExtraFlag == "Encore" && tab.AddOns.CountIsAboveZero()) {
+    if (AddOnOf(g_.ExtraFlag).NumbersInTurn() && tab.AddOns.CountIsAboveZero()) {
         tab.cmdNext_Ticket.SetCaption(AddOnCaption::EnterEncore);
         return;
     }

@@ -14,6 +14,8 @@
 
 namespace sorvane {
 
+using namespace EntryFacts;
+
 namespace {
 
 constexpr int CountDigits = 5;
@@ -250,7 +252,7 @@ void EnterTicketsTab::txtDollars_LostFocus() {
     Integer& points = window_.State.DecimalCount;
     points = 0;
     if (txtDollars.Text().starts_with('.')) {
-        txtDollars.SetText(PointAmount[window_.Which]);
+        txtDollars.SetText(std::string(AmountLead[window_.Which]).append(NoDollars));
         points = 1;
     }
     const std::string text = txtDollars.Text();

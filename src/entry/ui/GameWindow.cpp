@@ -10,6 +10,8 @@
 
 namespace sorvane {
 
+using namespace EntryFacts;
+
 GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
     : GameFrame(family, run_, windows_),
       Enter(*this),

@@ -2,11 +2,11 @@
 
 #include <QHBoxLayout>
 
-#include "entry/EntryFacts.h"
 #include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -68,7 +68,7 @@ void KenoCapture::AddToTabOrder(std::vector<QWidget*>& order) {
 void KenoCapture::Load() {
     LottoCapture::Load();
     aTicketIsStored_ = false;
-    if (g_.LottoFlag != "ONTKeno" && g_.LottoFlag != "ATLChoice") return;  // Banco's lists stay empty
+    if (!CellsOf(g_.LottoFlag).FillsLists) return;
     FillBalls(cboNoOfBallsPerTicket);
     FillBalls(*window_.QuickPick.cboNoOfQPs);
     cboWager.Clear();
@@ -131,7 +131,7 @@ void KenoCapture::Next() {
     ShowTicketTitle();
     if (!IsKeno70()) return;
     cboWager.SetFocus();
-    if (addOns.Count() > 0 && g_.LottoFlag == "ONTKeno" && g_.TicketNo == g_.NoOfTicketsOnSheet) {
+    if (addOns.Count() > 0 && CellsOf(g_.LottoFlag).EncoreByGame && g_.TicketNo == g_.NoOfTicketsOnSheet) {
         addOns.lblExtra->SetCaption("Encore Numbers");
         addOns.ShowEncore();
     }

@@ -3,11 +3,11 @@
 #include <QBoxLayout>
 
 #include "entry/Amounts.h"
-#include "entry/EntryFacts.h"
 #include "entry/SaveData.h"
 #include "entry/ui/GameWindow.h"
 #include "platform/Text.h"
 #include "shell/Catalogue.h"
+#include "shell/FamilyFacts.h"
 
 namespace sorvane {
 
@@ -214,8 +214,7 @@ void BonusCapture::BeforeCorrection() {
 void BonusCapture::Correct() {
     if (g_.TotalTickets > 0) g_.TotalTickets -= 1;
     LottoCapture::Correct();
-    g_.NumbersPicked = 0;
-    g_.Correcting = Off;
+    g_.Correcting = Off;  // at once; the clearing of the grid counted nothing
 }
 
 void BonusCapture::SaveSheet(const StoreArgs& at) { SaveLotto7Tickets(window_.run, at); }

@@ -15,6 +15,8 @@
 
 namespace sorvane {
 
+using namespace EntryFacts;
+
 namespace {
 
 constexpr std::string_view Confirmed = "CONFIRMED";

@@ -15,6 +15,8 @@
 
 namespace sorvane {
 
+using namespace QuickPickFacts;
+
 namespace {
 
 constexpr int CountDigits = 5;

@@ -9,9 +9,12 @@
 #include "forms/Look.h"
 #include "platform/Text.h"
 #include "quickpick/QuickPickFacts.h"
+#include "shell/FamilyFacts.h"
 #include "shell/ui/GameFrame.h"
 
 namespace sorvane {
+
+using namespace QuickPickFacts;
 
 namespace {
 
@@ -210,7 +213,7 @@ void WheelControls::txtFavs_KeyPress(int Index, forms::KeyPress& key) {
 void WheelControls::txtFavs_LostFocus(int Index) {
     const Family family = window_.Which;
     forms::TextBox& box = txtFavs(Index);
-    const int number = NumberIn(box), limit = FavsLimit[family];
+    const int number = NumberIn(box), limit = FamilyFacts::HighestNumber[family];
     if (number > limit) {
         window_.MsgBox("Number cannot be greater than " + Str(limit) +
                            ". Please enter a new number less than or equal to " + Str(limit) + ".",

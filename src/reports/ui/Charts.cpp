@@ -4,6 +4,8 @@
 
 namespace sorvane {
 
+using namespace ReportFacts;
+
 void EmptyMoneyChart(forms::Chart& chart, const MoneyCaptions& captions) {
     chart.SetTitle(captions.title);
     chart.SetAxes(captions.bars, MoneyAxis);

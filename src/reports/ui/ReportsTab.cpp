@@ -13,10 +13,13 @@
 #include "reports/ReportFacts.h"
 #include "reports/ui/ReportLayout.h"
 #include "reports/ui/frmReportType.h"
+#include "shell/FamilyFacts.h"
 #include "shell/ui/GameFrame.h"
 #include "shell/ui/Windows.h"
 
 namespace sorvane {
+
+using namespace ReportFacts;
 
 namespace {
 // About how fast a report is printed, for the busy pointer.
@@ -44,15 +47,15 @@ void ReportsTab::CaptionNumberChart() {
     const auto series = ChartSeries[family];
     mscNumberFrequency.SetTitle(ChartTitle[family]);
     mscNumberFrequency.SetAxes(ChartAxis[family], FrequencyAxis);
-    mscNumberFrequency.SetRowCount(ChartRows[family]);
+    mscNumberFrequency.SetRowCount(FamilyFacts::CountOfNumbers(family));
     mscNumberFrequency.SetColumnCount(static_cast<int>(series.size()));
     for (std::size_t i = series.size(); i-- > 0;) {
         mscNumberFrequency.SetColumn(static_cast<int>(i) + 1);
         mscNumberFrequency.SetColumnLabel(series[i]);
     }
-    const int first = IsPick(family) ? 0 : 1;  // digits begin at 0
     std::vector<std::string> labels;
-    for (int row = 0; row < ChartRows[family]; ++row) labels.push_back(Str(first + row));
+    for (int n = FamilyFacts::LowestNumber[family]; n <= FamilyFacts::HighestNumber[family]; ++n)
+        labels.push_back(Str(n));
     mscNumberFrequency.SetRowLabels(labels);
 }
 

@@ -8,6 +8,8 @@
 
 namespace sorvane {
 
+using namespace ReportFacts;
+
 frmReport::frmReport(Run& run) : Window("frmReport"), run_(run) {
     SetCaption(AllCaption);
     SetCloseButton(cmdExit);

@@ -5,6 +5,7 @@
 
 #include "forms/Look.h"
 #include "reports/ReportTypes.h"
+#include "shell/Catalogue.h"
 
 namespace sorvane {
 
@@ -23,8 +24,7 @@ frmReportType::frmReportType(Run& run) : Window("frmReportType") {
     });
     SetFirstFocus(optReportType(0));
     LayOut();
-    // Four digits have no triples.
-    if (run.global.LottoFlag == "FLAPlay4") optReportType(1).SetVisible(false);
+    if (!CellsOf(run.global.LottoFlag).HasTriples) optReportType(1).SetVisible(false);
 }
 
 void frmReportType::LayOut() {
