@@ -155,7 +155,7 @@ void BuildPerms(Array<Integer>& WinPerms, const std::array<Integer, N>& digits) 
     }
 }
 
-// Three names of one rule: a straight hit is not told apart from one in another order.
+// Three names for one rule: a straight hit counts like one in any other order.
 bool PaysAnyOrder(const std::string& PlayOption) {
     return PlayOption == "Box" || PlayOption == "StraightBox" || PlayOption == "Combo";
 }
@@ -211,8 +211,8 @@ using Ladders::DigitLadder;
 using Ladders::DigitTier;
 using Ladders::Match;
 
-// A played add-on number beside the drawn one. The values of the first and the last column stand apart from
-// the text: a number that was not played is 99 in each column, two characters in the text.
+// A played add-on number beside the drawn one. The values of the first and the last column are kept beside
+// the text: a number that was not played is 99 in each column, which is two characters in the text.
 struct DigitPair {
     std::string played;
     const std::string& drawn;
@@ -309,7 +309,7 @@ void CheckExtra(Run& run, const WinningBoxes& boxes, const Pick4Row& ticket, Lin
     if (g.MatchCount == 0) g.Msg = "Sorry, " + name + " is not a winner.";
     else if (g.MatchCount <= FourNumbers)
         g.Msg = std::string(name).append(Ladders::ExtraWins[static_cast<std::size_t>(int{g.MatchCount})]);
-    // Beyond four the line before comes once more.
+    // With more than four matches the line added before is added again.
     lstMessage.AddItem(g.Msg);
     g.MatchCount = 0;
 }
@@ -345,7 +345,7 @@ void FindDrawEntry(Run& run, const StoreArgs& at) {
             g.WinningsDrawFound = On;
             return;
         }
-        // The box has the form of an error although none stands here: the number is 0.
+        // The box looks like that of an error although none has happened: its number is 0.
         g.Msg = "ERROR #0" + g.NL + "No entry for this Draw Date. Please check the Draw Date" + g.NL +
                 "and try again.";
         run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);

@@ -52,8 +52,8 @@ void CheckThePlus(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessag
 // text: the line before is added once more. MatchCount ends at 0.
 void CheckExtraEarlyBird(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage);
 
-// Whether the table in `at` has a row of the date: sets WinningsDrawFound to 1, or shows a box (with the
-// error number 0, for no error stands there) and sets 0. An empty table, or an error, which shows its box,
+// Whether the table in `at` has a row of the date: sets WinningsDrawFound to 1, or shows a box (its
+// error number is 0, as no error has happened) and sets 0. An empty table, or an error, which shows its box,
 // leaves WinningsDrawFound as it was.
 void FindDrawEntry(Run& run, const StoreArgs& at);
 

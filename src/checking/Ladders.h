@@ -24,14 +24,14 @@ struct LottoTier {
 
 inline constexpr int AnyMore = std::numeric_limits<int>::max();
 
-// Numbers standing twice among the boxes can lift the count beyond six: that still is a "matched" line.
+// A number that stands in two boxes counts twice, so the count may exceed six: still a "matched" line.
 inline constexpr auto Lotto6 = std::to_array<LottoTier>({
     {6, 6, false, "Congratulations! You've hit the JACKPOT!!!"},
     {5, 5, true, "Congratulations! You've won 2nd Prize!"},
     {3, AnyMore, false, "Congratulations! You matched ", " Numbers!"},
 });
 
-// Here a count of eight meets no tier.
+// A count of eight meets no tier here.
 inline constexpr auto Lotto7 = std::to_array<LottoTier>({
     {7, 7, false, "Congratulations! You've hit the JACKPOT!!!"},
     {6, 6, true, "Congratulations! You've won 2nd Prize!"},

@@ -19,8 +19,8 @@ struct TableName {
     int shape;
 };
 
-// One table: who names it, and who makes it. Without a creator the shape code does, and makes the Win table
-// with it.
+// One table: what names it and what creates it. Without a creator CreateTableByShape does, which creates the
+// Win table too.
 struct TableStep {
     std::optional<TableName> (*Name)(Family family, const Global& global);
     const Creator* creator = nullptr;

@@ -9,8 +9,8 @@ namespace sorvane {
 
 // Makes sure that the file, the two ledgers and the tables of the selected game exist, in the family's own
 // order. Fills DbName, leaves the last table's name in TableName and the family's shape code in
-// NumbersPerTicket, which is borrowed for the add-on tables meanwhile. An unknown key keeps the name in hand,
-// which is found, and makes nothing.
+// NumbersPerTicket, which is borrowed for the add-on tables meanwhile. Where the key is unknown, the name
+// in hand stays; its table exists already, so that nothing is made.
 void CreateAllTables(Run& run, Family family, WindowState& state);
 
 }  // namespace sorvane

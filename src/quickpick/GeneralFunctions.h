@@ -11,8 +11,8 @@ namespace sorvane {
 // Global::Numbers, whichever array was passed. Raises 9 for an array never sized.
 void SortNumbers(Global& global, Array<Integer>& numbers);
 
-// The first `count` numbers of the array, those up to `lastPosition` alone, each followed by ", " but the one
-// at `lastPosition`: a shorter ticket ends with a separator. Raises 9 where the array is shorter.
+// The numbers at the positions 0 to `count` - 1, but none behind `lastPosition`. A ", " follows each of them
+// except the one at `lastPosition`, so a shorter ticket ends with it. Raises 9 where the array is shorter.
 std::string JoinByPosition(const Array<Integer>& numbers, int count, int lastPosition);
 
 }  // namespace sorvane

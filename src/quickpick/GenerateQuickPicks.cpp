@@ -65,7 +65,7 @@ void DrawNumbers(Run& run, const Range& range) {
     }
 }
 
-// Of the balls that the ticket has, those that there are.
+// The balls of the ticket, as far as Numbers holds them.
 std::string KenoLine(const Global& g) {
     const int balls = g.NoOfBallsPerTicket;
     const int there = g.Numbers.Sized() ? g.Numbers.UBound() + 1 : 0;

@@ -128,7 +128,7 @@ void TallyKenoFrequency(Run& run, const std::string& DbName, const std::string& 
 
 namespace {
 
-// Digits that are counted together: `fromEnd` of them at the end, else from the first on.
+// Digits that are counted together: the last `count` of them, or the first.
 struct DigitGroup {
     std::string_view type;
     int count;

@@ -21,8 +21,8 @@ inline constexpr int ReportMode = 1;
 // error.
 //
 // Mode 0 sets Row n and Data for each number n. Mode 1 puts the count of the number i + 1 into slot i:
-// - six numbers: Numbers and Favourites, sized here to 0..49, or for "Lottario" to 0..44, where while
-//   Generating also BallFrequency is filled. While Generating, mode 0 draws nothing.
+// - six numbers: Numbers and Favourites, sized here to 0..49; for "Lottario" to 0..44, and while
+//   Generating BallFrequency is filled as well. While Generating, mode 0 draws nothing.
 // - seven numbers: slots 0 to 48 of Numbers, which for "Super 7" is sized to 0..49 before anything else.
 // - keno: Numbers, as many slots as the game has numbers; the caller has sized it.
 void TallySixNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
@@ -58,7 +58,8 @@ Integer CountDrawRows(Run& run, const std::string& DbName, const std::string& Ta
 // AllSpentLines, or WonLines and AllWonLines, then the sum into TotalSpent or TotalWon. Mode 0 sets Data and
 // ColumnLabel of column 1 (spent) or 2 (won), row 1. Without rows the totals keep what they held; SumSpent
 // shows "No Tickets entered yet..." (title "ERROR!") and sets a zero on the chart in every mode, SumWon shows
-// nothing and sets its zero in mode 0. An amount longer than 14 characters never returns, see PadAmount.
+// nothing and sets its zero in mode 0. With an amount of more than 14 characters the call never returns, see
+// PadAmount.
 void SumSpent(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
               const Integer& mode);
 void SumWon(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,

@@ -89,7 +89,7 @@ constexpr auto GameTable = std::to_array<Game>({
     {"mnuCANATLLotto649", "Lotto649", "Tag", Family::frm649, "Lotto 6/49"},
     {"mnuCANATLSuper7", "Super 7", "Tag", Family::frm749, "Super 7", 5, 200, 2},
     {"mnuUSFLACash3", "FLACash3", "FLACash3", Family::frmPick3, "CA$H 3", {}, {}, 0},
-    // The title goes to frmPick3, which it thereby loads; Play 4 opens with an empty title bar. Meant.
+    // The title is written to frmPick3, which loads that window; Play 4 itself has an empty title bar. Meant.
     {"mnuUSFLAPlay4", "FLAPlay4", "FLAPlay4", Family::frmPick4, "Play 4", {}, {}, 0, Family::frmPick3},
 });
 
@@ -149,8 +149,8 @@ constexpr auto KeyTable = std::to_array<GameKey>({
      .Played = "PlayedONTPick3",
      .Win = "WinONTPick3",
      .Ways = {"Straight", "Box"}},
-    // Enter Winnings compares "Daily3", which this game's key never is, and would ask a table that nothing
-    // makes.
+    // Enter Winnings compares with "Daily3", which is never the key of this game, and names a table that
+    // nothing creates. Meant.
     {.LottoFlag = "BCDaily3",
      .in = Family::frmPick3,
      .Played = "PlayedBCDaily3",
@@ -185,7 +185,7 @@ constexpr auto KeyTable = std::to_array<GameKey>({
      .ExtraFlagAtCreate = "QCQuote4",
      .CheckNamesTables = false,
      .CreatesAtLoad = false},
-    // Loaded and cleaned up under a name that is not the one saved to. Meant.
+    // Load, cancel and exit name another table than the one that tickets are saved to. Meant.
     {.LottoFlag = "ATLPik4",
      .in = Family::frmPick4,
      .Played = "PlayedATLPik4",
@@ -293,7 +293,7 @@ std::optional<std::string> WinTable(Family family, std::string_view LottoFlag) {
 }
 
 std::optional<std::string> WinningsTable(Family family, std::string_view LottoFlag) {
-    // These two windows ask no key.
+    // These two windows do not compare the key.
     if (family == Family::frm749) return "PlayedSuper7";
     if (family == Family::frm645) return "PlayedLottario";
     for (const GameKey& key : KeyTable)

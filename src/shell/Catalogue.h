@@ -32,7 +32,7 @@ struct Game {
     std::string_view ExtraFlag;
     Family opens;
     std::string_view title;
-    // Facts that nothing reads; where one is absent the variable keeps the last game's value.
+    // Facts that nothing reads. Where one is missing, the variable keeps the value of the game before.
     std::optional<int> MaxTicketsOnSheet = {};
     std::optional<int> TicketPriceCents = {};
     std::optional<int> FreePlays = {};  // of GameKey::BonusTickets the flow makes use

@@ -1,6 +1,6 @@
 // The state of the run: what windows and routines share. One object, made in main and passed by reference; it
-// lives for the run and nothing of it is saved. Everything starts at zero, empty or unsized. Nothing resets a
-// member but the moments told beside it, so what an earlier window left is still there.
+// lives for the run and nothing of it is saved. Everything starts at zero, empty or unsized. A member is
+// reset only where its comment says so: what an earlier window left in it is still there.
 #pragma once
 
 #include <string>
@@ -85,7 +85,7 @@ struct Global {
     Array<Pick4Row> Pick4Played;
     Array<Integer> WinPerms;
 
-    // Quick picks, wheels and tallies. The three arrays are overwritten by whoever comes next.
+    // Quick picks, wheels and tallies. Each routine overwrites the three arrays.
     Array<Integer> Numbers;
     Array<Integer> Favourites;
     Array<Integer> BallFrequency;

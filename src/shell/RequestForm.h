@@ -31,8 +31,8 @@ struct RequestForm {
 void PrintRequestForm(Printer& printer, const RequestForm& form);
 
 // The text in lines of at least 75 characters, as far as it reaches: a line runs on to the next blank instead
-// of breaking a word. A line that was cut at a line break holds it and the two characters behind it. Blanks a
-// line begins with are dropped but not taken off the text, so that as many of its characters come once more.
+// of breaking a word. A line that ends at a line break also holds the break and the two characters behind it.
+// The blanks that a line begins with are dropped, but as many characters at its end are repeated in the next.
 // A rest of blanks alone is left out; a text without any character is one empty line. Characters are UTF-8.
 std::vector<std::string> WrapAdditionalInfo(std::string_view text);
 

@@ -5,8 +5,8 @@
 
 namespace sorvane {
 
-// Starts the first program found that is made to tell about the system, else the first one found that watches
-// it, without waiting; with neither a box says so. A program that can't be started ends it without a word.
+// Starts the first tool found that describes the system, else the first one found that monitors it, and does
+// not wait for it. When there is neither, a box says so. A tool that can't be started ends it silently.
 void StartSysInfo(Services& services);
 
 }  // namespace sorvane
