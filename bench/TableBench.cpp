@@ -231,7 +231,7 @@ Pair Money(int size) {
         RecordingChart chart;
         std::string TableName, text;
         Integer mode;
-        ReportMoney(file->run, GameMoney, file->name, TableName, mode, chart, "BC/49", text);
+        ReportMoney(file->run, ReportFacts::GameMoney, file->name, TableName, mode, chart, "BC/49", text);
     };
     const auto floor = [file] {
         const auto text = [](sqlite3_stmt* row, int field) {
