@@ -91,12 +91,13 @@ void BuildsTemp(Desk& desk) {
 }
 
 void ChartsMoney(Desk& desk) {
-    ChartMoney(desk.run, GameMoney, desk.DbName, desk.state.TableName, desk.state.mode, desk.chart);
+    ChartMoney(desk.run, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
+               desk.chart);
 }
 void ReportsMoney(Desk& desk) {
     std::string text;
-    ReportMoney(desk.run, GameMoney, desk.DbName, desk.state.TableName, desk.state.mode, desk.chart, "Lotto",
-                text);
+    ReportMoney(desk.run, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
+                desk.chart, "Lotto", text);
     desk.list.AddItem(text);
 }
 void ReportsFrequency(Desk& desk) {
