@@ -1,6 +1,5 @@
 #include <QCoreApplication>
 #include <QFile>
-#include <QIcon>
 #include <QLocale>
 #include <QTimer>
 #include <chrono>
@@ -9,6 +8,7 @@
 #include "forms/Application.h"
 #include "forms/DesktopTools.h"
 #include "forms/MessageBoxes.h"
+#include "forms/Picture.h"
 #include "forms/PrinterDialog.h"
 #include "platform/SystemServices.h"
 #include "reports/ui/frmReport.h"
@@ -46,6 +46,6 @@ int main(int, char** argv) {
     // Drawing the icon can wait until the window is on the screen.
     constexpr std::chrono::milliseconds Painted{100};
     QTimer::singleShot(Painted, &window,
-                       [] { QGuiApplication::setWindowIcon(QIcon(":/pictures/icon.svg")); });
+                       [] { QGuiApplication::setWindowIcon(forms::WindowIcon(":/pictures/icon.svg")); });
     return QCoreApplication::exec();
 }

@@ -62,4 +62,18 @@ void Picture::paintEvent(QPaintEvent*) {
     drawing_->render(&painter, frame);
 }
 
+// Drawn here, because an icon that names the file would load Qt's plugin for such icons at every start.
+QIcon WindowIcon(std::string_view path) {
+    QSvgRenderer drawing(ToQt(path));
+    QIcon icon;
+    for (int side : {16, 32, 64, 128}) {
+        QPixmap pixmap(side, side);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter);
+        icon.addPixmap(pixmap);
+    }
+    return icon;
+}
+
 }  // namespace sorvane::forms

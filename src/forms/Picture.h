@@ -1,6 +1,7 @@
 // A drawing, sharp at every size.
 #pragma once
 
+#include <QIcon>
 #include <QSize>
 #include <QWidget>
 #include <memory>
@@ -40,5 +41,8 @@ class Picture : public QWidget, public Control {
     std::string later_;  // the file of a drawing that waits for the first frame
     QSize sizeToCome_;
 };
+
+// The icon of windows from a drawing in a file or resource, in the sizes that a window manager asks for.
+QIcon WindowIcon(std::string_view path);
 
 }  // namespace sorvane::forms

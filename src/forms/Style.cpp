@@ -1,10 +1,14 @@
 #include "forms/Style.h"
 
+#include <QIconEngine>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
 #include <QWidget>
 #include <algorithm>
+#include <functional>
+#include <optional>
+#include <utility>
 
 #include "forms/Look.h"
 
@@ -137,6 +141,31 @@ void DrawGroupTitle(const QStyleOptionGroupBox& option, QPainter& painter, const
                        option.palette, IsEnabled(option), option.text, QPalette::WindowText);
 }
 
+// An icon that is made when it is first painted.
+class LaterIcon : public QIconEngine {
+  public:
+    explicit LaterIcon(std::function<QIcon()> make) : make_(std::move(make)) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State state) override {
+        Made().paint(painter, place, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return Made().pixmap(size, 1, mode, state);
+    }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        return Made().actualSize(size, mode, state);
+    }
+    QIconEngine* clone() const override { return new LaterIcon(*this); }
+
+  private:
+    const QIcon& Made() {
+        if (!made_) made_ = make_();
+        return *made_;
+    }
+    std::function<QIcon()> make_;
+    std::optional<QIcon> made_;
+};
+
 bool IsScrollView(const QWidget* widget) { return widget && widget->inherits("QAbstractScrollArea"); }
 
 }  // namespace
@@ -217,6 +246,12 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
         default:
             return size;
     }
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    if (icon == SP_ToolBarHorizontalExtensionButton)
+        return QIcon(new LaterIcon([base = baseStyle(), icon] { return base->standardIcon(icon); }));
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

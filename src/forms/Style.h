@@ -1,6 +1,7 @@
 // How controls are drawn: flat, in the colours of the palette, every line and every state to be seen.
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
 
 namespace sorvane::forms {
@@ -23,6 +24,9 @@ class Style : public QProxyStyle {
                   QStyleHintReturn* data) const override;
     // Boxes and circles to be ticked grow with the font, fields and buttons have room around their text.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    // The menu bar asks for the picture of the button that stands where it is too narrow, which hardly ever
+    // comes: the readers of pictures are loaded when it does.
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
 };

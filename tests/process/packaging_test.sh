@@ -101,12 +101,123 @@ rm -r "$program/data"
 "$program/install-user" --remove >/dev/null
 expect "the folder is gone" [ ! -e "$program" ]
 
-echo "the portable archive holds one folder that stands by itself"
-cpack --config "$build/CPackConfig.cmake" -B "$work/dist" >/dev/null
-tar -xzf "$work"/dist/sorvane-*.tar.gz -C "$work/dist"
+echo "every page names the same version"
+source=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$build/CMakeCache.txt")
+version=$(sed -n 's/^project(sorvane VERSION \([0-9.]*\).*/\1/p' "$source/CMakeLists.txt")
+expect "a release in the metainfo" grep -q "<release version=\"$version\"" "$stage/share/metainfo/$id.metainfo.xml"
+expect "the newest entry of Debian's changelog" \
+    [ "$(sed -n '1s/^sorvane (\(.*\)-1) .*/\1/p' "$source/packaging/debian/changelog")" = "$version" ]
+expect "the newest entry of the changes" [ "$(sed -n 's/^## \([0-9.]*\).*/\1/p' "$source/CHANGELOG.md" | head -n 1)" = "$version" ]
+expect "the manual page" grep -q "\"Sorvane $version\"" "$stage/share/man/man6/sorvane.6"
+
+# Starts a program without a screen, waits until it runs from its folder and its records stand, and ends it:
+# start FOLDER PROGRAM [ARGUMENT]
+start() {
+    local folder=$1 process tries=0
+    shift
+    QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$work "$@" &
+    process=$!
+    until [[ $(readlink "/proc/$process/exe") == "$folder/sorvane" && -n $(sqlite3 "file:$folder/data/sorvane.mdb?mode=ro" ".tables Winnings" 2>/dev/null) ]]; do
+        ((++tries < 600)) && kill -0 "$process" 2>/dev/null || fail "$1 does not start"
+        sleep 0.1
+    done
+    mapped=$(sed -n 's#^[^/]*\(/.*\)#\1#p' "/proc/$process/maps" | sort -u)
+    kill "$process"
+    wait "$process" 2>/dev/null || true
+}
+
+echo "a start loads no plugin that reads pictures"
+mkdir "$work/plain"
+cp "$stage/sorvane" "$work/plain"
+start "$work/plain" "$work/plain/sorvane"
+expect "something mapped" grep -q libQt6Widgets <<<"$mapped"
+if grep -E '/(imageformats|iconengines)/' <<<"$mapped"; then fail "it loads these"; fi
+
+echo "the archive holds one folder that stands by itself"
+# Packed with another program than a release, which takes its time.
+cpack --config "$build/CPackConfig.cmake" -G TGZ -B "$work/dist" >/dev/null
+tar -xzf "$work"/dist/sorvane-"$version"-linux-*.tar.gz -C "$work/dist"
 folders=("$work"/dist/sorvane-*/)
 expect "one folder" [ ${#folders[@]} = 1 ]
-expect "the program" [ -x "${folders[0]}sorvane" ]
-check_documents "${folders[0]}share/doc/sorvane"
-"${folders[0]}install-user" >/dev/null
-expect "installed from the archive" cmp -s "${folders[0]}sorvane" "$program/sorvane"
+archive=${folders[0]%/}
+expect "the program" [ -x "$archive/sorvane" ]
+check_documents "$archive/share/doc/sorvane"
+
+# What is bundled is found in the folder, and Qt nowhere else: check_libraries FILE (with the paths of its libraries)
+check_libraries() {
+    local name path
+    while read -r name _ path _; do
+        [[ $path != not ]] || fail "$1 does not find $name"
+        if [[ -e $archive/lib/$name ]]; then
+            [[ $path == "$archive/lib/$name" ]] || fail "$1 takes $name from $path"
+        else
+            [[ $name != libQt6* && $name != libicu* && $name != libsqlite3* ]] || fail "$name is not bundled"
+        fi
+    done < <("${@:2}" ldd "$1")
+}
+check_libraries "$archive/sorvane"
+plugins=0
+while IFS= read -r plugin; do
+    check_libraries "$plugin" env LD_LIBRARY_PATH="$archive/lib"
+    plugins=$((plugins + 1))
+done < <(find "$archive/plugins" -name '*.so')
+expect "all plugins" [ "$plugins" = 10 ]
+start "$archive" env -u LD_LIBRARY_PATH "$archive/sorvane"
+expect "its own Qt" grep -qxF "$archive/lib/libQt6Widgets.so.6" <<<"$mapped"
+"$archive/sorvane-records" check >/dev/null || fail "sorvane-records beside it"
+expect "its own plugin of the screen" grep -qxF "$archive/plugins/platforms/libqoffscreen.so" <<<"$mapped"
+if grep '/libQt6' <<<"$mapped" | grep -vF "$archive/"; then fail "Qt of the system"; fi
+rm -r "$archive/data"
+
+echo "every bundled file has its licence"
+while IFS= read -r file; do
+    package=$(grep -F " $file " "$archive/share/doc/sorvane/bundled/README.md" | awk '{ print $2 }')
+    expect "an origin of $file" [ -n "$package" ]
+    expect "the licence of $package" [ -s "$archive/share/doc/sorvane/bundled/$package.txt" ]
+done < <(cd "$archive" && find lib plugins -type f)
+
+echo "installed from the archive it stands by itself too"
+"$archive/install-user" >/dev/null
+expect "installed from the archive" cmp -s "$archive/sorvane" "$program/sorvane"
+start "$program" "$program/sorvane"
+expect "its own Qt" grep -qxF "$program/lib/libQt6Widgets.so.6" <<<"$mapped"
+
+echo "the package has Debian's form"
+cpack --config "$build/CPackConfig.cmake" -G DEB -B "$work/dist" >/dev/null
+package=$work/dist/sorvane_$version-1_amd64.deb
+expect "a package" [ -s "$package" ]
+dpkg-deb -x "$package" "$work/deb"
+ln -s /usr/share/common-licenses "$work/deb/usr/share/common-licenses"
+check_icons "$work/deb/usr/share/icons/hicolor"
+check_documents "$work/deb/usr/share/doc/sorvane"
+expect "a manual page" man -l "$work/deb/usr/share/man/man6/sorvane.6.gz" >/dev/null
+expect "the command" [ -x "$work/deb/usr/bin/sorvane" ]
+expect "its dependencies" grep -q 'libqt6widgets6 .*libsqlite3-0 ' <<<"$(dpkg-deb -f "$package" Depends)"
+packaged=$work/deb/usr/lib/sorvane
+
+echo "the package takes the place of a copy from the archive and of what that told the desktop"
+records=$(sha256sum <"$program/data/sorvane.mdb")
+start "$program" "$packaged/install-user" --start
+expect "the packaged program" cmp -s "$packaged/sorvane" "$program/sorvane"
+for part in lib plugins qt.conf; do expect "no bundled $part" [ ! -e "$program/$part" ]; done
+expect "no entry that hides the package's" [ ! -e "$entry" ]
+expect "no command that hides the package's" [ ! -L "$HOME/.local/bin/sorvane" ]
+expect "records kept" [ "$(sha256sum <"$program/data/sorvane.mdb")" = "$records" ]
+check_documents "$program/share/doc/sorvane"
+
+echo "a current copy is started as it is, an older one is upgraded first"
+before=$(stat -c %i "$program/sorvane")
+start "$program" "$packaged/install-user" --start
+expect "the copy is untouched" [ "$(stat -c %i "$program/sorvane")" = "$before" ]
+echo older >>"$program/sorvane"
+start "$program" "$packaged/install-user" --start
+expect "upgraded" cmp -s "$packaged/sorvane" "$program/sorvane"
+expect "records kept" [ "$(sha256sum <"$program/data/sorvane.mdb")" = "$records" ]
+
+echo "another player has records of their own"
+first=$program
+export HOME=$work/another
+start "$HOME/.local/opt/sorvane" "$packaged/install-user" --start
+expect "the second player's records" [ -s "$HOME/.local/opt/sorvane/data/sorvane.mdb" ]
+"$packaged/install-user" --records check >/dev/null || fail "the second player's sorvane-records"
+expect "the first one's as they were" [ "$(sha256sum <"$first/data/sorvane.mdb")" = "$records" ]
