@@ -125,6 +125,9 @@ void frmRequestNewLottery::LayOut() {
     add(lblNumberOfNumbers, txtNumberOfNumbers, Beside(space, {&txtNumberOfNumbers}));
     lblLow.SetBuddy(txtLow);
     lblHigh.SetBuddy(txtHigh);
+    // The label of both would name the first.
+    txtLow.SetAccessibleName("Low");
+    txtHigh.SetAccessibleName("High");
     add(lblRange, txtLow, Beside(space, {&lblLow, &txtLow, &lblHigh, &txtHigh}));
 
     fraBonusNumber.setLayout(Beside(gap, {&optYesBonusNumber, &optNoBonusNumber}));
