@@ -1,10 +1,12 @@
 #include "forms/Application.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QWidget>
 #include <utility>
 
 #include "forms/Style.h"
+#include "forms/Window.h"
 
 namespace sorvane::forms {
 
@@ -15,12 +17,21 @@ bool IsPress(const QObject& receiver, const QEvent& event) {
            (event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonDblClick);
 }
 
+// To Qt our windows are widgets like any other, which a screen reader would pass over.
+QAccessibleInterface* TellWindow(const QString&, QObject* object) {
+    auto* window = dynamic_cast<Window*>(object);
+    if (!window) return nullptr;
+    return new QAccessibleWidget(
+        window, window->windowType() == Qt::Dialog ? QAccessible::Dialog : QAccessible::Window);
+}
+
 }  // namespace
 
 // The style is there before the application, which makes no other then.
 Application::Application(int& argc, char** argv) : QApplication((setStyle(new Style), argc), argv) {
     style()->setParent(this);  // so that it goes when another one comes
     setQuitOnLastWindowClosed(false);
+    QAccessible::installFactory(TellWindow);
     installEventFilter(this);
     connect(this, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
         // The ring is on the frame, which lists and boxes of several lines would not paint anew.

@@ -6,15 +6,18 @@
 #include <QChart>
 #include <QChartView>
 #include <QGraphicsLayout>
+#include <QGraphicsLineItem>
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QLegend>
+#include <QLegendMarker>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QVBoxLayout>
 #include <QValueAxis>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "forms/Look.h"
 #include "forms/Utf8.h"
@@ -78,26 +81,62 @@ class StaggeredLabels {
     double widest_ = 0, height_;
 };
 
-std::string ValueText(double value) {
-    const auto amount = Currency::FromTenThousandths(std::llround(value * Currency::Scale));
-    std::string text = Format(amount, "###,###,##0.00");
-    if (text.ends_with(".00")) text.resize(text.size() - 3);
-    return text;
+// A mouse at rest would hide what the bar under it says.
+class BarView final : public QChartView {
+  public:
+    using QChartView::QChartView;
+
+  protected:
+    bool viewportEvent(QEvent* event) override {
+        return event->type() == QEvent::ToolTip || QChartView::viewportEvent(event);
+    }
+};
+
+std::string ValueText(double value, bool money) {
+    const auto amount = Currency::FromTenThousandths(std::llround(std::abs(value) * Currency::Scale));
+    std::string text = (money ? "$" : "") + Format(amount, "###,###,##0.00");
+    if (!money && text.ends_with(".00")) text.resize(text.size() - 3);
+    return (value < 0 ? "-" : "") + text;
 }
 
-// The axis ends at a round number that divides into steps of 1, 2 or 5 times a power of ten.
+// "Won   - $5.00" is called "Won".
+std::string NameBeforeTheAmount(std::string_view label) {
+    label = label.substr(0, label.find(" - "));
+    label = label.substr(0, label.find_last_not_of(' ') + 1);
+    return std::string(label);
+}
+
+// The legend would draw one blank for many.
+void KeepBlanks(const QLegend& legend) {
+    for (QLegendMarker* marker : legend.markers())
+        marker->setLabel(marker->label().replace(u' ', QChar(QChar::Nbsp)));
+}
+
+// Bars below zero hang from this line, so far down the plot.
+void AddZeroLine(QChart& chart, const QColor& ink, double share) {
+    auto* line = new QGraphicsLineItem(&chart);
+    line->setPen(QPen(ink, 0));
+    QObject::connect(&chart, &QChart::plotAreaChanged, &chart, [line, share](const QRectF& plot) {
+        const double y = plot.top() + plot.height() * share;
+        line->setLine(plot.left(), y, plot.right(), y);
+    });
+}
+
+// The axis begins at 0, or below it, and ends at round numbers with steps of 1, 2 or 5 times a power of ten.
 struct Scale {
-    double top;
+    double bottom, top, step;
     int steps;
 };
-Scale ScaleFor(double largest, bool whole) {
+Scale ScaleFor(double smallest, double largest, bool whole) {
     constexpr int MostSteps = 8;
+    const double span = largest - smallest;
     double step = 1;
     if (!whole)
-        while (step * MostSteps / 10 > largest && step > 0.01) step /= 10;
-    for (int turn = 0; step * MostSteps < largest; ++turn) step *= turn % 3 == 1 ? 2.5 : 2;
-    const int steps = std::max(1, static_cast<int>(std::ceil(largest / step)));
-    return {step * steps, steps};
+        while (step * MostSteps / 10 > span && step > 0.01) step /= 10;
+    for (int turn = 0; step * MostSteps < span; ++turn) step *= turn % 3 == 1 ? 2.5 : 2;
+    const int below = static_cast<int>(std::ceil(-smallest / step));
+    const int above = std::max(below > 0 ? 0 : 1, static_cast<int>(std::ceil(largest / step)));
+    return {-step * below, step * above, step, below + above};
 }
 
 }  // namespace
@@ -124,7 +163,12 @@ void Chart::SetAxes(std::string_view bars, std::string_view values) {
 
 void Chart::SetHint(std::string_view hint) {
     hint_ = hint;
-    setAccessibleDescription(ToQt(hint));
+    if (IsEmpty()) setAccessibleDescription(ToQt(hint));
+    Changed();
+}
+
+void Chart::SetMoney() {
+    money_ = true;
     Changed();
 }
 
@@ -219,9 +263,42 @@ std::string Chart::RowLabel(std::size_t row) const {
     return std::to_string(row + 1);
 }
 
+bool Chart::IsEmpty() const {
+    return std::all_of(columns_.begin(), columns_.end(), [](const Series& column) {
+        return std::all_of(column.values.begin(), column.values.end(),
+                           [](double value) { return value == 0; });
+    });
+}
+
+std::string Chart::Told(const Series& column, std::size_t row) const {
+    std::string name = RowLabel(row);
+    if (name.empty()) name = money_ ? NameBeforeTheAmount(column.label) : column.label;
+    return name + ": " + ValueText(column.values[row], money_);
+}
+
+// Of many bars those that are not there are told together.
+std::string Chart::Told(const Series& column) const {
+    std::string told = RowCount() > 1 && ColumnCount() > 1 ? column.label + " " : "";
+    bool first = true, others = false;
+    for (std::size_t row = 0; row < column.values.size(); ++row) {
+        others = others || column.values[row] == 0;
+        if (RowCount() > 1 && column.values[row] == 0) continue;
+        told += (std::exchange(first, false) ? "" : ", ") + Told(column, row);
+    }
+    if (RowCount() > 1 && others) told += first ? "all: 0" : ", others: 0";
+    return told;
+}
+
+std::string Chart::Told() const {
+    if (IsEmpty() && !hint_.empty()) return hint_;
+    std::string told;
+    for (const Series& column : columns_) told += (told.empty() ? "" : "; ") + Told(column);
+    return told;
+}
+
 void Chart::Draw() {
     if (!view_) {
-        view_ = new QChartView(this);
+        view_ = new BarView(this);
         view_->setFrameShape(QFrame::NoFrame);
         view_->setFocusPolicy(Qt::NoFocus);
         view_->setRenderHint(QPainter::Antialiasing);
@@ -232,6 +309,7 @@ void Chart::Draw() {
     view_->setBackgroundBrush(palette().color(QPalette::Base));
     const std::unique_ptr<QChart> old(view_->chart());
     view_->setChart(NewChart());
+    setAccessibleDescription(ToQt(Told()));
     stale_ = false;
 }
 
@@ -255,15 +333,12 @@ QChart* Chart::NewChart() {
     chart->legend()->setFont(font());
     chart->legend()->setLabelColor(ink);
     chart->legend()->setAlignment(Qt::AlignBottom);
+    KeepBlanks(*chart->legend());
     return chart;
 }
 
 void Chart::AddHint(QChart& chart) const {
-    const bool empty = std::all_of(columns_.begin(), columns_.end(), [](const Series& column) {
-        return std::all_of(column.values.begin(), column.values.end(),
-                           [](double value) { return value == 0; });
-    });
-    if (!empty || hint_.empty()) return;
+    if (!IsEmpty() || hint_.empty()) return;
     auto* hint = new QGraphicsTextItem(ToQt(hint_), &chart);
     hint->setFont(font());
     hint->setDefaultTextColor(Look::Hint(palette()));
@@ -286,11 +361,11 @@ QAbstractBarSeries* Chart::NewSeries() {
         for (const double value : columns_[column].values) *set << value;
         series->append(set);
     }
-    connect(series, &QAbstractBarSeries::hovered, this, [this](bool on, int row, QBarSet* set) {
+    connect(series, &QAbstractBarSeries::hovered, this, [this, series](bool on, int row, QBarSet* set) {
         if (!on) return QToolTip::hideText();
-        const std::string label = RowLabel(static_cast<std::size_t>(row));
-        const std::string name = label.empty() ? ToUtf8(set->label()) : label;
-        QToolTip::showText(QCursor::pos(), ToQt(name + ": " + ValueText(set->at(row))), this);
+        const Series& column = columns_[static_cast<std::size_t>(series->barSets().indexOf(set))];
+        QToolTip::showText(QCursor::pos(), ToQt(Told(column, static_cast<std::size_t>(row))), this, {},
+                           std::numeric_limits<int>::max());
     });
     return series;
 }
@@ -312,19 +387,24 @@ void Chart::AddAxes(QChart& chart, const QColor& ink) const {
     }
     bars->setGridLineVisible(false);
 
-    double largest = 1;
+    double smallest = 0, largest = 0;
     bool whole = true;
     for (const Series& column : columns_)
         for (const double value : column.values) {
+            smallest = std::min(smallest, value);
             largest = std::max(largest, value);
             whole = whole && value == std::floor(value);
         }
     auto* values = new QValueAxis;
-    const Scale scale = ScaleFor(largest, whole);
-    values->setRange(0, scale.top);
+    const Scale scale = ScaleFor(smallest, smallest < 0 ? largest : std::max(1.0, largest), whole);
+    values->setRange(scale.bottom, scale.top);
     values->setTickCount(scale.steps + 1);
-    values->setLabelFormat(scale.top / scale.steps == std::floor(scale.top / scale.steps) ? "%.0f" : "%.2f");
+    values->setLabelFormat(scale.step == std::floor(scale.step) ? "%.0f" : "%.2f");
     values->setTitleText(ToQt(valuesCaption_));
+    // "1,000", whatever the desktop's own way is.
+    chart.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
+    chart.setLocalizeNumbers(true);
+    if (smallest < 0) AddZeroLine(chart, ink, scale.top / (scale.top - scale.bottom));
 
     QColor grid = ink;
     grid.setAlphaF(0.25f);

@@ -16,8 +16,9 @@ class QChartView;
 namespace sorvane::forms {
 
 // A grid of numbers: rows along the axis, one series of bars a column. Rows and columns count from 1; an
-// index outside the counts raises 9 where it is set. Hovering a bar shows its value. Nothing is drawn, and
-// next to nothing spent, before the chart is seen.
+// index outside the counts raises 9 where it is set. Values below zero have their bars below it. A bar under
+// the mouse shows its value as long as the mouse stays there. At each drawing a screen reader is told what is
+// drawn. Nothing is drawn, and next to nothing spent, before the chart is seen.
 class Chart : public QWidget, public Control {
   public:
     explicit Chart(std::string_view name);
@@ -30,6 +31,8 @@ class Chart : public QWidget, public Control {
 
     // What to do, painted over the plot while every cell is 0.
     void SetHint(std::string_view hint);
+    // The values are amounts: "Spent: $3.00", where the column's label goes before " - ".
+    void SetMoney();
 
     // New rows and columns hold 0, without labels.
     int RowCount() const { return static_cast<int>(rowLabels_.size()); }
@@ -71,6 +74,11 @@ class Chart : public QWidget, public Control {
     Series& InHand();
     double& Cell();
     std::string RowLabel(std::size_t row) const;  // from 0
+    bool IsEmpty() const;                         // every cell is 0
+    // What a bar is called and how much it says: "7: 3".
+    std::string Told(const Series& column, std::size_t row) const;
+    std::string Told(const Series& column) const;
+    std::string Told() const;
     void Changed();
     void Draw();
     QChart* NewChart();
@@ -82,6 +90,7 @@ class Chart : public QWidget, public Control {
     std::vector<std::string> rowLabels_;
     std::vector<Series> columns_;
     int row_ = 1, column_ = 1;
+    bool money_ = false;
     bool stale_ = true;     // what is drawn, if anything, is not what the cells say
     bool waiting_ = false;  // drawing will come once the handlers are done
     QChartView* view_ = nullptr;

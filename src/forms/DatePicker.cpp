@@ -1,15 +1,49 @@
 #include "forms/DatePicker.h"
 
+#include <QCalendarWidget>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
+#include <QPainter>
+#include <QTextCharFormat>
 #include <QWheelEvent>
 #include <utility>
+
+#include "forms/Look.h"
 
 namespace sorvane::forms {
 
 namespace {
 
 const QDate DayZero(1899, 12, 30);
+
+// Stands off the window under it by an outline; its weekends can be read.
+class Calendar final : public QCalendarWidget {
+  public:
+    Calendar() {
+        layout()->setContentsMargins(1, 1, 1, 1);
+        ColourWeekend();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QCalendarWidget::paintEvent(event);
+        QPainter painter(this);
+        painter.setPen(Look::Edge(palette(), true));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
+    void changeEvent(QEvent* event) override {
+        QCalendarWidget::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange) ColourWeekend();
+    }
+
+  private:
+    void ColourWeekend() {
+        QTextCharFormat format;
+        format.setForeground(Look::Weekend(palette()));
+        for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, format);
+    }
+};
 
 }  // namespace
 
@@ -44,6 +78,12 @@ void DatePicker::keyPressEvent(QKeyEvent* event) {
     if (digit && !lineEdit()->hasSelectedText() && sectionText(currentSection()).size() == full)
         setSelectedSection(currentSection());
     QDateEdit::keyPressEvent(event);
+}
+
+// The press that may open the calendar makes it.
+void DatePicker::mousePressEvent(QMouseEvent* event) {
+    if (!std::exchange(hasCalendar_, true)) setCalendarWidget(new Calendar);
+    QDateEdit::mousePressEvent(event);
 }
 
 void DatePicker::focusOutEvent(QFocusEvent* event) {

@@ -25,6 +25,7 @@ class DatePicker : public QDateEdit, public Control {
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
@@ -33,6 +34,7 @@ class DatePicker : public QDateEdit, public Control {
     void FireChange();
     std::function<void()> change_;
     QDate lastDay_;
+    bool hasCalendar_ = false;
     bool leaving_ = false;  // the focus is on its way out: Change waits until it has moved
 };
 

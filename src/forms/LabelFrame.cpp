@@ -22,14 +22,19 @@ QRect LabelFrame::Heading() const { return {0, 0, width(), Look::Heading(*this)}
 
 void LabelFrame::RefreshHint() {
     if (!hint_) return;
-    setAccessibleDescription(ToQt(hint_()));
+    Tell(ToQt(hint_()));
     update(Heading());
+}
+
+void LabelFrame::Tell(const QString& hint) {
+    if (accessibleDescription() != hint) setAccessibleDescription(hint);
 }
 
 void LabelFrame::paintEvent(QPaintEvent* event) {
     QGroupBox::paintEvent(event);
     if (!hint_) return;
     const QString hint = ToQt(hint_());
+    Tell(hint);
     QFont heavy = font();
     heavy.setBold(true);
     const int room = width() - QFontMetrics(heavy).horizontalAdvance(title()) - Look::Gap(*this);

@@ -1,14 +1,28 @@
 #include "forms/ListBox.h"
 
 #include <QAbstractListModel>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 #include "forms/Look.h"
 #include "forms/Utf8.h"
 #include "platform/RunTimeError.h"
 
 namespace sorvane::forms {
+
+namespace {
+
+// Pressed on the way to another key.
+bool IsModifier(int key) {
+    return key == Qt::Key_Control || key == Qt::Key_Shift || key == Qt::Key_Alt || key == Qt::Key_Meta;
+}
+
+}  // namespace
 
 class ListBox::Model : public QAbstractListModel {
   public:
@@ -91,16 +105,45 @@ class ListBox::Model : public QAbstractListModel {
     QIcon star_, blank_;
 };
 
-ListBox::ListBox(std::string_view name) : Control(*this, name), model_(std::make_unique<Model>(*this)) {
+// Rows that are all marked look as if they were selected.
+class ListBox::Delegate : public QStyledItemDelegate {
+  public:
+    explicit Delegate(const ListBox& list) : list_(list) {}
+
+  protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (list_.allMarked_) option->state |= QStyle::State_Selected;
+    }
+
+  private:
+    const ListBox& list_;
+};
+
+ListBox::ListBox(std::string_view name)
+    : Control(*this, name),
+      model_(std::make_unique<Model>(*this)),
+      delegate_(std::make_unique<Delegate>(*this)) {
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
+    setItemDelegate(delegate_.get());
     setModel(model_.get());
 }
 
 ListBox::~ListBox() = default;
 
-void ListBox::AddItem(std::string_view text) { model_->Add(text); }
-void ListBox::Clear() { model_->Clear(); }
+void ListBox::AddItem(std::string_view text) {
+    MarkAll(false);
+    model_->Add(text);
+    if (ListCount() == 1) Describe();
+}
+
+void ListBox::Clear() {
+    MarkAll(false);
+    model_->Clear();
+    Describe();
+}
+
 int ListBox::ListCount() const { return model_->rowCount(); }
 
 std::string ListBox::Text(int row) const {
@@ -122,8 +165,38 @@ void ListBox::SetListIndex(int row) {
 
 void ListBox::SetHint(std::string_view text) {
     hint_ = ToQt(text);
-    setAccessibleDescription(hint_);
+    Describe();
     viewport()->update();
+}
+
+// What is painted is told: the hint of an empty list only.
+void ListBox::Describe() { setAccessibleDescription(ListCount() > 0 ? QString() : hint_); }
+
+void ListBox::MarkAll(bool marked) {
+    if (std::exchange(allMarked_, marked) != marked) viewport()->update();
+}
+
+void ListBox::Copy() const {
+    if (allMarked_) return CopyAll();
+    if (const int row = ListIndex(); row >= 0) QGuiApplication::clipboard()->setText(model_->Text(row));
+}
+
+void ListBox::CopyAll() const {
+    QStringList rows;
+    for (int row = 0; row < ListCount(); ++row) rows.push_back(model_->Text(row));
+    if (!rows.isEmpty()) QGuiApplication::clipboard()->setText(rows.join(u'\n'));
+}
+
+void ListBox::contextMenuEvent(QContextMenuEvent* event) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    QAction* copy = menu->addAction(QStringLiteral("&Copy"), this, [this] { Copy(); });
+    copy->setEnabled(allMarked_ || ListIndex() >= 0);
+    QAction* copyAll = menu->addAction(QStringLiteral("Copy &All"), this, [this] { CopyAll(); });
+    copyAll->setEnabled(ListCount() > 0);
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard && currentIndex().isValid();
+    menu->popup(byKey ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft())
+                      : event->globalPos());
 }
 
 void ListBox::SetWinners(std::function<bool(int, std::string_view)> isWinner) {
@@ -140,6 +213,7 @@ void ListBox::SetFixedPitch() { setFont(Look::FixedFont()); }
 
 void ListBox::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
+    if (pressed_) MarkAll(false);
     QListView::mousePressEvent(event);
 }
 
@@ -154,6 +228,9 @@ void ListBox::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void ListBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::SelectAll)) return MarkAll(ListCount() > 0);
+    if (event->matches(QKeySequence::Copy)) return Copy();
+    if (!IsModifier(event->key())) MarkAll(false);
     const int before = ListIndex();
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (before >= 0) Fire(dblClick_);

@@ -9,6 +9,8 @@
 
 namespace sorvane::forms {
 
+// Ctrl+C copies the selected row; Ctrl+A marks all rows for the next Ctrl+C, which no handler hears of and
+// which leaves ListIndex as it was. The menu of a row offers both. Rows are copied as they read, one a line.
 class ListBox : public QListView, public Control, public Lines {
   public:
     explicit ListBox(std::string_view name);
@@ -45,14 +47,22 @@ class ListBox : public QListView, public Control, public Lines {
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     class Model;
+    class Delegate;
     void AdaptIcons();
+    void Describe();
+    void MarkAll(bool marked);
+    void Copy() const;
+    void CopyAll() const;
     std::unique_ptr<Model> model_;
+    std::unique_ptr<Delegate> delegate_;
     std::function<void()> click_, dblClick_;
     QString hint_;
     bool pressed_ = false;
+    bool allMarked_ = false;
 };
 
 }  // namespace sorvane::forms

@@ -45,6 +45,15 @@ QColor ReadableOnAll(QColor ink, const std::vector<QColor>& papers, double ratio
     return ink;
 }
 
+// The ink moved to just this contrast: towards the paper first, where it stands off more than that.
+QColor AtContrast(const QColor& ink, const QColor& paper, double ratio) {
+    constexpr int Steps = 50;
+    QColor moved = ink;
+    for (int step = 1; step <= Steps && Look::Contrast(moved, paper) > ratio; ++step)
+        moved = Mix(ink, paper, static_cast<double>(step) / Steps);
+    return Look::Readable(moved, paper, ratio);
+}
+
 // What lines are drawn on and around.
 std::vector<QColor> Grounds(const QPalette& palette, QPalette::ColorGroup group) {
     std::vector<QColor> grounds;
@@ -201,15 +210,27 @@ QColor Hint(const QPalette& palette) {
     return Readable(palette.color(QPalette::PlaceholderText), paper);
 }
 
+// Lightness differs too, for those who see no hues: each column has a contrast of its own to the paper.
 QColor Series(const QPalette& palette, int column) {
     const QColor paper = palette.color(QPalette::Base);
-    QColor colour = palette.color(QPalette::Active, QPalette::Highlight);
-    if (column > 0) {
-        const float hue = std::fmod(colour.hslHueF() + 0.45f * static_cast<float>(column), 1.0f);
-        colour = QColor::fromHslF(std::max(0.0f, hue), 0.55f, 0.65f);
-    }
-    // Lightness differs too, for those who see no hues.
-    return Readable(colour, paper, column % 2 ? 2 * LineContrast : LineContrast);
+    const QColor accent = Readable(palette.color(QPalette::Active, QPalette::Highlight), paper, LineContrast);
+    if (column == 0) return accent;
+    const double first = Contrast(accent, paper);
+    std::vector<double> others;
+    for (const double ratio : {2.0, 1.4, 2.8, 1.0, 3.9})
+        if (const double step = ratio * LineContrast / first; step > 1.25 || step < 1 / 1.25)
+            others.push_back(ratio * LineContrast);
+    const float hue = std::fmod(accent.hslHueF() + 0.45f * static_cast<float>(column), 1.0f);
+    return AtContrast(QColor::fromHslF(std::max(0.0f, hue), 0.55f, 0.65f), paper,
+                      others[static_cast<std::size_t>(column - 1) % others.size()]);
+}
+
+QColor Separator(const QPalette& palette) {
+    return Readable(palette.color(QPalette::Mid), palette.color(QPalette::Window), LineContrast);
+}
+
+QColor Weekend(const QPalette& palette) {
+    return Readable(Qt::red, palette.color(QPalette::Base), TextContrast);
 }
 
 QIcon Winner(const QPalette& palette, int size) {

@@ -63,7 +63,11 @@ inline constexpr double Hovered = 0.05, Pressed = 0.12;
 QColor FocusRing(const QPalette& palette);
 // The text of hints in empty lists.
 QColor Hint(const QPalette& palette);
-// The colour of a chart's column, from 0.
+// The line between two parts of a window.
+QColor Separator(const QPalette& palette);
+// The days of a weekend in a calendar.
+QColor Weekend(const QPalette& palette);
+// The colour of a chart's column, from 0; the first four differ in lightness too.
 QColor Series(const QPalette& palette, int column);
 // The mark before a winner's line: a star in the colours of the palette.
 QIcon Winner(const QPalette& palette, int size);

@@ -1,5 +1,8 @@
 #include "forms/MessageBoxes.h"
 
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
@@ -58,6 +61,63 @@ int WidestBox(const QMessageBox& box) {
     return screen <= SmallScreen ? screen : std::min(screen - Beside, Widest);
 }
 
+// Qt would take No for the answer to Escape and to the close box.
+class Box final : public QMessageBox {
+  public:
+    using QMessageBox::QMessageBox;
+    // Only its buttons answer.
+    void BeQuestion() {
+        isQuestion_ = true;
+        setWindowFlags((windowFlags() | Qt::CustomizeWindowHint) & ~Qt::WindowCloseButtonHint);
+    }
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!isQuestion_ || !event->matches(QKeySequence::Cancel)) QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (isQuestion_) event->ignore();
+        else QMessageBox::closeEvent(event);
+    }
+
+  private:
+    bool isQuestion_ = false;
+};
+
+QMessageBox::StandardButton EnterOf(int style) {
+    switch (style & 0x0F) {
+        case BoxStyle::YesNoCancel:
+            return QMessageBox::Cancel;
+        case BoxStyle::YesNo:
+            return style & BoxStyle::EnterIsYes ? QMessageBox::Yes : QMessageBox::No;
+        default:
+            return QMessageBox::Ok;
+    }
+}
+
+void SetKeys(Box& box, int style) {
+    box.setDefaultButton(EnterOf(style));
+    if ((style & 0x0F) == BoxStyle::YesNo) return box.BeQuestion();
+    QAbstractButton* cancel = box.button(QMessageBox::Cancel);
+    box.setEscapeButton(cancel ? cancel : box.button(QMessageBox::Ok));
+}
+
+// Qt indents a text without an icon.
+void StartAtTheLeft(const QMessageBox& box) {
+    if (box.icon() != QMessageBox::NoIcon) return;
+    if (auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"))) {
+        label->setIndent(0);
+        label->setContentsMargins(0, 0, 0, 0);
+    }
+    for (int i = 0; i < box.layout()->count(); ++i)
+        if (QSpacerItem* spacer = box.layout()->itemAt(i)->spacerItem())
+            spacer->changeSize(0, 0, QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->setHorizontalSpacing(0);
+        grid->setColumnStretch(1, 1);
+    }
+}
+
 // The lines of a text are broken where it says so, as long as the box has room; Qt would break them sooner.
 void KeepLinesWhole(const QMessageBox& box) {
     auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
@@ -73,14 +133,11 @@ Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view t
     QWidget* owner = Runtime::Current().Front();
     const Runtime::Modal level;
     // A carriage return would be a line break of its own on the screen.
-    QMessageBox box(IconOf(style), ToQt(title), ToQt(text).replace("\r\n", "\n"), ButtonsOf(style), owner);
+    Box box(IconOf(style), ToQt(title), ToQt(text).replace("\r\n", "\n"), ButtonsOf(style), owner);
     box.setTextFormat(Qt::PlainText);
+    StartAtTheLeft(box);
     KeepLinesWhole(box);
-    for (const auto way : {QMessageBox::Cancel, QMessageBox::Ok, QMessageBox::No})
-        if (auto* button = box.button(way)) {
-            box.setEscapeButton(button);
-            break;
-        }
+    SetKeys(box, style);
     const int button = box.exec();
     // Still up: the program was told to end, so that no loop of events runs any more. Who asks until
     // something is mended would ask without end.

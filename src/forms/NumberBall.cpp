@@ -10,7 +10,7 @@
 namespace sorvane::forms {
 
 NumberBall::NumberBall(std::string_view name, std::string_view caption) : CheckBox(name, caption) {
-    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     setAttribute(Qt::WA_Hover);
 }
 
@@ -78,6 +78,8 @@ void NumberBall::paintEvent(QPaintEvent*) {
 
     QFont number = font();
     number.setBold(isChecked());
+    const double grown = side / Look::BallSize(*this);
+    if (grown > 1) number.setPointSizeF(number.pointSizeF() * grown);
     painter.setFont(number);
     painter.setPen(ball.ink);
     // Where the ball had to shrink there is no room for a tick below the number.

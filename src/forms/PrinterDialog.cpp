@@ -28,6 +28,11 @@ bool AskTheSystem(QPrinter& printer) {
     return dialog.exec() == QDialog::Accepted;
 }
 
+QString WithoutBlanksAtItsEnd(QString line) {
+    while (line.endsWith(u' ')) line.chop(1);
+    return line;
+}
+
 }  // namespace
 
 struct PrinterDialog::Document {
@@ -39,14 +44,16 @@ struct PrinterDialog::Document {
     }
     void PrintLine(const QString& line, int points, double left) {
         painter.setFont(Look::FixedFont(points));
-        const QFontMetricsF metrics = painter.fontMetrics();
-        const double room = printer.width() - left - edge / 2;
-        const auto fits = std::max(1, static_cast<int>(room / metrics.horizontalAdvance(QLatin1Char('0'))));
-        for (qsizetype from = 0; from == 0 || from < line.size(); from += fits) {
-            if (y + metrics.lineSpacing() > printer.height() - edge) BreakPage();
-            painter.drawText(QPointF(left, y + metrics.ascent()), line.mid(from, fits));
-            y += metrics.lineSpacing();
-        }
+        const QFontMetricsF metrics(painter.font(), &printer);
+        if (y + metrics.lineSpacing() > printer.height() - edge) BreakPage();
+        painter.save();
+        painter.translate(left, y + metrics.ascent());
+        const double room = std::max(1.0, printer.width() - left - edge / 2);
+        const double width = metrics.horizontalAdvance(WithoutBlanksAtItsEnd(line));
+        if (width > room) painter.scale(room / width, 1);
+        painter.drawText(QPointF(0, 0), line);
+        painter.restore();
+        y += metrics.lineSpacing();
     }
     void BreakPage() {
         if (!printer.newPage()) Raise(ErrorNumber::PrinterError);

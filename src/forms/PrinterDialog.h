@@ -26,8 +26,9 @@ class PrinterDialog final : public Printer {
     void LeftEdge(double twips) override;
     // Raises 32755 when cancelled, 484 when there is no such printer.
     void ShowPrinter() override;
-    // Begins the document if need be (on the default printer when ShowPrinter wasn't called). A line wider
-    // than the paper goes on in the next line. Raises 484 without a printer, 482 when it fails.
+    // Begins the document if need be (on the default printer when ShowPrinter wasn't called). A line too wide
+    // for the paper is never cut: it alone is set condensed, without regard to blanks at its end. Raises 484
+    // without a printer, 482 when it fails.
     void Print(std::string_view text) override;
     // Without any Print before: an empty page. Raises like Print.
     void EndDoc() override;

@@ -1,5 +1,6 @@
 #include "forms/Style.h"
 
+#include <QFrame>
 #include <QIconEngine>
 #include <QPainter>
 #include <QStyleFactory>
@@ -207,6 +208,10 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
 void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                         const QWidget* widget) const {
     if (element == CE_TabBarTabShape) return DrawTab(*option, *painter);
+    if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+        element == CE_ShapedFrame && frame && frame->frameShape == QFrame::HLine)
+        return painter->fillRect(QRect(frame->rect.left(), frame->rect.center().y(), frame->rect.width(), 1),
+                                 Look::Separator(frame->palette));
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
@@ -226,9 +231,11 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 }
 
 // A disabled text has no second, brighter one below it, which would be all to be seen in high contrast.
+// Buttons of boxes say what they do without pictures.
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* data) const {
-    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
+    if (hint == SH_EtchDisabledText || hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

@@ -1,6 +1,7 @@
 #include "forms/TabStrip.h"
 
 #include <QEvent>
+#include <QShortcut>
 #include <QTabBar>
 
 #include "forms/AccessKeys.h"
@@ -47,6 +48,24 @@ class TabStrip::Bar : public QTabBar {
 TabStrip::TabStrip(std::string_view name) : Control(*this, name) {
     setTabBar(new Bar(*this));
     setDocumentMode(false);
+    AddKeys({Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, 1);
+    AddKeys({Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab,
+             Qt::CTRL | Qt::Key_PageUp},
+            -1);
+}
+
+// Keys of the window: some controls would keep for themselves what is pressed in them.
+void TabStrip::AddKeys(const QList<QKeySequence>& keys, int step) {
+    auto* shortcut = new QShortcut(this);
+    shortcut->setKeys(keys);
+    connect(shortcut, &QShortcut::activated, this, [this, step] { Turn(step); });
+}
+
+void TabStrip::Turn(int step) {
+    for (int i = 1; i < count(); ++i) {
+        const int next = (currentIndex() + i * (step + count())) % count();
+        if (isTabEnabled(next)) return SetTab(next);
+    }
 }
 
 void TabStrip::AddTab(QWidget& page, std::string_view caption) {
@@ -59,11 +78,5 @@ void TabStrip::SetTab(int index) {
 }
 
 std::string TabStrip::Caption() const { return ToUtf8(tabText(currentIndex())); }
-
-// Keys that the page left over, such as the one for the next tab.
-void TabStrip::keyPressEvent(QKeyEvent* event) {
-    Change change(*this);
-    QTabWidget::keyPressEvent(event);
-}
 
 }  // namespace sorvane::forms

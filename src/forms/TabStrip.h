@@ -8,7 +8,9 @@
 namespace sorvane::forms {
 
 // On a change of tab the page is in front first; then LostFocus and GotFocus of the controls that the change
-// concerns; then Click. Access keys of tabs yield to those of the controls on the page.
+// concerns; then Click. Access keys of tabs yield to those of the controls on the page. Ctrl+Tab and
+// Ctrl+PageDown bring the next tab in front, with Shift and Ctrl+PageUp the one before, round and round,
+// whatever control of the window has the focus.
 class TabStrip : public QTabWidget, public Control {
   public:
     explicit TabStrip(std::string_view name);
@@ -25,12 +27,11 @@ class TabStrip : public QTabWidget, public Control {
     // Click: another tab has come in front, by the user or by the program.
     void OnClick(std::function<void()> handler) { click_ = std::move(handler); }
 
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
   private:
     class Bar;
     class Change;
+    void AddKeys(const QList<QKeySequence>& keys, int step);
+    void Turn(int step);
     std::function<void()> click_;
 };
 

@@ -23,6 +23,9 @@ inline constexpr int YesNoCancel = 3;
 inline constexpr int YesNo = 4;
 inline constexpr int Stop = 16;
 inline constexpr int Exclamation = 48;
+// Enter answers Yes. Without it a question is answered by Enter with Cancel, or with No where there is none:
+// most of them delete or overwrite.
+inline constexpr int EnterIsYes = 256;
 }  // namespace BoxStyle
 
 // The title of a box for which no title is given.
@@ -31,8 +34,8 @@ inline constexpr std::string_view ProgramName = "Sorvane";
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
-    // Shows a modal box with plain text and returns the button pressed. Closing the box by its frame gives
-    // Cancel where the box has that button, else Ok, else No.
+    // Shows a modal box with plain text and returns the button pressed. Escape and the close box of the
+    // window answer Cancel where there is one, else Ok; a question with Yes and No only takes one of these.
     virtual Answer MsgBox(std::string_view text, int style = BoxStyle::Ok,
                           std::string_view title = ProgramName) = 0;
 };

@@ -11,7 +11,6 @@
 
 namespace sorvane {
 
-using namespace ReportFacts;
 namespace {
 
 using Operation = FaultVfs::Operation;

@@ -1,5 +1,6 @@
 // The small controls.
 #include <QApplication>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -14,12 +15,14 @@
 #include "forms/Label.h"
 #include "forms/LabelFrame.h"
 #include "forms/ListBox.h"
+#include "forms/Look.h"
 #include "forms/Menu.h"
 #include "forms/MultiLineBox.h"
 #include "forms/OptionButton.h"
 #include "forms/Picture.h"
 #include "forms/Rule.h"
 #include "forms/TextBox.h"
+#include "support/Palettes.h"
 #include "support/TempFolder.h"
 
 namespace sorvane::test {
@@ -217,6 +220,56 @@ TEST(MultiLineBox, ReadOnlyTakesNoText) {
     person.Type("a");
     EXPECT_EQ("", box.Text());
     EXPECT_EQ(box.fontMetrics().horizontalAdvance("iiii"), box.fontMetrics().horizontalAdvance("WWWW"));
+}
+
+class FullBox : public testing::Test {
+  protected:
+    LoggingWindow window;
+    MultiLineBox box{"txtAdditionalInfo"};
+    Person person;
+    void SetUp() override {
+        window.LayOut(box);
+        Open(window);
+    }
+    void Paste(const QString& text) {
+        QGuiApplication::clipboard()->setText(text);
+        person.Key(Qt::Key_V, Qt::ControlModifier);
+    }
+};
+
+TEST_F(FullBox, TakesTheFirst32767CharactersOfWhatIsPasted) {
+    Paste(QString(1'000'000, 'x'));
+    EXPECT_TRUE(box.Text() == std::string(32767, 'x'));
+    person.Type("y");
+    person.Enter();
+    person.Commit("z");
+    Paste("more");
+    EXPECT_TRUE(box.Text() == std::string(32767, 'x'));
+    person.Key(Qt::Key_Backspace);
+    person.Enter();  // two characters in what is read back
+    EXPECT_TRUE(box.Text() == std::string(32766, 'x'));
+    person.Type("y");
+    EXPECT_TRUE(box.Text() == std::string(32766, 'x') + "y");
+}
+
+TEST_F(FullBox, ALineBreakCountsAsTheTwoCharactersThatItIsReadAs) {
+    QString lines;
+    for (int i = 0; i < 20'000; ++i) lines += "a\n";
+    Paste(lines);
+    EXPECT_EQ(32767u, box.Text().size());
+    EXPECT_EQ("\r\na", box.Text().substr(32764));
+}
+
+TEST_F(FullBox, WhatIsSelectedMakesRoom) {
+    Paste(QString(32767, 'x'));
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    person.Type("new");
+    EXPECT_TRUE(box.Text() == "new");
+}
+
+TEST_F(FullBox, TheProgramMaySetMore) {
+    box.SetText(std::string(40'000, 'x'));
+    EXPECT_EQ(40'000u, box.Text().size());
 }
 
 TEST(CheckBox, ClickFiresWheneverTheValueChanges) {
@@ -565,7 +618,17 @@ TEST(Picture, WaitsForTheFirstFrameWithItsPlaceKept) {
     EXPECT_EQ(QSize(40, 20), picture.sizeHint());
 }
 
-TEST(Rule, IsALineAcross) { EXPECT_EQ(QFrame::HLine, Rule("Line1").frameShape()); }
+TEST(Rule, IsALineAcrossThatIsSeenInEveryPalette) {
+    for (const auto& [name, palette] : AllPalettes()) {
+        Rule rule("Line1");
+        EXPECT_EQ(QFrame::HLine, rule.frameShape());
+        rule.setPalette(palette);
+        rule.resize(40, 3);
+        const QImage shown = rule.grab().toImage();
+        const QColor paper = palette.color(QPalette::Window);
+        for (const int x : {0, 20, 39}) EXPECT_GE(Look::Contrast(paper, shown.pixelColor(x, 1)), 3) << name;
+    }
+}
 
 }  // namespace
 }  // namespace sorvane::test

@@ -2,15 +2,24 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QClipboard>
+#include <QMenu>
 #include <QStyledItemDelegate>
+#include <QTableView>
+#include <QTest>
+#include <QTextCharFormat>
 #include <QWheelEvent>
 #include <set>
 
 #include "Fixture.h"
 #include "forms/DatePicker.h"
 #include "forms/ListBox.h"
+#include "forms/Look.h"
 #include "forms/MessageBoxes.h"
 #include "forms/TextBox.h"
+#include "forms/Utf8.h"
+#include "support/Palettes.h"
+#include "support/Stage.h"
 
 namespace sorvane::test {
 namespace {
@@ -129,6 +138,94 @@ TEST_F(List, HintIsPaintedWhileTheListIsEmptyAndIsNoRow) {
     EXPECT_NE(bare, list.viewport()->grab().toImage());
     list.SetHint("");
     EXPECT_EQ(bare, list.viewport()->grab().toImage());
+}
+
+TEST_F(List, HintIsToldWhileTheListIsEmptyOnly) {
+    list.SetHint("Check a draw to see your tickets here");
+    EXPECT_EQ("", list.accessibleDescription().toStdString());
+    list.Clear();
+    EXPECT_EQ("Check a draw to see your tickets here", list.accessibleDescription().toStdString());
+    list.AddItem("1, 2, 3");
+    EXPECT_EQ("", list.accessibleDescription().toStdString());
+}
+
+class Copying : public List {
+  protected:
+    void SetUp() override {
+        List::SetUp();
+        QGuiApplication::clipboard()->clear();
+        list.SetFocus();
+    }
+    static std::string Copied() { return ToUtf8(QGuiApplication::clipboard()->text()); }
+    void Choose(const QString& entry, std::string_view letter) {
+        const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        QStringList entries;
+        for (const QAction* action : menu->actions()) entries.push_back(action->text());
+        EXPECT_TRUE(entries.contains(entry));
+        person.Type(letter);
+        EXPECT_FALSE(QApplication::activePopupWidget()) << ToUtf8(entry);
+    }
+    void OpenMenu(int row) {
+        const QPoint at = list.visualRect(list.model()->index(row, 0)).center();
+        const QPoint inWindow = list.viewport()->mapTo(&window, at);
+        QTest::mouseClick(window.windowHandle(), Qt::RightButton, Qt::NoModifier, inWindow);
+        Person::Settle();
+    }
+};
+
+TEST_F(Copying, ControlAAndControlCTakeAllRowsAsTheyAreShown) {
+    list.SetListIndex(1);
+    const QImage before = list.viewport()->grab().toImage();
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_NE(before, list.viewport()->grab().toImage());
+    person.Key(Qt::Key_Control);
+    person.Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("1, 2, 3\n4, 5, 6\n7, 8, 9", Copied());
+    EXPECT_EQ(1, list.ListIndex());
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(Copying, ControlCTakesTheSelectedRow) {
+    person.Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("", Copied());
+    list.SetListIndex(2);
+    person.Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ("7, 8, 9", Copied());
+}
+
+TEST_F(Copying, AnyOtherKeyAClickAndANewRowUnmarkTheRows) {
+    list.SetListIndex(0);
+    const std::function<void()> ways[] = {[&] { person.Key(Qt::Key_Home); },
+                                          [&] { person.ClickRow(list, 0); },
+                                          [&] { list.AddItem("10, 11, 12"); }};
+    for (const auto& way : ways) {
+        person.Key(Qt::Key_A, Qt::ControlModifier);
+        way();
+        person.Key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ("1, 2, 3", Copied());
+    }
+}
+
+TEST_F(Copying, TheMenuOfARowCopiesItOrAllRows) {
+    OpenMenu(1);
+    Choose("&Copy", "c");
+    EXPECT_EQ("4, 5, 6", Copied());
+    OpenMenu(1);
+    Choose("Copy &All", "a");
+    EXPECT_EQ("1, 2, 3\n4, 5, 6\n7, 8, 9", Copied());
+    EXPECT_TRUE(list.HasFocus());
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(Copying, TheMenuOfAnEmptyListOffersNothing) {
+    list.Clear();
+    OpenMenu(0);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(2, menu->actions().size());
+    for (const QAction* action : menu->actions()) EXPECT_FALSE(action->isEnabled());
+    person.Key(Qt::Key_Escape);
 }
 
 TEST_F(List, WinnersHaveAnIconAndAHeavierFontAndKeepTheirText) {
@@ -279,6 +376,30 @@ TEST_F(Dates, CalendarFiresOneChange) {
     person.Enter();
     Person::Await(window);
     EXPECT_EQ((Log{"2026-11-22"}), window.log);
+}
+
+TEST_F(Dates, CalendarHasAnOutlineAndItsWeekendsCanBeRead) {
+    for (const auto& [name, palette] : AllPalettes()) {
+        SetDesktopPalette(palette);
+        Person::Settle();
+        person.Click(date, QPoint(date.width() - 8, date.height() / 2));
+        QWidget& popup = *QApplication::activePopupWidget();
+        const auto* calendar = popup.findChild<QCalendarWidget*>();
+        ASSERT_TRUE(calendar);
+        const QPalette shown = calendar->palette();
+        for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+            EXPECT_GE(Look::Contrast(calendar->weekdayTextFormat(day).foreground().color(),
+                                     shown.color(QPalette::Base)),
+                      4.5)
+                << name;
+        const QImage image = popup.grab().toImage();
+        const int right = image.width() - 1, bottom = image.height() - 1;
+        for (const QPoint at : {QPoint(0, bottom / 2), QPoint(right, bottom / 2), QPoint(right / 2, 0),
+                                QPoint(right / 2, bottom)})
+            EXPECT_GE(Look::Contrast(image.pixelColor(at), shown.color(QPalette::Window)), 3) << name;
+        person.Key(Qt::Key_Escape);
+    }
+    SetDesktopPalette(LightPalette());
 }
 
 TEST_F(Dates, TabLeavesAtOnce) {

@@ -10,7 +10,11 @@
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QGridLayout>
+#include <QHelpEvent>
+#include <QLegendMarker>
+#include <QTest>
 #include <QToolTip>
+#include <QValueAxis>
 #include <set>
 
 #include "Fixture.h"
@@ -136,6 +140,7 @@ class Bars : public testing::Test {
   protected:
     LoggingWindow window;
     Chart chart{"mscNumberFrequency"};
+    Person person;
     void SetUp() override {
         chart.SetTitle("Number Frequency");
         chart.SetAxes("Numbers Drawn", "Times Drawn");
@@ -144,6 +149,16 @@ class Bars : public testing::Test {
         window.resize(1300, 500);
     }
     QChartView* View() const { return chart.findChild<QChartView*>(); }
+    std::string Told() const { return chart.accessibleDescription().toStdString(); }
+    // Moves the mouse to this place of the plot.
+    QPoint Hover(double bar, double value) {
+        const QPointF place =
+            View()->chart()->mapToPosition(QPointF(bar, value), View()->chart()->series().at(0));
+        const QPoint at = View()->mapFromScene(View()->chart()->mapToScene(place));
+        person.MoveTo(*View()->viewport(), at + QPoint(0, 3));
+        person.MoveTo(*View()->viewport(), at);
+        return at;
+    }
     QCategoryAxis& Axis() const {
         return *static_cast<QCategoryAxis*>(View()->chart()->axes(Qt::Horizontal).at(0));
     }
@@ -251,12 +266,130 @@ TEST_F(Bars, HoveringABarShowsItsValue) {
     chart.SetRow(25);
     chart.SetData(40);
     Open(window);
-    Person person;
-    const QPointF top = View()->chart()->mapToPosition(QPointF(24, 20), View()->chart()->series().at(0));
-    const QPoint at = View()->mapFromScene(View()->chart()->mapToScene(top));
-    person.MoveTo(*View()->viewport(), at + QPoint(0, 3));
-    person.MoveTo(*View()->viewport(), at);
+    Hover(24, 20);
     EXPECT_EQ("25: 40", QToolTip::text().toStdString());
+}
+
+TEST_F(Bars, ValueStaysWhileTheMouseRestsOnTheBar) {
+    chart.SetData(40);
+    chart.SetColumnLabel("Frequency");
+    Open(window);
+    const QPoint at = Hover(0, 20);
+    // What Qt sends once the mouse has been at rest for a while.
+    QHelpEvent rest(QEvent::ToolTip, at, View()->viewport()->mapToGlobal(at));
+    QApplication::sendEvent(View()->viewport(), &rest);
+    EXPECT_TRUE(QToolTip::isVisible());
+    EXPECT_EQ("Frequency: 40", QToolTip::text().toStdString());
+    person.MoveTo(*View()->viewport(), QPoint(3, 3));
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+}
+
+class Money : public Bars {
+  protected:
+    void Put(int column, double value, std::string_view label) {
+        chart.SetColumn(column);
+        chart.SetData(value);
+        chart.SetColumnLabel(label);
+    }
+    QValueAxis& Values() const {
+        return *static_cast<QValueAxis*>(View()->chart()->axes(Qt::Vertical).at(0));
+    }
+    // All that is written in the drawing.
+    std::set<std::string> Written() const {
+        std::set<std::string> texts;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item))
+                texts.insert(text->toPlainText().toStdString());
+        return texts;
+    }
+    void SetUp() override {
+        Bars::SetUp();
+        chart.SetColumnCount(2);
+        chart.SetMoney();
+    }
+};
+
+TEST_F(Money, BarsReadAsMoney) {
+    Put(1, 3, "Spent - $3.00");
+    Put(2, -2.5, "Won   - $-2.50");
+    Open(window);
+    Hover(-0.1, 1);
+    EXPECT_EQ("Spent: $3.00", QToolTip::text().toStdString());
+    Hover(0.1, -1);
+    EXPECT_EQ("Won: -$2.50", QToolTip::text().toStdString());
+}
+
+TEST_F(Money, AxisHasThousandsSeparators) {
+    Put(1, 12'345, "Spent");
+    Open(window);
+    EXPECT_TRUE(Written().contains("14,000"));
+    EXPECT_TRUE(Written().contains("2,000"));
+    EXPECT_FALSE(Written().contains("14000"));
+}
+
+TEST_F(Money, SumsBelowZeroHaveTheirBarBelowZero) {
+    Put(1, 40, "Spent");
+    Put(2, -25, "Won  ");
+    Open(window);
+    EXPECT_EQ(-30, Values().min());
+    EXPECT_EQ(40, Values().max());
+    EXPECT_EQ(8, Values().tickCount());
+    const double zero = View()->chart()->mapToPosition({0, 0}, View()->chart()->series().at(0)).y();
+    int lines = 0;
+    for (const QGraphicsItem* item : View()->scene()->items())
+        if (const auto* line = dynamic_cast<const QGraphicsLineItem*>(item);
+            line && line->pen().color() == chart.palette().color(QPalette::Text) && line->line().dy() == 0)
+            lines += std::abs(line->line().y1() - zero) < 1.5;
+    EXPECT_GE(lines, 1);
+    Put(1, 0, "Spent");
+    Person::Settle();
+    EXPECT_EQ(-25, Values().min());
+    EXPECT_EQ(0, Values().max());
+}
+
+TEST_F(Money, LegendShowsTheBlanksAndReadsBackAsGiven) {
+    Put(1, 3, "Spent - $3.00");
+    Put(2, 4, "Won   - $");
+    Open(window);
+    EXPECT_TRUE(Written().contains("Won   - $"));
+    // What is drawn is rich text, which draws no-break blanks one by one.
+    EXPECT_EQ(QString("Won   - $").replace(' ', QChar(QChar::Nbsp)),
+              View()->chart()->legend()->markers().at(1)->label());
+    EXPECT_EQ("Won   - $", chart.ColumnLabel());
+    chart.SetColumnLabel("Won  ");
+    Person::Settle();
+    EXPECT_EQ(QString("Won  ").replace(' ', QChar(QChar::Nbsp)),
+              View()->chart()->legend()->markers().at(1)->label());
+    EXPECT_EQ("Won  ", chart.ColumnLabel());
+}
+
+TEST_F(Money, ContentIsToldAtEachDrawing) {
+    chart.SetHint("Press a button");
+    Open(window);
+    EXPECT_EQ("Press a button", chart.accessibleDescription().toStdString());
+    Put(1, 3, "Spent - $3.00");
+    Put(2, 0, "Won   - $.00");
+    Person::Settle();
+    EXPECT_EQ("Spent: $3.00; Won: $0.00", Told());
+    chart.Clear();
+    Person::Settle();
+    EXPECT_EQ("Press a button", Told());
+}
+
+TEST_F(Bars, ContentOfManyBarsIsToldByThoseThatAreThere) {
+    chart.SetRowCount(49);
+    chart.SetHint("Press a button");
+    chart.SetRow(7);
+    chart.SetData(3);
+    Open(window);
+    EXPECT_EQ("7: 3, others: 0", Told());
+    chart.SetColumnCount(2);
+    for (const int column : {1, 2}) {
+        chart.SetColumn(column);
+        chart.SetColumnLabel("Ball " + std::to_string(column));
+    }
+    Person::Settle();
+    EXPECT_EQ("Ball 1 7: 3, others: 0; Ball 2 all: 0", Told());
 }
 
 TEST_F(Bars, FollowsThePalette) {
@@ -293,11 +426,15 @@ TEST_F(Bars, AnEmptyChartSaysWhatToDo) {
     EXPECT_EQ(1, hints());
 }
 
-TEST_F(Bars, TwoColumnsDifferInLightnessToo) {
-    for (const auto& [name, palette] : AllPalettes()) {
-        const QColor spent = Look::Series(palette, 0), won = Look::Series(palette, 1);
-        EXPECT_GE(Look::Contrast(spent, won), 1.3);
-    }
+TEST_F(Bars, ColumnsDifferInLightnessToo) {
+    constexpr int Columns = 4;  // the balls of a four-digit game
+    for (const auto& [name, palette] : AllPalettes())
+        for (int one = 0; one < Columns; ++one) {
+            const QColor colour = Look::Series(palette, one);
+            EXPECT_GE(Look::Contrast(colour, palette.color(QPalette::Base)), 3) << name << one;
+            for (int other = 0; other < one; ++other)
+                EXPECT_GE(Look::Contrast(colour, Look::Series(palette, other)), 1.2) << name << one << other;
+        }
 }
 
 }  // namespace

@@ -19,10 +19,11 @@ class Printing : public testing::Test {
     QTemporaryDir folder;
     QString file = folder.filePath("page.pdf");
     bool accept = true;
+    QPageSize::PageSizeId size = QPageSize::A4;
     PrinterDialog printer{[this](QPrinter& device) {
         device.setOutputFormat(QPrinter::PdfFormat);
         device.setOutputFileName(file);
-        device.setPageSize(QPageSize(QPageSize::A4));
+        device.setPageSize(QPageSize(size));
         return accept;
     }};
 
@@ -36,6 +37,34 @@ class Printing : public testing::Test {
             pages.push_back(page.split('\n'));
         pages.pop_back();
         return pages;
+    }
+    // Where the words that match lie on the first page, in points.
+    struct Place {
+        double left, top, right, bottom;
+    };
+    Place Extent(const QString& pattern) {
+        const QRegularExpression words(
+            "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
+            "yMax=\"([0-9.]+)\">" +
+            pattern + "</word>");
+        Place place{1e6, 1e6, 0, 0};
+        for (auto word = words.globalMatch(Boxes()); word.hasNext();) {
+            const auto match = word.next();
+            place = {std::min(place.left, match.captured(1).toDouble()),
+                     std::min(place.top, match.captured(2).toDouble()),
+                     std::max(place.right, match.captured(3).toDouble()),
+                     std::max(place.bottom, match.captured(4).toDouble())};
+        }
+        return place;
+    }
+    double PageWidth() {
+        return QRegularExpression("<page width=\"([0-9.]+)\"").match(Boxes()).captured(1).toDouble();
+    }
+    QString Boxes() {
+        QProcess reader;
+        reader.start("pdftotext", {"-bbox", file, "-"});
+        if (!reader.waitForFinished()) throw std::runtime_error("pdftotext is missing");
+        return QString::fromUtf8(reader.readAllStandardOutput());
     }
     static std::string Trimmed(const QString& line) { return ToUtf8(line.trimmed()); }
 };
@@ -72,14 +101,53 @@ TEST_F(Printing, PagesBreakWhereTheyAreFullAndNoLineIsLost) {
     EXPECT_EQ(201, next);
 }
 
-TEST_F(Printing, LineWiderThanThePaperGoesOnInTheNext) {
+// A line of so many characters, with a blank after each ten of them.
+std::string Prose(std::size_t length) {
+    std::string line;
+    while (line.size() < length) line += line.size() % 11 == 10 ? ' ' : 'x';
+    line.back() = '.';
+    return line;
+}
+
+TEST_F(Printing, NoLineIsCutHoweverLongItIs) {
+    for (const auto paper : {QPageSize::A4, QPageSize::Letter}) {
+        size = paper;
+        for (const std::size_t length : {74u, 75u, 76u, 90u, 200u})
+            for (const std::string& line : {std::string(length, 'x'), Prose(length)}) {
+                printer.ShowPrinter();
+                printer.Print("before");
+                printer.Print(line);
+                printer.Print("behind");
+                printer.EndDoc();
+                QProcess reader;
+                reader.start("pdftotext", {"-raw", file, "-"});
+                ASSERT_TRUE(reader.waitForFinished());
+                EXPECT_EQ("before\n" + line + "\nbehind\n\f",
+                          QString::fromUtf8(reader.readAllStandardOutput()).toStdString());
+                EXPECT_LE(Extent("\\S+").right, PageWidth() - 17);
+            }
+    }
+}
+
+TEST_F(Printing, OnlyTheLineThatIsTooWideIsCondensed) {
     printer.ShowPrinter();
-    printer.Print(std::string(70, 'a') + std::string(70, 'b') + ".");
+    printer.Print(std::string(40, 'a'));
+    printer.Print(std::string(200, 'b'));
+    printer.Print(std::string(40, 'c'));
     printer.EndDoc();
-    QString all;
-    const auto pages = Pages();
-    for (const QString& line : pages.at(0)) all += line.trimmed();
-    EXPECT_EQ(std::string(70, 'a') + std::string(70, 'b') + ".", ToUtf8(all));
+    const Place a = Extent("a+"), b = Extent("b+"), c = Extent("c+");
+    EXPECT_NEAR(a.right - a.left, c.right - c.left, 0.1);
+    EXPECT_NEAR(40 * 7.2, a.right - a.left, 2);
+    EXPECT_NEAR(PageWidth() - 36 - 18, b.right - b.left, 1);
+    EXPECT_NEAR(a.bottom - a.top, b.bottom - b.top, 0.5);  // as high as the others
+    EXPECT_NEAR(b.top - a.top, c.top - b.top, 0.1);
+}
+
+TEST_F(Printing, BlanksAtTheEndOfALineDoNotCount) {
+    printer.ShowPrinter();
+    printer.Print(std::string(70, 'a') + std::string(40, ' '));
+    printer.EndDoc();
+    EXPECT_NEAR(70 * 7.2, Extent("a+").right - Extent("a+").left, 3);
 }
 
 TEST_F(Printing, LeftEdgeCountsInTwipsForTheDocumentInHandOnly) {

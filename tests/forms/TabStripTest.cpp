@@ -1,9 +1,16 @@
 // Tabs: what happens in which order when another page comes in front.
 #include "forms/TabStrip.h"
 
+#include <tuple>
+
 #include "Fixture.h"
+#include "forms/ComboBox.h"
 #include "forms/ControlArray.h"
+#include "forms/DatePicker.h"
+#include "forms/ListBox.h"
 #include "forms/MessageBoxes.h"
+#include "forms/MultiLineBox.h"
+#include "forms/NumberBall.h"
 #include "forms/TextBox.h"
 
 namespace sorvane::test {
@@ -113,6 +120,48 @@ TEST_F(Tabs, KeysOnTheTabsChangeThePageAndLeaveTheFocusThere) {
 TEST_F(Tabs, ControlTabChangesThePageInTheSameOrder) {
     person.Key(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ((Log{"-txtNoOfTickets", "+txtWin", "tab &Check Tickets"}), window.log);
+}
+
+// Fields with keys of their own stand on every page.
+class FullTabs : public Tabs {
+  protected:
+    DatePicker date{"dtpEnterTickets"};
+    ListBox list{"lstMessage"};
+    MultiLineBox report{"txtReport"};
+    ComboBox wager{"cboWager", ComboBox::Style::Editable};
+    NumberBall ball{"chkNumb(0)", "1"};
+    std::vector<Control*> all{&date, &list, &report, &wager, &ball, &window.txtWin, &window.cmdCheck};
+    void SetUp() override {
+        for (QWidget* field : std::initializer_list<QWidget*>{&date, &list, &report, &wager, &ball})
+            window.pageCheck.layout()->addWidget(field);
+        list.AddItem("1, 2, 3");
+        Tabs::SetUp();
+    }
+};
+
+TEST_F(FullTabs, KeysForTheNextTabAndTheOneBeforeWorkFromEveryControl) {
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, int> keys[] = {
+        {Qt::Key_Tab, Qt::ControlModifier, 2},
+        {Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier, 0},
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 0},
+        {Qt::Key_PageDown, Qt::ControlModifier, 2},
+        {Qt::Key_PageUp, Qt::ControlModifier, 0}};
+    for (Control* control : all)
+        for (const auto& [key, modifiers, tab] : keys) {
+            window.SSTab1.SetTab(1);
+            control->SetFocus();
+            ASSERT_TRUE(control->HasFocus()) << control->Name();
+            person.Key(key, modifiers);
+            EXPECT_EQ(tab, window.SSTab1.Tab()) << control->Name() << " " << key;
+        }
+}
+
+TEST_F(Tabs, BehindTheLastTabComesTheFirst) {
+    window.SSTab1.SetTab(2);
+    person.Key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(0, window.SSTab1.Tab());
+    person.Key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(2, window.SSTab1.Tab());
 }
 
 TEST_F(Tabs, AccessKeyOfATabChangesThePage) {

@@ -1,9 +1,12 @@
 // Windows: how they open, how they are left, and what goes on behind them.
 #include "forms/Window.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QWindow>
 #include <memory>
@@ -257,30 +260,106 @@ TEST(Window, WindowBelowIsActiveAgainAfterwards) {
     EXPECT_EQ("5", main.txtCount.Text());
 }
 
+TEST(Window, IsAWindowOrADialogToAScreenReaderUnderItsTitle) {
+    LoggingWindow main("frmMain"), small("frmSmall", Window::Kind::Dialog);
+    small.SetCaption("Type of Report");
+    EXPECT_EQ(QAccessible::Window, QAccessible::queryAccessibleInterface(&main)->role());
+    EXPECT_EQ(QAccessible::Dialog, QAccessible::queryAccessibleInterface(&small)->role());
+    EXPECT_EQ("Type of Report",
+              QAccessible::queryAccessibleInterface(&small)->text(QAccessible::Name).toStdString());
+}
+
 struct BoxCase {
     int style;
-    Answer answer, closed;
+    Answer answer;
 };
 
-TEST(MessageBox, EveryStyleGivesEveryAnswerAndTheCloseBoxTheMildestOne) {
-    const BoxCase cases[] = {{BoxStyle::Ok, Answer::Ok, Answer::Ok},
-                             {BoxStyle::Stop, Answer::Ok, Answer::Ok},
-                             {BoxStyle::Exclamation, Answer::Ok, Answer::Ok},
-                             {BoxStyle::OkCancel, Answer::Ok, Answer::Cancel},
-                             {BoxStyle::OkCancel, Answer::Cancel, Answer::Cancel},
-                             {BoxStyle::YesNo, Answer::Yes, Answer::No},
-                             {BoxStyle::YesNo, Answer::No, Answer::No},
-                             {BoxStyle::YesNo | BoxStyle::Exclamation, Answer::No, Answer::No},
-                             {BoxStyle::YesNoCancel, Answer::Yes, Answer::Cancel},
-                             {BoxStyle::YesNoCancel, Answer::No, Answer::Cancel},
-                             {BoxStyle::YesNoCancel, Answer::Cancel, Answer::Cancel}};
+TEST(MessageBox, EveryStyleGivesEveryAnswer) {
+    const BoxCase cases[] = {{BoxStyle::Ok, Answer::Ok},
+                             {BoxStyle::Stop, Answer::Ok},
+                             {BoxStyle::Exclamation, Answer::Ok},
+                             {BoxStyle::OkCancel, Answer::Ok},
+                             {BoxStyle::OkCancel, Answer::Cancel},
+                             {BoxStyle::YesNo, Answer::Yes},
+                             {BoxStyle::YesNo, Answer::No},
+                             {BoxStyle::YesNo | BoxStyle::Exclamation, Answer::No},
+                             {BoxStyle::YesNoCancel, Answer::Yes},
+                             {BoxStyle::YesNoCancel, Answer::No},
+                             {BoxStyle::YesNoCancel, Answer::Cancel}};
     MessageBoxes boxes;
     Person person;
     for (const BoxCase& box : cases) {
         person.Expect("CONFIRM", "Save this sheet of tickets?", box.answer, box.style);
         EXPECT_EQ(box.answer, boxes.MsgBox("Save this sheet of tickets?", box.style, "CONFIRM")) << box.style;
+    }
+}
+
+TEST(MessageBox, EscapeAndTheCloseBoxAnswerCancelWhereThereIsOneAndElseOk) {
+    const BoxCase cases[] = {{BoxStyle::Ok, Answer::Ok},
+                             {BoxStyle::Stop, Answer::Ok},
+                             {BoxStyle::OkCancel, Answer::Cancel},
+                             {BoxStyle::YesNoCancel, Answer::Cancel}};
+    MessageBoxes boxes;
+    Person person;
+    for (const BoxCase& box : cases) {
         person.ExpectClosing("CONFIRM", "x", box.style);
-        EXPECT_EQ(box.closed, boxes.MsgBox("x", box.style, "CONFIRM")) << box.style;
+        EXPECT_EQ(box.answer, boxes.MsgBox("x", box.style, "CONFIRM")) << box.style;
+        person.ExpectKey("CONFIRM", "x", Qt::Key_Escape, box.style);
+        EXPECT_EQ(box.answer, boxes.MsgBox("x", box.style, "CONFIRM")) << box.style;
+    }
+}
+
+TEST(MessageBox, QuestionWithYesAndNoIsNotAnsweredByEscapeAndHasNoCloseBox) {
+    MessageBoxes boxes;
+    Person person;
+    for (const int style : {BoxStyle::YesNo, BoxStyle::YesNo | BoxStyle::Exclamation}) {
+        person.Expect("RECHECK?", "x", Answer::Yes, style, [&] {
+            QWidget& box = person.Front();
+            person.Key(Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible());
+            person.Close(box);
+            EXPECT_TRUE(box.isVisible());
+            EXPECT_FALSE(box.windowFlags() & Qt::WindowCloseButtonHint);
+            EXPECT_TRUE(box.windowFlags() & Qt::WindowTitleHint);
+        });
+        EXPECT_EQ(Answer::Yes, boxes.MsgBox("x", style, "RECHECK?"));
+    }
+}
+
+TEST(MessageBox, EnterIsTheMildestAnswerUnlessItIsToldToBeYes) {
+    const BoxCase cases[] = {{BoxStyle::Ok, Answer::Ok},
+                             {BoxStyle::OkCancel, Answer::Ok},
+                             {BoxStyle::YesNo, Answer::No},
+                             {BoxStyle::YesNo | BoxStyle::EnterIsYes, Answer::Yes},
+                             {BoxStyle::YesNoCancel, Answer::Cancel}};
+    MessageBoxes boxes;
+    Person person;
+    for (const BoxCase& box : cases) {
+        person.ExpectKey("CONFIRM", "x", Qt::Key_Return, box.style & ~BoxStyle::EnterIsYes);
+        EXPECT_EQ(box.answer, boxes.MsgBox("x", box.style, "CONFIRM")) << box.style;
+    }
+}
+
+TEST(MessageBox, TextBeginsAtTheLeftEdgeAndButtonsBearNoPictures) {
+    for (const int style : {BoxStyle::Ok, BoxStyle::YesNoCancel}) {
+        Person person;
+        person.Expect("CONFIRM", "Tickets Saved", style == BoxStyle::Ok ? Answer::Ok : Answer::No, style,
+                      [&] {
+                          QWidget& box = person.Front();
+                          auto& label = Person::FindIn<QLabel>(box, "qt_msgbox_label");
+                          EXPECT_EQ(box.layout()->contentsMargins().left(), label.mapTo(&box, QPoint()).x());
+                          EXPECT_EQ(label.contentsRect().left(), 0);
+                          EXPECT_EQ(label.indent(), 0);
+                          const QImage shown = label.grab().toImage();
+                          const QColor paper = shown.pixelColor(0, 0);
+                          int ink = 0;
+                          for (int x = 0; x < 5 && !ink; ++x)
+                              for (int y = 0; y < shown.height(); ++y) ink += shown.pixelColor(x, y) != paper;
+                          EXPECT_GT(ink, 0);
+                          for (const auto* button : box.findChildren<QPushButton*>())
+                              EXPECT_TRUE(button->icon().isNull());
+                      });
+        MessageBoxes().MsgBox("Tickets Saved", style, "CONFIRM");
     }
 }
 

@@ -312,6 +312,11 @@ void Person::ExpectClosing(std::string_view title, std::string_view text, int st
     awaited_.back().close = true;
 }
 
+void Person::ExpectKey(std::string_view title, std::string_view text, Qt::Key key, int style) {
+    Expect(title, text, Answer::Ok, style);
+    awaited_.back().key = key;
+}
+
 void Person::ExpectWindow(std::string_view name, std::function<void(QWidget&)> act) {
     Event event;
     event.window = name;
@@ -370,11 +375,12 @@ void Person::AnswerBox(QMessageBox& box, const Event& event) {
     EXPECT_EQ(event.style, StyleOf(box)) << Describe(box);
     EXPECT_EQ(Qt::PlainText, box.textFormat());
     if (event.meanwhile) event.meanwhile();
-    if (event.close) return Close(box);
     QAbstractButton* button = box.button(ButtonOf(event.answer));
-    if (!button) return Unexpected(box);
+    if (!button && !event.close && event.key == Qt::Key_unknown) return Unexpected(box);
     const QPointer<QWidget> guard(&box);
-    Click(*button);
+    if (event.close) Close(box);
+    else if (event.key != Qt::Key_unknown) Key(event.key);
+    else Click(*button);
     if (guard && guard->isVisible()) Unexpected(box);
 }
 

@@ -72,6 +72,8 @@ class Person : public QObject {
     // A message box that will come: answered by a click on its button. `meanwhile` runs while it is up.
     void Expect(std::string_view title, std::string_view text, Answer answer = Answer::Ok,
                 int style = BoxStyle::Ok, std::function<void()> meanwhile = nullptr);
+    // A message box that will come, answered by this key.
+    void ExpectKey(std::string_view title, std::string_view text, Qt::Key key, int style = BoxStyle::Ok);
     // A message box that will come, closed by the close box of its frame.
     void ExpectClosing(std::string_view title, std::string_view text, int style = BoxStyle::Ok);
     // A modal window of ours that will come; `act` uses it and has to leave it.
@@ -107,6 +109,7 @@ class Person : public QObject {
         Answer answer = Answer::Ok;
         int style = BoxStyle::Ok;
         bool close = false;
+        Qt::Key key = Qt::Key_unknown;
         std::function<void()> meanwhile;
         std::string window;  // not empty: a window of ours
         std::function<void(QWidget&)> act;

@@ -170,6 +170,29 @@ TEST_F(AccessibleTree, OfTheOtherWindows) {
     SeeOtherWindows(*this, [](forms::Window& window) { ExpectTold(window, window.Name()); });
 }
 
+TEST_F(AccessibleTree, WindowsAreWindowsOrDialogsUnderTheirTitles) {
+    int seen = 0;
+    SeeOtherWindows(*this, [&](forms::Window& window) {
+        Node node = QAccessible::queryAccessibleInterface(&window);
+        const bool main = window.Name() == "frmMain";
+        EXPECT_EQ(node->role(), main ? QAccessible::Window : QAccessible::Dialog) << window.Name();
+        EXPECT_EQ(Told(node, QAccessible::Name), window.Caption());
+        ++seen;
+    });
+    EXPECT_EQ(seen, 8);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&Show("mnuCANQC3"))->role(), QAccessible::Dialog);
+}
+
+TEST_F(AccessibleTree, LowAndHighHaveNamesOfTheirOwn) {
+    frmRequestNewLottery window(run);
+    window.Show();
+    Person::Settle();
+    const Tree tree(window, "request");
+    EXPECT_EQ(Told(tree.Of(Person::FindIn<QWidget>(window, "txtLow")), QAccessible::Name), "Low");
+    EXPECT_EQ(Told(tree.Of(Person::FindIn<QWidget>(window, "txtHigh")), QAccessible::Name), "High");
+    window.Unload();
+}
+
 class AccessibleState : public WindowWorld {};
 
 TEST_F(AccessibleState, SaysWhichNumbersAreTicked) {

@@ -1,5 +1,7 @@
 // The first tab of the game window: what it shows at load, its filters, the money, the tabs and the ways out.
 #include <QAccessible>
+#include <QDialog>
+#include <tuple>
 
 #include "support/Games.h"
 #include "windows/Slip.h"
@@ -384,6 +386,38 @@ TEST_F(EnterTickets, LettersPastedIntoTheCountAreATypeMismatch) {
     person.Expect("Sorvane", "Run-time error '13':\n\nType mismatch", Answer::Ok, BoxStyle::Stop);
     person.Tab();
     EXPECT_TRUE(Window().IsShown());
+}
+
+// Some fields on the pages have keys of their own.
+class TabKeys : public WindowWorld, public ::testing::WithParamInterface<std::string_view> {};
+INSTANTIATE_TEST_SUITE_P(Families, TabKeys,
+                         ::testing::Values("mnuCANONTLotto649", "mnuCANONTSuper7", "mnuCANONTLOTTARIO",
+                                           "mnuCANONTKENO", "mnuCANONTPICK3", "mnuUSFLAPlay4"),
+                         [](const auto& menu) { return std::string(menu.param); });
+
+TEST_P(TabKeys, NextTabAndTheOneBeforeFromEveryControlOfEveryPage) {
+    GameWindow& window = Show(GetParam());
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, int> keys[] = {
+        {Qt::Key_Tab, Qt::ControlModifier, 1},
+        {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, 3},
+        {Qt::Key_PageDown, Qt::ControlModifier, 1},
+        {Qt::Key_PageUp, Qt::ControlModifier, 3}};
+    // What refuses to be left is no matter of these keys.
+    person.MeetAll([](QWidget& box) { static_cast<QDialog&>(box).reject(); });
+    int controls = 0;
+    for (int page = 0; page < 4; ++page)
+        for (auto* widget : window.Pages[static_cast<std::size_t>(page)].findChildren<QWidget*>())
+            for (const auto& [key, modifiers, step] : keys) {
+                if (window.SSTab1.Tab() != page) window.SSTab1.SetTab(page);
+                auto* control = dynamic_cast<forms::Control*>(widget);
+                if (!control || !widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus)) continue;
+                control->SetFocus();
+                if (!control->HasFocus()) continue;
+                ++controls;
+                person.Key(key, modifiers);
+                EXPECT_EQ(window.SSTab1.Tab(), (page + step) % 4) << control->Name() << ", key " << key;
+            }
+    EXPECT_GT(controls, 4 * 30);
 }
 
 }  // namespace

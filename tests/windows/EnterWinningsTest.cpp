@@ -81,6 +81,20 @@ TEST_F(Winnings, AnAmendmentCanBeRefusedAndTheBoxComesAllTheSame) {
     EXPECT_EQ(Rows("SELECT Winnings FROM Winnings"), Texts{"6"});
 }
 
+TEST_F(Winnings, EnterAmendsNothing) {
+    Open("mnuCANBCBC49");
+    TicketOfBC49();
+    ExpectSaved();
+    Enter("5");
+    person.ExpectKey("Correct Winnings?",
+                     "You have already entered a Winning amount for this\r\n"
+                     "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
+                     Qt::Key_Return, BoxStyle::YesNo);
+    ExpectSaved();
+    Enter("6");
+    EXPECT_EQ(Rows("SELECT Winnings FROM Winnings"), Texts{"5"});
+}
+
 TEST_F(Winnings, OnlyACheckEndsTheEnteringOfWinnings) {
     Open("mnuCANBCBC49");
     TicketOfBC49();

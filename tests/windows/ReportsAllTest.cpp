@@ -1,4 +1,7 @@
 // The report over all lotteries, and the question which report of a digit game is wanted.
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
 #include "MainWindow.h"
 #include "ReportsWorld.h"
 #include "forms/Look.h"
@@ -84,6 +87,17 @@ TEST_F(AllReportsTest, ListsEveryRowWithItsGameUnderAHeadWithoutTitle) {
                           "                                   Total Won   :   $      1,000.50\r\n"
                           "                                   ----------------------------------\r\n\r\n"
                           "                                   Difference  :   $       (988.00)\r\n");
+}
+
+TEST_F(AllReportsTest, ShowsAReportWithARowALedgerToItsDifferenceWithoutScrolling) {
+    AddMoney("Spent", "Lotto649", 0, "10");
+    AddMoney("Winnings", "Super 7", 0, "1000");
+    OpenAll();
+    Click("cmdPLReport");
+    ASSERT_NE(Text().find("Difference  :"), std::string::npos);
+    const auto& report = person.Find<QPlainTextEdit>("txtReport");
+    EXPECT_EQ(report.verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(report.horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(AllReportsTest, WithoutTicketsTheBoxComesAndTheReportHasHeadingsAndTotals) {

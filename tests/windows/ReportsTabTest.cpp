@@ -129,6 +129,32 @@ TEST_P(EveryReportsTab, WithoutTicketsTheBoxComesAndTheReportHasHeadingsAndTotal
     EXPECT_EQ(Legend(Reports().mscProfitLoss, 2), "Won   - $0.00");
 }
 
+TEST_P(EveryReportsTab, AButtonThatFoundNothingSaysSoInTheChart) {
+    OpenReports(GetParam());
+    const auto said = [](forms::Chart& chart) {
+        std::set<std::string> texts;
+        for (const QGraphicsItem* item : chart.findChild<QGraphicsView*>()->scene()->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item))
+                texts.insert(text->toPlainText().toStdString());
+        return texts;
+    };
+    constexpr auto Start = "Nothing to see yet: press a button beside the chart";
+    EXPECT_TRUE(said(Reports().mscNumberFrequency).contains(Start));
+    if (!IsKeno80()) ExpectNoRows();
+    Click("cmdNumberFrequency");
+    EXPECT_FALSE(said(Reports().mscNumberFrequency).contains(Start));
+    const auto none = IsKeno80() ? "There is no chart of the numbers of this game" : "No winning numbers yet";
+    EXPECT_TRUE(said(Reports().mscNumberFrequency).contains(none));
+    EXPECT_EQ(Reports().mscNumberFrequency.accessibleDescription().toStdString(), none);
+    ExpectNoTickets();
+    Click("cmdProfitLoss");
+    EXPECT_TRUE(said(Reports().mscProfitLoss).contains("No tickets yet"));
+    AddMoney("Spent", GetParam().LottoFlag, 0, "1234.5");
+    Click("cmdProfitLoss");
+    EXPECT_FALSE(said(Reports().mscProfitLoss).contains("No tickets yet"));
+    EXPECT_EQ(Reports().mscProfitLoss.accessibleDescription().toStdString(), "Spent: $1,234.50; Won: $0.00");
+}
+
 TEST_P(EveryReportsTab, CancelEmptiesBothCharts) {
     OpenReports(GetParam());
     AddMoney("Spent", GetParam().LottoFlag, 0, "7");

@@ -348,6 +348,23 @@ TEST_F(SheetFlowTest, WithoutSheetsTheQuestionForTheTicketsOfOneTakesAllThatAreL
     }
 }
 
+TEST_F(SheetFlowTest, EnterSavesASheetAndThrowsNoEntryAway) {
+    Show("mnuCANBCBC49");
+    SeveralSheets(2, 2);
+    PickFrom(1, 6);
+    person.ExpectKey("CONFIRM", "Save this sheet of tickets?", Qt::Key_Return, BoxStyle::YesNo);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    Click("cmdSave");
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+    Pick({1, 2});
+    person.ExpectKey("CONFIRM", "Are you sure you wish to start over?", Qt::Key_Return, BoxStyle::YesNo);
+    Click("cmdCancel");
+    EXPECT_TRUE(IsTicked("chkNumb(1)"));
+    person.ExpectKey("Exiting before completion...", CleanUpText, Qt::Key_Return, BoxStyle::YesNoCancel);
+    Click("cmdExit(0)");
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+}
+
 TEST_F(SheetFlowTest, CancelAsksAndStartsOverWithoutTouchingTheStore) {
     Show("mnuCANBCBC49");
     ExpectSheets("2");

@@ -36,6 +36,27 @@ TEST_F(QuickPickPage, InTheOtherLottoWindowsTheWheelIsIgnoredButItsCountReplaces
     EXPECT_EQ(Window().State.QuickPicks.UBound(), 9);
 }
 
+TEST_F(QuickPickPage, AClickSelectsWhatIsThereSoThatADigitReplacesIt) {
+    Open("mnuCANONTLotto649");
+    Click("optWheelType(2)");
+    Click("txtNoOfTickets(1)");
+    person.Type("2");
+    EXPECT_EQ(TextOf("txtNoOfTickets(1)"), "2");
+    Click("txtHowMany");
+    person.Type("7");
+    EXPECT_EQ(TextOf("txtHowMany"), "7");
+    person.Tab();
+    person.Type("5");
+    Click(Fav(1));
+    person.Type("9");
+    Click(Fav(0));
+    person.Type("8");
+    EXPECT_EQ(TextOf(Fav(0)), "8");
+    Click(Fav(1));
+    person.Type("7");
+    EXPECT_EQ(TextOf(Fav(1)), "7");
+}
+
 TEST_F(QuickPickPage, WhicheverCountWasLeftLastDecides) {
     Open("mnuCANONTLotto649");
     Put("txtHowMany", "9");

@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "checking/CheckFacts.h"
@@ -40,6 +41,11 @@ bool IsWinner(std::string_view line) {
            (line.find(" won ") != std::string_view::npos && !line.starts_with("Sorry"));
 }
 
+// The last box of the lotto games, told from the others by a plus sign before it.
+bool IsBonusBox(Family family, int index) {
+    return !IsPick(family) && !IsKeno(family) && index == BoxCount[family] - 1;
+}
+
 }  // namespace
 
 CheckTicketsTab::CheckTicketsTab(GameFrame& window)
@@ -67,8 +73,8 @@ void CheckTicketsTab::MakeBoxes() {
             box.SetText("");
             box.SetAccessibleName("Winning digit " + Str(i + 1));
         } else {
-            const bool bonus = !IsKeno(family) && i == count - 1;
-            txtWin.Load(i).SetAccessibleName(bonus ? "Bonus number" : "Winning number " + Str(i + 1));
+            txtWin.Load(i).SetAccessibleName(IsBonusBox(family, i) ? "Bonus number"
+                                                                   : "Winning number " + Str(i + 1));
         }
     }
     if (HasFour[family]) {
@@ -86,7 +92,7 @@ void CheckTicketsTab::MakeBoxes() {
         lblEncorePlayed.emplace("lblEncorePlayed", "Encore #'s:");
         lstEncorePlayed.emplace("lstEncorePlayed");
         // Play 4 shows the list, but it stays empty.
-        if (HasEncoreBox[family]) lstEncorePlayed->SetHint("Its add-on numbers");
+        if (HasEncoreBox[family]) lstEncorePlayed->SetHint("Their add-on numbers");
     }
 }
 
@@ -141,7 +147,12 @@ QLayout* CheckTicketsTab::WinnerRow() {
     const int width = forms::Look::DigitsWidth(page, 3);
     txtWin.ForEach([&](forms::TextBox& box, int i) {
         box.setFixedWidth(width);
-        numbers->addWidget(&box, i / BoxesARow, i % BoxesARow);
+        int column = i % BoxesARow;
+        if (IsBonusBox(window_.Which, i)) {
+            auto* plus = new QLabel(QStringLiteral("+"));
+            numbers->addWidget(plus, i / BoxesARow, column++, Qt::AlignCenter);
+        }
+        numbers->addWidget(&box, i / BoxesARow, column);
     });
     cboWin.ForEach([&](forms::ComboBox& box, int i) { numbers->addWidget(&box, 0, i); });
     auto* four = new QHBoxLayout;

@@ -3,20 +3,70 @@
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "entry/EntryFacts.h"
 #include "entry/ui/GameWindow.h"
 #include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "shell/Catalogue.h"
+#include "shell/ui/ToolTips.h"
 
 namespace sorvane {
 
 using namespace EntryFacts;
 
 namespace {
+
+// A line beside the field of the add-on while nobody has been there in this run of the program: until then
+// the first save fails.
+class Advice final : public QLabel {
+  public:
+    Advice(QWidget& field, const char* text, std::function<bool()> isNeeded)
+        : QLabel(QString::fromLatin1(text)), field_(field), isNeeded_(std::move(isNeeded)) {
+        setForegroundRole(QPalette::PlaceholderText);
+        // It takes the room that is left and asks for none.
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        field.installEventFilter(this);
+        Follow();
+    }
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        const auto kinds = {QEvent::Show,       QEvent::Hide,    QEvent::FocusOut, QEvent::MouseButtonRelease,
+                            QEvent::KeyRelease, QEvent::Shortcut};
+        // Behind the handlers of what has happened.
+        if (std::find(kinds.begin(), kinds.end(), event->type()) != kinds.end())
+            QMetaObject::invokeMethod(
+                this, [this] { Follow(); }, Qt::QueuedConnection);
+        return QLabel::eventFilter(receiver, event);
+    }
+
+  private:
+    void Follow() {
+        const bool needed = isNeeded_();
+        setVisible(needed && field_.isVisible());
+        field_.setToolTip(needed ? text() : QString());
+        field_.setAccessibleDescription(field_.toolTip());
+    }
+    QWidget& field_;
+    std::function<bool()> isNeeded_;
+};
+
+constexpr const char* CountAdvice = "Not played? Visit this field once.";
+constexpr const char* CheckAdvice = "Not played? Tick once and untick.";
+constexpr std::string_view ShutHint = "Type how many tickets, then press Tab";
+
+// Whether saving fails until the add-on's count was left, or its box ticked, once in the run.
+bool NeedsVisit(const GameWindow& window, bool byCount) {
+    const Global& g = window.run.global;
+    const AddOn* addOn = FindAddOn(g.ExtraFlag);
+    return addOn && !addOn->FourNumbers && Has(Saves[window.Which], g.ExtraFlag) &&
+           addOn->CountedOnSheet == byCount && !g.AddOnTickets.Sized();
+}
 
 constexpr int CountDigits = 5;
 constexpr int AmountDigits = 8;
@@ -48,6 +98,7 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
     txtDollars.OnLostFocus([this] { txtDollars_LostFocus(); });
     capture_ = MakeCapture(window);
     fraTickets.LeaveByPress(count);
+    cmdRegular.setToolTip(DoesNothing());
     fraTicketNumber.SetHint([this] { return Progress(); });
     for (auto* number : capture_->Slip().findChildren<QAbstractButton*>())
         QObject::connect(number, &QAbstractButton::toggled, &fraTicketNumber,
@@ -100,7 +151,11 @@ QLayout* EnterTicketsTab::HeadRow() {
     };
     add(lblDrawDate, window_.dtpEnterTickets(0));
     addCount(lblNoTickets, window_.txtNoOfTickets(0));
-    if (AddOns.txtNoOfExtra) addCount(*AddOns.lblNoOfExtra, *AddOns.txtNoOfExtra);
+    if (AddOns.txtNoOfExtra) {
+        addCount(*AddOns.lblNoOfExtra, *AddOns.txtNoOfExtra);
+        const auto needed = [&window = window_] { return NeedsVisit(window, true); };
+        head->addWidget(new Advice(*AddOns.txtNoOfExtra, CountAdvice, needed), 1, column);
+    }
     head->setColumnStretch(column, 1);
     return head;
 }
@@ -126,6 +181,10 @@ QLayout* EnterTicketsTab::MarksRow() {
         box.setFixedWidth(forms::Look::DigitsWidth(page, 3));
         addOn->addWidget(&box);
     });
+    if (AddOns.chkEncore) {
+        const auto needed = [&window = window_] { return NeedsVisit(window, false); };
+        addOn->addWidget(new Advice(*AddOns.chkEncore, CheckAdvice, needed), 100);
+    }
     addOn->addStretch(1);
     addOn->addWidget(&lblInfo);
     addOn->addStrut(txtDollars.sizeHint().height());
@@ -190,8 +249,13 @@ void EnterTicketsTab::ShowTitle(std::string_view kind, int number) {
 }
 
 std::string EnterTicketsTab::Progress() const {
+    const Global& g = window_.run.global;
+    // EnteringAddOns may be on still from the sheet before.
+    const std::string next = cmdNext_Ticket.Caption();
+    if (next == AddOnCaption::NextExtra || next == AddOnCaption::NextEncore)
+        return "Add-on number " + Str(std::min(g.ExtraNo + 1, int{g.NoOfExtra})) + " of " + Str(g.NoOfExtra);
     const int tickets = capture_->TicketsOnSheet();
-    if (tickets <= 0) return {};
+    if (tickets <= 0 || g.TotalTickets == 0) return std::string(IsPick(window_.Which) ? "" : ShutHint);
     const TicketCapture::Marks marks = capture_->Marked();
     const std::string filled = "ickets filled " + Str(window_.run.global.TicketNo) + " of " + Str(tickets);
     if (marks.wanted == 0) return "T" + filled;

@@ -43,9 +43,7 @@ void GameWindow::AttachSharedHandlers() {
     txtNoOfTickets.OnKeyPress(
         [this](int Index, forms::KeyPress& key) { txtNoOfTickets_KeyPress(Index, key); });
     txtNoOfTickets.OnLostFocus([this](int Index) { Sheets.TicketCountLeft(Index); });
-    txtNoOfTickets.OnGotFocus([this](int Index) {
-        if (Index == 0) txtNoOfTickets(0).SelectAll();
-    });
+    txtNoOfTickets.OnGotFocus([this](int Index) { txtNoOfTickets(Index).SelectAll(); });
     dtpEnterTickets.OnChange([this](int Index) { dtpEnterTickets_Change(Index); });
     dtpEnterTickets.OnLostFocus([this](int Index) { run.global.DrawDate = dtpEnterTickets(Index).Value(); });
     cmdExit.OnClick([this](int) { cmdExit_Click(); });

@@ -114,7 +114,8 @@ void SheetFlow::cmdSave_Click() {
     w.State.WindowDate = w.dtpEnterTickets(0).Value();
     if (ProbesAtSave[w.Which]) MakePlayedTable();
     if (StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
-    if (window_.MsgBox("Save this sheet of tickets?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes) NotSaved();
+    constexpr int Style = BoxStyle::YesNo | BoxStyle::EnterIsYes;
+    if (window_.MsgBox("Save this sheet of tickets?", Style, "CONFIRM") != Answer::Yes) NotSaved();
     else if (w.Enter.Capture().SheetIsFull()) SaveSheet();
     w.State.SavingSheet = false;
     if (TablesAfterSave[w.Which]) CreateAllTables(w.run, w.Which, w.State);

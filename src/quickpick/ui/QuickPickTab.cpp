@@ -12,6 +12,7 @@
 #include "quickpick/QuickPickFacts.h"
 #include "quickpick/QuickPickPages.h"
 #include "shell/ui/GameFrame.h"
+#include "shell/ui/ToolTips.h"
 
 namespace sorvane {
 
@@ -53,6 +54,7 @@ QuickPickTab::QuickPickTab(GameFrame& window, ChartFace& frequencies)
     lstDisplay.SetFixedPitch();
     lstDisplay.SetHint("The numbers of each ticket, once they are generated");
     cmdGenerate.OnClick([this] { cmdGenerate_Click(); });
+    for (QWidget* button : {&cmdUse, &cmdHelp}) button->setToolTip(DoesNothing());
     cmdPrint.OnClick([this] { cmdPrint_Click(); });
     LayOut();
 }

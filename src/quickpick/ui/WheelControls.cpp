@@ -57,8 +57,10 @@ void WheelControls::MakeControls() {
 void WheelControls::AttachHandlers() {
     if (WheelLive[window_.Which]) optWheelType.OnClick([this](int Index) { optWheelType_Click(Index); });
     txtHowMany.OnKeyPress([this](forms::KeyPress& key) { txtHowMany_KeyPress(key); });
+    txtHowMany.OnGotFocus([this] { txtHowMany.SelectAll(); });
     txtHowMany.OnLostFocus([this] { txtHowMany_LostFocus(); });
     txtFavs.OnKeyPress([this](int Index, forms::KeyPress& key) { txtFavs_KeyPress(Index, key); });
+    txtFavs.OnGotFocus([this](int Index) { txtFavs(Index).SelectAll(); });
     txtFavs.OnLostFocus([this](int Index) { txtFavs_LostFocus(Index); });
 }
 

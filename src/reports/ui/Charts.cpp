@@ -9,6 +9,7 @@ using namespace ReportFacts;
 void EmptyMoneyChart(forms::Chart& chart, const MoneyCaptions& captions) {
     chart.SetTitle(captions.title);
     chart.SetAxes(captions.bars, MoneyAxis);
+    chart.SetMoney();
     chart.SetRowCount(1);
     chart.SetColumnCount(2);
     chart.SetRow(1);

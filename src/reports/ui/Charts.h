@@ -24,8 +24,11 @@ class ChartCells final : public ChartFace {
     forms::Chart& chart_;
 };
 
-// What an empty chart says.
+// What an empty chart says: before a button was pressed, and when the button found nothing to draw.
 inline constexpr std::string_view EmptyChartHint = "Nothing to see yet: press a button beside the chart";
+inline constexpr std::string_view NoDrawsHint = "No winning numbers yet";
+inline constexpr std::string_view NoTicketsHint = "No tickets yet";
+inline constexpr std::string_view NoChartHint = "There is no chart of the numbers of this game";
 
 // The captions of a money chart. `bars` is the caption below the two columns, "" for none.
 struct MoneyCaptions {

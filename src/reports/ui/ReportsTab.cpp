@@ -15,6 +15,7 @@
 #include "reports/ui/frmReportType.h"
 #include "shell/FamilyFacts.h"
 #include "shell/ui/GameFrame.h"
+#include "shell/ui/ToolTips.h"
 #include "shell/ui/Windows.h"
 
 namespace sorvane {
@@ -30,8 +31,8 @@ ReportsTab::ReportsTab(GameFrame& window)
     : cmdReport(ReportButton[window.Which], "Number &Frequency"), window_(window) {
     window.cmdExit.Load(3, "E&xit");
     cmdPrintReport.SetEnabled(false);
+    if (!PrintsReport[window.Which]) cmdPrintReport.setToolTip(DoesNothing());
     mscProfitLoss.SetVisible(false);
-    for (forms::Chart* chart : {&mscNumberFrequency, &mscProfitLoss}) chart->SetHint(EmptyChartHint);
     CaptionNumberChart();
     ClearCharts();
     cmdNumberFrequency.OnClick([this] { cmdNumberFrequency_Click(); });
@@ -74,6 +75,7 @@ void ReportsTab::Show(const forms::Control& seen) {
 
 void ReportsTab::ClearCharts() {
     const Family family = window_.Which;
+    for (forms::Chart* chart : {&mscNumberFrequency, &mscProfitLoss}) chart->SetHint(EmptyChartHint);
     mscNumberFrequency.Clear();
     EmptyMoneyChart(mscProfitLoss, {MoneyChartTitle[family], MoneyChartAxis[family], WonLegend[family]});
 }
@@ -88,6 +90,7 @@ void ReportsTab::cmdNumberFrequency_Click() {
     Show(mscNumberFrequency);
     if (IsPick(window_.Which)) ChartDigits(window_.run, Args(), Frequencies);
     else ChartFrequency(window_.run, Args(), Frequencies);
+    mscNumberFrequency.SetHint(Tally[window_.Which] ? NoDrawsHint : NoChartHint);
 }
 
 void ReportsTab::cmdReport_Click() {
@@ -111,6 +114,7 @@ void ReportsTab::cmdProfitLoss_Click() {
     Show(mscProfitLoss);
     ChartCells cells(mscProfitLoss);
     ChartMoney(window_.run, GameMoney, state.DbName, state.TableName, state.mode, cells);
+    mscProfitLoss.SetHint(NoTicketsHint);
 }
 
 void ReportsTab::cmdPLReport_Click() {

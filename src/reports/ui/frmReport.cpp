@@ -1,5 +1,7 @@
 #include "reports/ui/frmReport.h"
 
+#include <QBoxLayout>
+
 #include "reports/MoneyReport.h"
 #include "reports/ReportFacts.h"
 #include "reports/ui/Charts.h"
@@ -9,6 +11,11 @@
 namespace sorvane {
 
 using namespace ReportFacts;
+
+namespace {
+// A report with one row a ledger, to its last line: the difference.
+constexpr int Lines = 33;
+}  // namespace
 
 frmReport::frmReport(Run& run) : Window("frmReport"), run_(run) {
     SetCaption(AllCaption);
@@ -23,6 +30,9 @@ frmReport::frmReport(Run& run) : Window("frmReport"), run_(run) {
 void frmReport::LayOut() {
     LayOutReports(*this, {&mscProfitLoss, &txtReport},
                   {{"Charts", "chart", {&cmdProfitLoss}}, {"Reports", "report", {&cmdPLReport}}}, cmdExit);
+    // As high as that where there is room; it gives way where there is not.
+    static_cast<QBoxLayout*>(layout())->addItem(new QSpacerItem(
+        0, txtReport.fontMetrics().lineSpacing() * Lines, QSizePolicy::Fixed, QSizePolicy::Preferred));
 }
 
 void frmReport::Form_Load() {
@@ -38,6 +48,7 @@ void frmReport::cmdProfitLoss_Click() {
     mscProfitLoss.SetVisible(true);
     ChartCells cells(mscProfitLoss);
     ChartMoney(run_, AllGamesMoney, DbName_, TableName_, mode_, cells);
+    mscProfitLoss.SetHint(NoTicketsHint);
 }
 
 void frmReport::cmdPLReport_Click() {

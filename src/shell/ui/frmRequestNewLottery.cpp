@@ -153,6 +153,9 @@ QLayout* frmRequestNewLottery::LotteryGrid() {
     grid->addLayout(Beside(space, {&txtNumberOfNumbers}), row++, 1);
     lblLow.SetBuddy(txtLow);
     lblHigh.SetBuddy(txtHigh);
+    // The label of both would name the first.
+    txtLow.SetAccessibleName("Low");
+    txtHigh.SetAccessibleName("High");
     label(lblRange, txtLow);
     grid->addLayout(Beside(space, {&lblLow, &txtLow, &lblHigh, &txtHigh}), row, 1);
     return grid;

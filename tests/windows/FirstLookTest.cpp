@@ -1,0 +1,188 @@
+// What a game window tells somebody who opens it for the first time, and what it does with more room.
+#include <QApplication>
+#include <QLabel>
+#include <tuple>
+
+#include "forms/Chart.h"
+#include "forms/LabelFrame.h"
+#include "forms/Look.h"
+#include "windows/Slip.h"
+
+namespace sorvane::test {
+namespace {
+
+class FirstLook : public SlipWorld {
+  public:
+    // What stands beside the title of the ticket: painted, and told to a screen reader.
+    std::string Beside() {
+        Person::Settle();
+        const QWidget& frame = Find("fraTicketNumber");
+        const QString told = frame.accessibleDescription();
+        EXPECT_NE(PaintedBeside(), WithoutHint()) << told.toStdString();
+        return told.toStdString();
+    }
+    // The line of advice that is seen, "" for none.
+    std::string Advice() {
+        Person::Settle();
+        std::string seen;
+        for (const auto* label : Window().findChildren<QLabel*>())
+            if (label->isVisible() && label->text().startsWith("Not played?"))
+                seen += label->text().toStdString();
+        return seen;
+    }
+    void ExpectAdvice(std::string_view field, const std::string& advice) {
+        EXPECT_EQ(Advice(), advice);
+        EXPECT_EQ(Find(field).toolTip().toStdString(), advice);
+        EXPECT_EQ(Find(field).accessibleDescription().toStdString(), advice);
+    }
+
+  private:
+    QImage PaintedBeside() {
+        QWidget& frame = Find("fraTicketNumber");
+        const QRect heading(frame.width() / 2, 0, frame.width() / 2, forms::Look::Heading(frame));
+        return frame.grab(heading).toImage();
+    }
+    QImage WithoutHint() {
+        QImage empty = PaintedBeside();
+        empty.fill(empty.pixelColor(0, 0));
+        return empty;
+    }
+};
+
+TEST_F(FirstLook, AShutSlipSaysWhatToDoUntilTheCountIsGiven) {
+    for (const char* menu : {"mnuCANBCBC49", "mnuCANONTSuper7", "mnuCANONTLOTTARIO"}) {
+        Show(menu);
+        EXPECT_EQ(Beside(), "Type how many tickets, then press Tab") << menu;
+        Count("1");
+        EXPECT_EQ(Beside().find("Type how"), std::string::npos) << menu;
+    }
+}
+
+TEST_F(FirstLook, ProgressIsToldAsItIsPaintedOnEverySheetAndCountsTheAddOnNumbersInTheirPhase) {
+    Show("mnuCANONTLotto649");
+    SeveralSheets(2, 2);
+    EXPECT_EQ(Beside(), "Numbers 0 of 6, tickets filled 0 of 1");
+    Put("txtNoOfExtra", "2");
+    PickFrom(1, 6);
+    EXPECT_EQ(Beside(), "Numbers 6 of 6, tickets filled 1 of 1");
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Beside(), "Add-on number 1 of 2");
+    Put("txtEncore", "123456");
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Beside(), "Add-on number 2 of 2");
+    Put("txtEncore", "654321");
+    SaveSheet(false);
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
+    Pick({1, 2});
+    EXPECT_EQ(Beside(), "Numbers 2 of 6, tickets filled 0 of 1");
+}
+
+TEST_F(FirstLook, TheCountOfEncoresSaysThatItHasToBeVisitedOnce) {
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
+        global.AddOnTickets = {};
+        Show(menu);
+        ExpectAdvice("txtNoOfExtra", "Not played? Visit this field once.");
+        Click("txtNoOfExtra");
+        Click("txtDollars");
+        ExpectAdvice("txtNoOfExtra", "");
+    }
+    Show("mnuCANONTSuper7");
+    ExpectAdvice("txtNoOfExtra", "");
+}
+
+TEST_F(FirstLook, TheBoxOfAnAddOnSaysThatItHasToBeTickedOnce) {
+    for (const char* menu : {"mnuCANWESTLotto649", "mnuCANQCSuper7"}) {
+        global.AddOnTickets = {};
+        Show(menu);
+        ExpectAdvice("chkEncore", "Not played? Tick once and untick.");
+        Click("chkEncore");
+        ExpectAdvice("chkEncore", "");
+        Click("chkEncore");
+        ExpectAdvice("chkEncore", "");
+    }
+}
+
+TEST_F(FirstLook, NoAdviceWhereTheFirstSaveDoesNotFail) {
+    for (const char* menu : {"mnuCANBCBC49", "mnuCANBCSuper7", "mnuUSFLAPlay4"}) {
+        Show(menu);
+        EXPECT_EQ(Advice(), "") << menu;
+    }
+}
+
+TEST_F(FirstLook, ButtonsThatDoNothingSaySo) {
+    const QString nothing = "This button does nothing";
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTLOTTARIO", "mnuUSFLAPlay4"}) {
+        const GameWindow& window = Show(menu);
+        const auto tip = [&](std::string_view name) {
+            return Person::FindIn<QWidget>(window, name).toolTip();
+        };
+        for (const char* button : {"cmdRegular", "cmdUse", "cmdHelp"})
+            EXPECT_EQ(tip(button), nothing) << button;
+        EXPECT_EQ(tip("cmdPrintReport") == nothing, window.Which != Family::frm645);
+        EXPECT_EQ(tip("cmdSave"), "");
+    }
+}
+
+TEST_F(FirstLook, APlusSignStandsBeforeTheBonusBox) {
+    const std::tuple<const char*, std::string, int> games[] = {{"mnuCANONTLotto649", "txtWin6", 6},
+                                                               {"mnuCANONTSuper7", "txtWin7", 7},
+                                                               {"mnuCANONTLOTTARIO", "txtWin6", 6},
+                                                               {"mnuCANONTKENO", "", 0}};
+    for (const auto& [menu, stem, bonus] : games) {
+        Show(menu);
+        person.ClickTab("&Check");
+        std::vector<QLabel*> signs;
+        for (auto* label : Window().findChildren<QLabel*>())
+            if (label->isVisible() && label->text() == "+") signs.push_back(label);
+        ASSERT_EQ(signs.size(), bonus ? 1u : 0u) << menu;
+        if (!bonus) continue;
+        const auto box = [&, &stem = stem](int i) {
+            return Find(stem + "(" + std::to_string(i) + ")").geometry();
+        };
+        EXPECT_GT(signs[0]->x(), box(bonus - 1).right());
+        EXPECT_LT(signs[0]->geometry().right(), box(bonus).x());
+        EXPECT_EQ(signs[0]->geometry().center().y(), box(bonus).center().y());
+    }
+}
+
+class MoreRoom : public SlipWorld {};
+
+TEST_F(MoreRoom, BallsGrowWithTheSlipUpToDoubleAndStayTogether) {
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTSuper7", "mnuCANONTLOTTARIO"}) {
+        GameWindow& window = Show(menu);
+        const QWidget &first = Find("chkNumb(0)"), &second = Find("chkNumb(1)"), &below = Find("chkNumb(10)");
+        const int usual = forms::Look::BallSize(first), before = first.width();
+        EXPECT_GE(before, forms::Look::SmallestBall(first));
+        window.resize(1900, 1000);
+        Person::Settle();
+        EXPECT_GT(first.width(), before) << menu;
+        EXPECT_GT(first.width(), usual * 5 / 4) << menu;
+        window.resize(3800, 2000);
+        Person::Settle();
+        EXPECT_EQ(first.width(), 2 * usual) << menu;
+        EXPECT_EQ(first.height(), 2 * usual) << menu;
+        EXPECT_LE(second.x() - first.x(), 3 * usual + 1) << menu;
+        EXPECT_LE(below.y() - first.y(), 3 * usual + 1) << menu;
+        EXPECT_EQ(first.y(), second.y());
+    }
+}
+
+TEST_F(MoreRoom, ListsAndChartsTakeTheRest) {
+    GameWindow& window = Show("mnuCANONTLotto649");
+    const std::pair<std::string_view, const char*> views[] = {
+        {"&Check", "lstMessage"}, {"&Reports", "mscNumberFrequency"}, {"&Quick", "lstDisplay"}};
+    const QSize before = window.size();
+    for (const auto& [tab, view] : views) {
+        person.ClickTab(tab);
+        const QSize small = Find(view).size();
+        window.resize(before + QSize(600, 400));
+        Person::Settle();
+        EXPECT_GE(Find(view).height(), small.height() + 380) << view;
+        EXPECT_GE(Find(view).width(), small.width() + 250) << view;
+        window.resize(before);
+        Person::Settle();
+    }
+}
+
+}  // namespace
+}  // namespace sorvane::test
