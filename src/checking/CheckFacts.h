@@ -82,7 +82,6 @@ inline constexpr PerFamily<std::string_view> FourMissingText{{ Missing99,  Missi
 inline constexpr PerFamily<AddOnTest>        AddOnTested    {{ AddOnTest::AfterBoxes, AddOnTest::AfterBoxes, AddOnTest::AfterLists, AddOnTest::AfterBoxes, AddOnTest::Never, AddOnTest::BeforeBoxes, AddOnTest::Never }};  // never under StatUpdate
 inline constexpr PerFamily<std::string_view> AddOnTestedFor {{ "",         "",         "Encore",   "",         "",         "Encore",   ""         }};  // this add-on key alone; empty: any
 inline constexpr PerFamily<std::string_view> TooShortTitle  {{ "ERROR",    "ERROR",    "Encore Too Short", "ERROR", "",    "Encore Too Short", "" }};
-inline constexpr PerFamily<bool>             TooShortEndsAtOnce{{ no,      no,         yes,        no,         no,         yes,        no         }};  // leaves the counters as they are
 inline constexpr PerFamily<Clearing>         ListsCleared   {{ Clearing::AfterAddOn, Clearing::AfterAddOn, Clearing::AfterBoxes, Clearing::AfterAddOn, Clearing::AfterDate, Clearing::AfterDate, Clearing::AfterDate }};
 inline constexpr PerFamily<bool>             ClearsEncoreListAtTest{{ no,  no,         no,         no,         no,         yes,        yes        }};  // where the add-on is tested, and only then
 inline constexpr PerFamily<bool>             KnowsStatUpdate{{ yes,        yes,        yes,        yes,        no,         yes,        yes        }};  // keno 80 judges all the same

@@ -154,7 +154,7 @@ class Present {
 }  // namespace
 
 fs::path MakeBackup(Outside& outside, const Place& place) {
-    const fs::path name = BackupName(outside, place);
+    fs::path name = BackupName(outside, place);
     MakeBackupAt(outside, place, name);
     return name;
 }

@@ -174,9 +174,10 @@ class Examination {
     void CompareDays(const std::string& game, const GameDays& days) {
         const auto missing = [&](const Days& have, const Days& lack, const std::string& what) {
             for (const long day : have)
-                if (lack.count(day) == 0)
-                    Tell(Weight::Note,
-                         game + " " + Date::FromDays(static_cast<double>(day)).ToText() + ": " + what);
+                if (lack.count(day) == 0) {
+                    const std::string date = Date::FromDays(static_cast<double>(day)).ToText();
+                    Tell(Weight::Note, std::string(game).append(" ").append(date).append(": ").append(what));
+                }
         };
         missing(days.tickets, days.spent, "tickets, but no row in Spent");
         missing(days.spent, days.tickets, "a row in Spent, but no tickets");

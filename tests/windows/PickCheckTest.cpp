@@ -67,7 +67,7 @@ TEST_F(PickCheck, OntarioAsksForTheEncoreBeforeTheBoxesAndEndsAtOnce) {
                   "Encore Too Short");
     Click("cmdCheck");
     EXPECT_EQ(Focus(), "txtWinEncore");
-    EXPECT_EQ(global.EntryCounter, 7);
+    EXPECT_EQ(global.EntryCounter, 0);
 }
 
 TEST_F(PickCheck, OntariosListOfEncoresIsEmptiedWhereItsNumberIsAskedFor) {

@@ -91,11 +91,11 @@ TEST_P(ToldAsPainted, AtEveryStepFromTheFirstTicketToTheChartOfTheMoney) {
         if (IsPick(family)) WindowWorld::Click("optPlayOpt(0)");
         for (const int sheet : {1, 2}) {
             if (CountsAddOns()) Put("txtNoOfExtra", "1");
-            for (int ticket = 1; ticket <= factor; ++ticket) {
+            for (int ticket = 1; ticket <= filled; ++ticket) {
                 Expect("ticket");
                 FillTicket();
                 Expect("filled");
-                if (ticket < factor) Click("cmdNext_Ticket");
+                if (ticket < filled) Click("cmdNext_Ticket");
             }
             EnterAddOns(sheet, 1);
             Expect("add-on");

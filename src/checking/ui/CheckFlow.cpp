@@ -15,39 +15,49 @@ namespace {
 
 using namespace CheckFacts;
 
+// What the readers count starts at nought and ends there on every way out of a check, by an error too: the
+// next one would add to what was left.
+class RowsOfThisCheck {
+  public:
+    explicit RowsOfThisCheck(Global& g) : g_(g) { Forget(); }
+    ~RowsOfThisCheck() { Forget(); }
+    RowsOfThisCheck(const RowsOfThisCheck&) = delete;
+    RowsOfThisCheck& operator=(const RowsOfThisCheck&) = delete;
+
+  private:
+    void Forget() {
+        g_.EntryCounter = 0;
+        g_.NoRowForDate = Off;
+    }
+    Global& g_;
+};
+
 }  // namespace
 
 void CheckFlow::cmdCheck_Click() {
-    if (!RunCheck()) return;
-    window_.run.global.EntryCounter = 0;
-    window_.run.global.NoRowForDate = Off;
-}
-
-bool CheckFlow::RunCheck() {
+    const RowsOfThisCheck rows(window_.run.global);
     const Family family = window_.Which;
     window_.run.global.EnteringWinnings = Off;
     window_.State.WindowDate = window_.dtpEnterTickets(2).Value();
-    if (!DateHasCome()) return true;
+    if (!DateHasCome()) return;
     if (ListsCleared[family] == Clearing::AfterDate) {
         page_.lstMessage.Clear();
         page_.lstNumbersPlayed.Clear();
     }
-    if (AddOnTested[family] == AddOnTest::BeforeBoxes && !AddOnIsLongEnough()) return false;
-    if (!BoxesAreFilled()) return true;
+    if (AddOnTested[family] == AddOnTest::BeforeBoxes && !AddOnIsLongEnough()) return;
+    if (!BoxesAreFilled()) return;
     if (ListsCleared[family] == Clearing::AfterBoxes) page_.ClearLists();
     if (!StatOnly()) {
         const AddOnTest when = AddOnTested[family];
-        if ((when == AddOnTest::AfterBoxes || when == AddOnTest::AfterLists) && !AddOnIsLongEnough())
-            return !TooShortEndsAtOnce[family];
+        if ((when == AddOnTest::AfterBoxes || when == AddOnTest::AfterLists) && !AddOnIsLongEnough()) return;
         if (ListsCleared[family] == Clearing::AfterAddOn) page_.ClearLists();
-        if (!ReadTickets()) return true;
+        if (!ReadTickets()) return;
     }
     StoreDraw();
-    if (!GoesOnToJudging()) return true;
+    if (!GoesOnToJudging()) return;
     const WinningBoxes boxes = page_.Boxes();
     JudgeTickets(boxes);
     CheckAddOn(boxes);
-    return true;
 }
 
 bool CheckFlow::StatOnly() const {

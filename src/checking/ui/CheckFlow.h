@@ -24,8 +24,6 @@ class CheckFlow {
     void cmdEnterWinnings_Click();
 
   private:
-    // The whole check; false where it ended at once, without the last step.
-    bool RunCheck();
     // Its steps; false where the check ends there.
     bool DateHasCome();
     bool BoxesAreFilled();
