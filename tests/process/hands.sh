@@ -150,7 +150,7 @@ open_game() { # open_game LETTER TITLE
 enter_lottario_ticket() {
     open_game l Lottario
     write 1
-    keys Tab space
+    keys Tab Tab space
     keys Right space Right space Right space Right space Right space  # 1 to 6
     keys alt+n alt+b
     keys Right space Right space Right space Right space Right space Right space  # 2 to 7
