@@ -78,7 +78,7 @@ struct Filled : World {
     Filled(const Creator& creator, const char* table, int rows, const std::string& fields)
         : TableName(table) {
         WithDatabase();
-        creator(run, DbName(), TableName, PrimaryFieldName, DateFieldName);
+        creator(session, DbName(), TableName, PrimaryFieldName, DateFieldName);
         Add(rows, fields);
     }
     void Add(int rows, const std::string& fields) const {
@@ -119,7 +119,7 @@ std::string Digits(int count) {
 }
 
 // The rows of one date into numbers and into a list.
-using Reader = void (*)(Run&, const StoreArgs&, Lines&);
+using Reader = void (*)(Session&, const StoreArgs&, Lines&);
 
 Pair Check(const Creator& creator, const char* table, const std::string& fields, int size, Reader read,
            std::string_view LottoFlag, std::string_view ExtraFlag, int first, int numbers) {
@@ -129,7 +129,7 @@ Pair Check(const Creator& creator, const char* table, const std::string& fields,
     const auto ours = [file, read] {
         LineList list;
         file->global.EntryCounter = 0;
-        read(file->run, file->At(), list);
+        read(file->session, file->At(), list);
         if (list.items.size() != static_cast<std::size_t>(int{file->global.EntryCounter})) std::exit(1);
     };
     const auto floor = [file, first, numbers] {
@@ -190,7 +190,7 @@ Pair StoreDraw(int size) {
     for (int i = 1; i <= 7; ++i) boxes.Main.push_back(std::to_string(i));
     const auto ours = [file, day, boxes] {
         const StoreArgs at{file->name, file->TableName, Date::FromDays(++*day)};
-        StoreLotto6Win(file->run, at, boxes);
+        StoreLotto6Win(file->session, at, boxes);
     };
     const auto floor = [file, day] {
         const Direct plain(file->DbName());
@@ -208,7 +208,7 @@ Pair Tally(int size) {
     file->global.LottoFlag = "BC49";
     const auto ours = [file] {
         RecordingChart chart;
-        TallySixNumberFrequency(file->run, file->name, file->TableName, chart, ReportMode);
+        TallySixNumberFrequency(file->session, file->name, file->TableName, chart, ReportMode);
     };
     const auto floor = [file] {
         std::array<int, 50> counts{};
@@ -224,14 +224,14 @@ Pair Money(int size) {
     auto file = std::make_shared<Filled>(CreateSpentTable, "Spent", size / 2,
                                          "'BC49', 46000 - i % 3000, i % 977 * 0.25");
     file->TableName = "Winnings";
-    CreateWinningsTable(file->run, file->name, file->TableName, PrimaryFieldName, DateFieldName);
+    CreateWinningsTable(file->session, file->name, file->TableName, PrimaryFieldName, DateFieldName);
     file->Add(size / 2, "'BC49', 46000 - i % 3000, i % 977 * 0.25");
     file->global.LottoFlag = "BC49";
     const auto ours = [file] {
         RecordingChart chart;
         std::string TableName, text;
         Integer mode;
-        ReportMoney(file->run, ReportFacts::GameMoney, file->name, TableName, mode, chart, "BC/49", text);
+        ReportMoney(file->session, ReportFacts::GameMoney, file->name, TableName, mode, chart, "BC/49", text);
     };
     const auto floor = [file] {
         const auto text = [](sqlite3_stmt* row, int field) {
@@ -257,10 +257,10 @@ Pair QuickPicks(int size, std::string_view LottoFlag, int count, int top) {
     const auto random = std::make_shared<SystemRandom>();
     const auto ours = [file, random, size, count] {
         Services services{file->dialogs, file->printer, file->clock, *random, file->tools, file->engine};
-        Run run{file->global, services};
+        Session session{file->global, services};
         LineList list;
         Array<std::string> picks;
-        GenerateQuickPicks(run, count, size, picks, list);
+        GenerateQuickPicks(session, count, size, picks, list);
     };
     const auto floor = [random, size, count, top] {
         std::vector<std::string> list, picks;
@@ -364,7 +364,7 @@ void MeasureSheets(int rounds) {
         double least[] = {1e9, 1e9, 1e9};
         const auto take = [&](double& kept, const Job& job) { kept = std::min(kept, Time(job, true)); };
         for (int round = 0; round <= rounds; ++round) {
-            take(least[0], [&] { SaveLotto6Tickets(ours->run, ours->At()); });
+            take(least[0], [&] { SaveLotto6Tickets(ours->session, ours->At()); });
             take(least[1], [&] { SaveDirectly(*floor, tickets, false); });
             if (tickets <= MostRowByRow && round < 5)
                 take(least[2], [&] { SaveDirectly(*rows, tickets, true); });

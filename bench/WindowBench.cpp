@@ -150,9 +150,9 @@ struct Program {
     Dao::Engine engine;
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
-    Run run{global, services};
-    Windows windows{run, {GameWindow::Make, frmReport::Make}};
-    frmMain main{run, windows, folder.Path().string(), [] { QCoreApplication::quit(); }};
+    Session session{global, services};
+    Windows windows{session, {GameWindow::Make, frmReport::Make}};
+    frmMain main{session, windows, folder.Path().string(), [] { QCoreApplication::quit(); }};
 };
 
 int Measure(int openings) {
@@ -174,7 +174,7 @@ int Measure(int openings) {
     const auto openBare = [&] { BareDialog(pages).exec(); };
     const auto leaveBare = [](QWidget& widget) { static_cast<QDialog&>(widget).reject(); };
     const auto openAlone = [&] {
-        GameWindow window(Family::frm649, program.run, program.windows);
+        GameWindow window(Family::frm649, program.session, program.windows);
         window.ShowModal();
     };
 

@@ -36,11 +36,11 @@ int main(int, char** argv) {
     Dao::Engine engine;
     Services services{dialogs, printer, clock, random, tools, engine};
     Global global;
-    Run run{global, services};
-    Windows windows(run, {GameWindow::Make, frmReport::Make});
+    Session session{global, services};
+    Windows windows(session, {GameWindow::Make, frmReport::Make});
 
     const std::string folder = QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString();
-    frmMain window(run, windows, folder, [] { QCoreApplication::exit(); });
+    frmMain window(session, windows, folder, [] { QCoreApplication::exit(); });
     window.Load();
     window.Show();
     // Drawing the icon can wait until the window is on the screen.

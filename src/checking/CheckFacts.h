@@ -15,9 +15,9 @@
 
 namespace sorvane::CheckFacts {
 
-using Reader = void (*)(Run&, const StoreArgs&, Lines&);
-using WinWriter = void (*)(Run&, const StoreArgs&, const WinningBoxes&);
-using Judge = void (*)(Run&, const WinningBoxes&, int Row, Lines& lstMessage);
+using Reader = void (*)(Session&, const StoreArgs&, Lines&);
+using WinWriter = void (*)(Session&, const StoreArgs&, const WinningBoxes&);
+using Judge = void (*)(Session&, const WinningBoxes&, int Row, Lines& lstMessage);
 
 // When the digits of the add-on box are asked for.
 enum class AddOnTest { Never, BeforeBoxes, AfterBoxes, AfterLists };

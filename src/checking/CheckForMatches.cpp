@@ -23,9 +23,9 @@ constexpr int SevenNumbers = 7;
 constexpr int TwentyNumbers = 20;
 constexpr int FourNumbers = 4;
 
-void AddLine(Run& run, Lines& lstMessage, std::string line) {
-    run.global.Msg = std::move(line);
-    lstMessage.AddItem(run.global.Msg);
+void AddLine(Session& session, Lines& lstMessage, std::string line) {
+    session.global.Msg = std::move(line);
+    lstMessage.AddItem(session.global.Msg);
 }
 
 // Plain digits, which is what boxes hold, take the short way.
@@ -66,26 +66,26 @@ std::string LottoLine(std::span<const Ladders::LottoTier> ladder, int count, boo
 }
 
 template <int Columns, class Row>
-void CheckLotto(Run& run, const WinningBoxes& boxes, const Row& ticket,
+void CheckLotto(Session& session, const WinningBoxes& boxes, const Row& ticket,
                 std::span<const Ladders::LottoTier> ladder, Lines& lstMessage) {
-    Global& g = run.global;
+    Global& g = session.global;
     g.MatchCount = 0;
     const auto drawn = NumbersOf<Columns + 1>(boxes.Main);
     const std::span<const int> all(drawn);
     g.MatchCount = Matches(ticket.Numbers, Columns, all.first(Columns));
     const bool bonus = Matches(ticket.Numbers, Columns, all.last(1)) > 0;
-    AddLine(run, lstMessage, LottoLine(ladder, g.MatchCount, bonus));
+    AddLine(session, lstMessage, LottoLine(ladder, g.MatchCount, bonus));
 }
 
 }  // namespace
 
-void CheckLotto6(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckLotto<SixNumbers>(run, boxes, run.global.Lotto6Played(Row), Ladders::Lotto6, lstMessage);
+void CheckLotto6(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckLotto<SixNumbers>(session, boxes, session.global.Lotto6Played(Row), Ladders::Lotto6, lstMessage);
 }
 
-void CheckLotto7(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckLotto<SevenNumbers>(run, boxes, run.global.Lotto7Played(Row), Ladders::Lotto7, lstMessage);
-    run.global.MatchCount = 0;
+void CheckLotto7(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckLotto<SevenNumbers>(session, boxes, session.global.Lotto7Played(Row), Ladders::Lotto7, lstMessage);
+    session.global.MatchCount = 0;
 }
 
 namespace {
@@ -110,8 +110,8 @@ bool IsKenoKey(const std::string& LottoFlag) {
 
 }  // namespace
 
-void CheckKeno(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    Global& g = run.global;
+void CheckKeno(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    Global& g = session.global;
     g.Msg.clear();
     const KenoRow& ticket = g.KenoPlayed(Row);
     g.Wager = ticket.Wager;
@@ -124,7 +124,7 @@ void CheckKeno(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) 
     g.MatchCount = Matches(ticket.Numbers, columns, NumbersOf<TwentyNumbers>(boxes.Main));
     if (!paysPrizes) return;
     std::string line = KenoLine(g.NoOfBallsPerTicket, g.Wager, g.MatchCount);
-    if (!line.empty()) AddLine(run, lstMessage, std::move(line));
+    if (!line.empty()) AddLine(session, lstMessage, std::move(line));
 }
 
 namespace {
@@ -169,8 +169,9 @@ bool StandsInWinPerms(const Array<Integer>& WinPerms, const std::array<Integer, 
 }
 
 template <std::size_t N, class Row, class Build>
-void CheckPick(Run& run, const WinningBoxes& boxes, const Row& ticket, Build build, Lines& lstMessage) {
-    Global& g = run.global;
+void CheckPick(Session& session, const WinningBoxes& boxes, const Row& ticket, Build build,
+               Lines& lstMessage) {
+    Global& g = session.global;
     constexpr auto All = static_cast<int>(N);
     std::array<Integer, N> digits;
     for (std::size_t i = 0; i < N; ++i) digits[i] = ticket.Numbers(static_cast<int>(i));
@@ -181,28 +182,29 @@ void CheckPick(Run& run, const WinningBoxes& boxes, const Row& ticket, Build bui
     } else if (PaysAnyOrder(g.PlayOption)) {
         std::array<Integer, N> drawn;
         for (std::size_t i = 0; i < N; ++i) drawn[i] = BoxNumber(boxes.Main.at(i));
-        build(run, drawn);
+        build(session, drawn);
         if (StandsInWinPerms(g.WinPerms, digits)) g.MatchCount = All;
     }
-    AddLine(run, lstMessage, std::string(g.MatchCount == All ? Ladders::PickWinner : Ladders::NotAWinner));
+    AddLine(session, lstMessage,
+            std::string(g.MatchCount == All ? Ladders::PickWinner : Ladders::NotAWinner));
 }
 
 }  // namespace
 
-void BuildPick3Perms(Run& run, const std::array<Integer, 3>& digits) {
-    BuildPerms(run.global.WinPerms, digits);
+void BuildPick3Perms(Session& session, const std::array<Integer, 3>& digits) {
+    BuildPerms(session.global.WinPerms, digits);
 }
 
-void BuildPick4Perms(Run& run, const std::array<Integer, 4>& digits) {
-    BuildPerms(run.global.WinPerms, digits);
+void BuildPick4Perms(Session& session, const std::array<Integer, 4>& digits) {
+    BuildPerms(session.global.WinPerms, digits);
 }
 
-void CheckPick3(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckPick<3>(run, boxes, run.global.Pick3Played(Row), BuildPick3Perms, lstMessage);
+void CheckPick3(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckPick<3>(session, boxes, session.global.Pick3Played(Row), BuildPick3Perms, lstMessage);
 }
 
-void CheckPick4(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckPick<4>(run, boxes, run.global.Pick4Played(Row), BuildPick4Perms, lstMessage);
+void CheckPick4(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckPick<4>(session, boxes, session.global.Pick4Played(Row), BuildPick4Perms, lstMessage);
 }
 
 namespace {
@@ -267,42 +269,42 @@ std::string DigitLine(Global& g, const DigitLadder& ladder, const DigitPair& pai
 }
 
 template <int N>
-void CheckDigits(Run& run, const DigitLadder& ladder, const Slots<Integer, N>& row, const WinningBoxes& boxes,
-                 Lines& lstMessage) {
-    Global& g = run.global;
+void CheckDigits(Session& session, const DigitLadder& ladder, const Slots<Integer, N>& row,
+                 const WinningBoxes& boxes, Lines& lstMessage) {
+    Global& g = session.global;
     g.MatchCount = 0;
     const int digits = AddOnDigits(ladder.ExtraFlag);
     const DigitPair pair{RowText(row, digits, ""), boxes.Encore, digits, row(0), row(digits - 1)};
-    AddLine(run, lstMessage, DigitLine(g, ladder, pair));
+    AddLine(session, lstMessage, DigitLine(g, ladder, pair));
     g.MatchCount = 0;
 }
 
 }  // namespace
 
-void CheckEncore(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckDigits(run, Ladders::Encore, run.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
+void CheckEncore(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckDigits(session, Ladders::Encore, session.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
 }
 
-void CheckWESTExtra(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckDigits(run, Ladders::WESTExtra, run.global.Lotto7Played(Row).Numbers, boxes, lstMessage);
+void CheckWESTExtra(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckDigits(session, Ladders::WESTExtra, session.global.Lotto7Played(Row).Numbers, boxes, lstMessage);
 }
 
-void CheckQCExtra(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckDigits(run, Ladders::QCExtra, run.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
+void CheckQCExtra(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckDigits(session, Ladders::QCExtra, session.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
 }
 
-void CheckTag(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckDigits(run, Ladders::Tag, run.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
+void CheckTag(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckDigits(session, Ladders::Tag, session.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
 }
 
-void CheckThePlus(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    CheckDigits(run, Ladders::ThePlus, run.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
+void CheckThePlus(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    CheckDigits(session, Ladders::ThePlus, session.global.Lotto6Played(Row).Numbers, boxes, lstMessage);
 }
 
 namespace {
 
-void CheckExtra(Run& run, const WinningBoxes& boxes, const Pick4Row& ticket, Lines& lstMessage) {
-    Global& g = run.global;
+void CheckExtra(Session& session, const WinningBoxes& boxes, const Pick4Row& ticket, Lines& lstMessage) {
+    Global& g = session.global;
     g.MatchCount = 0;
     const std::string name = "Extra # " + RowText(ticket.Numbers, FourNumbers);
     g.MatchCount = Matches(ticket.Numbers, FourNumbers, NumbersOf<FourNumbers>(boxes.Four));
@@ -314,29 +316,29 @@ void CheckExtra(Run& run, const WinningBoxes& boxes, const Pick4Row& ticket, Lin
     g.MatchCount = 0;
 }
 
-void CheckEarlyBird(Run& run, const WinningBoxes& boxes, const Lotto6Row& ticket, Lines& lstMessage) {
-    Global& g = run.global;
+void CheckEarlyBird(Session& session, const WinningBoxes& boxes, const Lotto6Row& ticket, Lines& lstMessage) {
+    Global& g = session.global;
     g.MatchCount = 0;
     const int matches = Matches(ticket.Numbers, SixNumbers, NumbersOf<FourNumbers>(boxes.Four));
     if (ticket.EarlyBird) g.MatchCount = matches;
-    if (g.MatchCount == FourNumbers) AddLine(run, lstMessage, "Congratulations! You Won EARLYBIRD!");
-    else if (ticket.EarlyBird) AddLine(run, lstMessage, "Sorry. You did not win EarlyBird.");
-    else AddLine(run, lstMessage, "Earlybird NOT Played");
+    if (g.MatchCount == FourNumbers) AddLine(session, lstMessage, "Congratulations! You Won EARLYBIRD!");
+    else if (ticket.EarlyBird) AddLine(session, lstMessage, "Sorry. You did not win EarlyBird.");
+    else AddLine(session, lstMessage, "Earlybird NOT Played");
     g.MatchCount = 0;
 }
 
 }  // namespace
 
-void CheckExtraEarlyBird(Run& run, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
-    const Global& g = run.global;
-    if (CellsOf(g.LottoFlag).HasEarlyBird) CheckEarlyBird(run, boxes, g.Lotto6Played(Row), lstMessage);
-    else if (AddOnOf(g.ExtraFlag).FourNumbers) CheckExtra(run, boxes, g.Pick4Played(Row), lstMessage);
+void CheckExtraEarlyBird(Session& session, const WinningBoxes& boxes, int Row, Lines& lstMessage) {
+    const Global& g = session.global;
+    if (CellsOf(g.LottoFlag).HasEarlyBird) CheckEarlyBird(session, boxes, g.Lotto6Played(Row), lstMessage);
+    else if (AddOnOf(g.ExtraFlag).FourNumbers) CheckExtra(session, boxes, g.Pick4Played(Row), lstMessage);
 }
 
-void FindDrawEntry(Run& run, const StoreArgs& at) {
-    Global& g = run.global;
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, g.Open);
+void FindDrawEntry(Session& session, const StoreArgs& at) {
+    Global& g = session.global;
+    StoreRoutine(session, Tails::Open, at.TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(at.DbName, g.Open);
         Dao::Recordset Rs = Db.OpenTable(at.TableName);
         if (Rs.RecordCount() <= 0) return;
         Rs.Index("Date");
@@ -348,7 +350,7 @@ void FindDrawEntry(Run& run, const StoreArgs& at) {
         // The box looks like that of an error although none has happened: its number is 0.
         g.Msg = "ERROR #0" + g.NL + "No entry for this Draw Date. Please check the Draw Date" + g.NL +
                 "and try again.";
-        run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
+        session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
         g.WinningsDrawFound = Off;
     });
 }

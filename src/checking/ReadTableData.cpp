@@ -36,13 +36,13 @@ void SeekDate(Dao::Recordset& Rs, Date date) {
     Rs.Seek(date);
 }
 
-void ReportNoRow(Run& run, const PlayedTable& table, Lines& list) {
-    Global& g = run.global;
+void ReportNoRow(Session& session, const PlayedTable& table, Lines& list) {
+    Global& g = session.global;
     if (table.IsAddOn) {
         list.AddItem(NotPlayedLine);
     } else {
         g.Msg = "No match for Draw Date selected. Please check the Draw Date and try again.";
-        run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "ERROR");
+        session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "ERROR");
     }
     g.NoRowForDate = On;
     if (table.RulesPlayOption) g.PlayOption.clear();
@@ -59,8 +59,9 @@ struct DateRows {
 // Walks from the row found to the last one of the date. A row that can't be read is an error only once its
 // turn comes, after all are counted.
 template <class Row, class ReadRow>
-DateRows<Row> WalkDate(Run& run, const PlayedTable& table, Dao::Recordset& Rs, Date date, ReadRow readRow) {
-    Global& g = run.global;
+DateRows<Row> WalkDate(Session& session, const PlayedTable& table, Dao::Recordset& Rs, Date date,
+                       ReadRow readRow) {
+    Global& g = session.global;
     DateRows<Row> rows;
     do {
         if (!table.CountsByFlag || Rs[FlagAt].Is(g.LottoFlag)) {
@@ -90,20 +91,20 @@ void TakeRows(const DateRows<Row>& from, Array<Row>& rows, ListRow listRow) {
 }
 
 template <class Row, class ReadRow, class ListRow>
-void ReadTable(Run& run, const StoreArgs& at, const PlayedTable& table, Lines& list, Array<Row>& rows,
+void ReadTable(Session& session, const StoreArgs& at, const PlayedTable& table, Lines& list, Array<Row>& rows,
                ReadRow readRow, ListRow listRow) {
-    Dao::Database Db = run.services.engine.OpenDatabase(at.DbName, run.global.Open);
+    Dao::Database Db = session.services.engine.OpenDatabase(at.DbName, session.global.Open);
     Dao::Recordset Rs = Db.OpenTable(at.TableName);
     SeekDate(Rs, at.WindowDate);
-    if (Rs.NoMatch()) return ReportNoRow(run, table, list);
-    TakeRows(WalkDate<Row>(run, table, Rs, at.WindowDate, readRow), rows, listRow);
+    if (Rs.NoMatch()) return ReportNoRow(session, table, list);
+    TakeRows(WalkDate<Row>(session, table, Rs, at.WindowDate, readRow), rows, listRow);
 }
 
 template <class Row, class ReadRow, class ListRow>
-void ReadPlayed(Run& run, const StoreArgs& at, const PlayedTable& table, Lines& list, Array<Row>& rows,
-                ReadRow readRow, ListRow listRow) {
-    StoreRoutine(run, Tails::Open, at.TableName, [&] {
-        const auto read = [&] { ReadTable(run, at, table, list, rows, readRow, listRow); };
+void ReadPlayed(Session& session, const StoreArgs& at, const PlayedTable& table, Lines& list,
+                Array<Row>& rows, ReadRow readRow, ListRow listRow) {
+    StoreRoutine(session, Tails::Open, at.TableName, [&] {
+        const auto read = [&] { ReadTable(session, at, table, list, rows, readRow, listRow); };
         if (!table.IsAddOn) return read();
         // An add-on whose table nobody made yet was not played.
         if (!Ignoring({ErrorNumber::TableNotFound, ErrorNumber::SqlTableNotFound}, read))
@@ -117,17 +118,17 @@ void GetNumbers(Dao::Recordset& Rs, int at, Slots<Integer, N>& numbers, int coun
 }
 
 template <class Row>
-void ReadPick(Run& run, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
+void ReadPick(Session& session, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
     constexpr int First = 3;
     std::optional<std::string> way;
     ReadPlayed(
-        run, at, PickTable, list, rows,
+        session, at, PickTable, list, rows,
         [&](Dao::Recordset& Rs, Row& row) {
             GetNumbers(Rs, First, row.Numbers, digits);
             if (!way) way = Rs[First + digits].ToText();
         },
         [&](const Row& row) {
-            run.global.PlayOption = *way;
+            session.global.PlayOption = *way;
             list.AddItem(RowText(row.Numbers, digits));
         });
 }
@@ -140,20 +141,20 @@ std::string DigitsOrNotPlayed(const Slots<Integer, N>& numbers, int digits) {
 }
 
 template <class Row>
-void ReadDigits(Run& run, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
+void ReadDigits(Session& session, const StoreArgs& at, Lines& list, Array<Row>& rows, int digits) {
     ReadPlayed(
-        run, at, AddOnTable, list, rows,
+        session, at, AddOnTable, list, rows,
         [&](Dao::Recordset& Rs, Row& row) { GetNumbers(Rs, 3, row.Numbers, digits); },
         [&](const Row& row) { list.AddItem(DigitsOrNotPlayed(row.Numbers, digits)); });
 }
 
 }  // namespace
 
-void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
-    Global& g = run.global;
+void ReadLotto6Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed) {
+    Global& g = session.global;
     const bool hasEarlyBird = CellsOf(g.LottoFlag).HasEarlyBird;
     ReadPlayed(
-        run, at, LottoTable, lstNumbersPlayed, g.Lotto6Played,
+        session, at, LottoTable, lstNumbersPlayed, g.Lotto6Played,
         [&](Dao::Recordset& Rs, Lotto6Row& row) {
             GetNumbers(Rs, 2, row.Numbers, 6);
             if (hasEarlyBird) row.EarlyBird = Rs[9].ToBool();
@@ -165,17 +166,17 @@ void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
         });
 }
 
-void ReadLotto7Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
+void ReadLotto7Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed) {
     ReadPlayed(
-        run, at, LottoTable, lstNumbersPlayed, run.global.Lotto7Played,
+        session, at, LottoTable, lstNumbersPlayed, session.global.Lotto7Played,
         [](Dao::Recordset& Rs, Lotto7Row& row) { GetNumbers(Rs, 2, row.Numbers, 7); },
         [&](const Lotto7Row& row) { lstNumbersPlayed.AddItem(RowText(row.Numbers, 7)); });
 }
 
-void ReadKenoPlayed(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
-    Global& g = run.global;
+void ReadKenoPlayed(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed) {
+    Global& g = session.global;
     ReadPlayed(
-        run, at, KenoTable, lstNumbersPlayed, g.KenoPlayed,
+        session, at, KenoTable, lstNumbersPlayed, g.KenoPlayed,
         [&](Dao::Recordset& Rs, KenoRow& row) {
             row.Wager = Rs[13].ToInteger();
             row.NoOfBalls = Rs[14].ToInteger();
@@ -187,24 +188,24 @@ void ReadKenoPlayed(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
         });
 }
 
-void ReadPick3Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
-    ReadPick(run, at, lstNumbersPlayed, run.global.Pick3Played, 3);
+void ReadPick3Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed) {
+    ReadPick(session, at, lstNumbersPlayed, session.global.Pick3Played, 3);
 }
 
-void ReadPick4Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed) {
-    ReadPick(run, at, lstNumbersPlayed, run.global.Pick4Played, 4);
+void ReadPick4Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed) {
+    ReadPick(session, at, lstNumbersPlayed, session.global.Pick4Played, 4);
 }
 
-void ReadDigitAddOnPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed) {
-    Global& g = run.global;
+void ReadDigitAddOnPlayed(Session& session, const StoreArgs& at, Lines& lstEncorePlayed) {
+    Global& g = session.global;
     const int digits = AddOnDigits(g.ExtraFlag);
-    if (digits == 7) ReadDigits(run, at, lstEncorePlayed, g.Lotto7Played, digits);
-    else ReadDigits(run, at, lstEncorePlayed, g.Lotto6Played, digits);
+    if (digits == 7) ReadDigits(session, at, lstEncorePlayed, g.Lotto7Played, digits);
+    else ReadDigits(session, at, lstEncorePlayed, g.Lotto6Played, digits);
 }
 
-void ReadExtraPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed) {
+void ReadExtraPlayed(Session& session, const StoreArgs& at, Lines& lstEncorePlayed) {
     ReadPlayed(
-        run, at, AddOnTable, lstEncorePlayed, run.global.Pick4Played,
+        session, at, AddOnTable, lstEncorePlayed, session.global.Pick4Played,
         [](Dao::Recordset& Rs, Pick4Row& row) { GetNumbers(Rs, 3, row.Numbers, 4); },
         [&](const Pick4Row& row) { lstEncorePlayed.AddItem(RowText(row.Numbers, 4)); });
 }

@@ -14,24 +14,24 @@ namespace sorvane {
 // Main tables. No row of the date: a box, and NoRowForDate becomes 1. A missing table shows the 3011 box.
 
 // Lotto6Played; on "Lottario" also the EarlyBird mark, as a second line behind each ticket.
-void ReadLotto6Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed);
+void ReadLotto6Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed);
 // Lotto7Played.
-void ReadLotto7Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed);
+void ReadLotto7Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed);
 // KenoPlayed: as many numbers as the row says it has, zeros left out of the list. NoOfBallsPerTicket becomes
 // the last row's. A row that says more than the table has fields ends in the box of 3265.
-void ReadKenoPlayed(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed);
+void ReadKenoPlayed(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed);
 // Pick3Played, Pick4Played, and PlayOption from the first row of the date, which rules them all; it is
 // emptied where the date has no row. Rows of another game are not counted.
-void ReadPick3Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed);
-void ReadPick4Played(Run& run, const StoreArgs& at, Lines& lstNumbersPlayed);
+void ReadPick3Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed);
+void ReadPick4Played(Session& session, const StoreArgs& at, Lines& lstNumbersPlayed);
 
 // Add-on tables, which games share. No row of the date: the line "Not Played" and NoRowForDate 1. A missing
 // table: the line alone. Rows of other games are not counted, but the rows then read are the first ones of
 // the date, whichever game they belong to.
 
 // Six digits into Lotto6Played; for "WESTExtra" seven into Lotto7Played. A row of 99s is listed "Not Played".
-void ReadDigitAddOnPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed);
+void ReadDigitAddOnPlayed(Session& session, const StoreArgs& at, Lines& lstEncorePlayed);
 // Four numbers into Pick4Played.
-void ReadExtraPlayed(Run& run, const StoreArgs& at, Lines& lstEncorePlayed);
+void ReadExtraPlayed(Session& session, const StoreArgs& at, Lines& lstEncorePlayed);
 
 }  // namespace sorvane

@@ -50,15 +50,15 @@ struct Draws {
 };
 
 // Asks whether the row of the date is to be written anew, and keeps the answer.
-bool RecheckWanted(Run& run) {
-    Global& g = run.global;
+bool RecheckWanted(Session& session) {
+    Global& g = session.global;
     if (g.StatUpdate == On)
         g.Msg = "You have already entered a Winning Number on this Draw Date." + g.NL +
                 "Would you like to correct this Winning Number?";
     else
         g.Msg = "You have already performed a search on this Draw Date." + g.NL +
                 "Would you like to perform a re-check?";
-    const Answer answer = run.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "RECHECK?");
+    const Answer answer = session.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "RECHECK?");
     g.MsgResult = static_cast<int>(answer);
     const bool wanted = answer == Answer::Yes;
     g.RecheckAccepted = wanted ? True : Off;
@@ -74,38 +74,38 @@ void StartRow(const Global& g, const StoreArgs& at, const WinRow& row, Draws& dr
     if (row.FlagAt) draws.Rs[*row.FlagAt] = g.LottoFlag;
 }
 
-void StoreWin(Run& run, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes) {
+void StoreWin(Session& session, const StoreArgs& at, const WinRow& row, const WinningBoxes& boxes) {
     bool added = false;
-    const int error = WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+    const int error = WritingRoutine(session, Tails::Open, at.Table(), [&](OwnFile& file) {
         std::optional<Draws> draws(std::in_place, file.Db(), at);
         if (draws->found) {
-            if (!file.Ask([&] { return RecheckWanted(run); })) return;
+            if (!file.Ask([&] { return RecheckWanted(session); })) return;
             draws.emplace(file.Db(), at);
         }
-        StartRow(run.global, at, row, *draws);
+        StartRow(session.global, at, row, *draws);
         PutBoxes(draws->Rs, row.FirstNumber, boxes.Main, row.Count);
         draws->Rs.Update();
         added = !draws->found;
     });
-    if (added && error == 0 && row.EndsTickets) run.global.TotalTickets = 0;
+    if (added && error == 0 && row.EndsTickets) session.global.TotalTickets = 0;
 }
 
 }  // namespace
 
-void StoreLotto6Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    StoreWin(run, at, Lotto6Win, boxes);
+void StoreLotto6Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(session, at, Lotto6Win, boxes);
 }
-void StoreLotto7Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    StoreWin(run, at, Lotto7Win, boxes);
+void StoreLotto7Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(session, at, Lotto7Win, boxes);
 }
-void StoreKenoWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    StoreWin(run, at, KenoWin, boxes);
+void StoreKenoWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(session, at, KenoWin, boxes);
 }
-void StorePick3Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    StoreWin(run, at, Pick3Win, boxes);
+void StorePick3Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(session, at, Pick3Win, boxes);
 }
-void StorePick4Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    StoreWin(run, at, Pick4Win, boxes);
+void StorePick4Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    StoreWin(session, at, Pick4Win, boxes);
 }
 
 namespace {
@@ -128,9 +128,9 @@ bool WalkToGame(Dao::Recordset& Rs, const std::string& LottoFlag) {
 
 }  // namespace
 
-void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    const Global& g = run.global;
-    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+void StoreExtraWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    const Global& g = session.global;
+    WritingRoutine(session, Tails::Open, at.Table(), [&](OwnFile& file) {
         auto [Rs, count, found] = Draws(file.Db(), at);
         const bool earlyBird = CellsOf(g.LottoFlag).HasEarlyBird;
         if (found && !earlyBird && AddOnOf(g.ExtraFlag).FourNumbers) found = WalkToGame(Rs, g.LottoFlag);
@@ -147,10 +147,10 @@ void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
     });
 }
 
-void StoreAddOnWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes) {
-    const Global& g = run.global;
+void StoreAddOnWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes) {
+    const Global& g = session.global;
     const int digits = AddOnDigits(g.ExtraFlag);
-    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+    WritingRoutine(session, Tails::Open, at.Table(), [&](OwnFile& file) {
         auto [Rs, count, found] = Draws(file.Db(), at);
         if (found) {
             Rs.Edit();

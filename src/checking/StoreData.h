@@ -12,19 +12,19 @@ namespace sorvane {
 // answer in MsgResult: Yes rewrites the numbers of that row (or adds it anew, if it has gone meanwhile) and
 // sets RecheckAccepted True, RecheckRefused 0; No leaves it and sets them 0 and True. A date without a row
 // leaves both as they were. StoreKenoWin sets TotalTickets to 0 with a new row.
-void StoreLotto6Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
-void StoreLotto7Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
-void StoreKenoWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
-void StorePick3Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
-void StorePick4Win(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
+void StoreLotto6Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
+void StoreLotto7Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
+void StoreKenoWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
+void StorePick3Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
+void StorePick4Win(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
 
 // The Four boxes, without a question: for "Lottario" one field lower than the table tells (the date as text
 // where the game stands, the first number where the date stands); else into the game's row, found by walking
 // forward from the first row of the date, later dates included, or a new one.
-void StoreExtraWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
+void StoreExtraWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
 
 // The digits of the Encore box, without a question: one row a date for all games that share the add-on, which
 // bears the game checked last. A seventh digit is kept for "WESTExtra" alone.
-void StoreAddOnWin(Run& run, const StoreArgs& at, const WinningBoxes& boxes);
+void StoreAddOnWin(Session& session, const StoreArgs& at, const WinningBoxes& boxes);
 
 }  // namespace sorvane

@@ -88,13 +88,13 @@ const PerFamily<std::span<const TableStep>>& Steps() {
 
 }  // namespace
 
-void CreateAllTables(Run& run, Family family, WindowState& state) {
-    state.DbName = DatabasePath(run.global.AppPath);
+void CreateAllTables(Session& session, Family family, WindowState& state) {
+    state.DbName = DatabasePath(session.global.AppPath);
     const auto makeSure = [&](const Creator& creator) {
-        MakeSureOf(run, state.DbName, state.TableName,
-                   [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+        MakeSureOf(session, state.DbName, state.TableName,
+                   [&] { creator(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
     };
-    CheckDatabaseExists(run, state.DbName);
+    CheckDatabaseExists(session, state.DbName);
     state.TableName = "Spent";
     makeSure(CreateSpentTable);
     state.TableName = "Winnings";
@@ -102,7 +102,7 @@ void CreateAllTables(Run& run, Family family, WindowState& state) {
 
     state.NumbersPerTicket = FamilyFacts::NumbersPerTicket[family];
     for (const TableStep& step : Steps()[family]) {
-        if (const auto named = step.Name(family, run.global)) {
+        if (const auto named = step.Name(family, session.global)) {
             state.TableName = named->name;
             state.NumbersPerTicket = named->shape;
         } else if (step.onlyWhenNamed) {
@@ -110,8 +110,8 @@ void CreateAllTables(Run& run, Family family, WindowState& state) {
         }
         if (step.creator) makeSure(*step.creator);
         else
-            MakeSureOf(run, state.DbName, state.TableName, [&] {
-                CreateTableByShape(run, state.DbName, state.TableName, state.NumbersPerTicket,
+            MakeSureOf(session, state.DbName, state.TableName, [&] {
+                CreateTableByShape(session, state.DbName, state.TableName, state.NumbersPerTicket,
                                    PrimaryFieldName, DateFieldName, std::string(step.withWin));
             });
     }

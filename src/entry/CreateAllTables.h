@@ -11,6 +11,6 @@ namespace sorvane {
 // order. Fills DbName, leaves the last table's name in TableName and the family's shape code in
 // NumbersPerTicket, which is borrowed for the add-on tables meanwhile. Where the key is unknown, the name
 // in hand stays; its table exists already, so that nothing is made.
-void CreateAllTables(Run& run, Family family, WindowState& state);
+void CreateAllTables(Session& session, Family family, WindowState& state);
 
 }  // namespace sorvane

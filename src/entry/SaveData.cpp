@@ -24,8 +24,8 @@ void AddRow(Dao::Recordset& Rs, int key, int RowNo, Fill fill) {
 }
 
 template <class Fill>
-void WriteSheet(Run& run, const StoreArgs& at, int rows, Fill fill) {
-    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+void WriteSheet(Session& session, const StoreArgs& at, int rows, Fill fill) {
+    WritingRoutine(session, Tails::Open, at.Table(), [&](OwnFile& file) {
         Dao::Recordset Rs = file.Db().OpenTable(at.TableName);
         for (int RowNo = 0; RowNo < rows; ++RowNo) {
             const int count = Rs.RecordCount();
@@ -41,9 +41,9 @@ int RowsWithBonus(const Global& g, Family family) {
 
 // Digit tickets: way of play and mark behind the digits; a mark is written only when it is set.
 template <class Ticket>
-void WriteDigits(Run& run, const StoreArgs& at, const Array<Ticket>& tickets) {
-    const Global& g = run.global;
-    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+void WriteDigits(Session& session, const StoreArgs& at, const Array<Ticket>& tickets) {
+    const Global& g = session.global;
+    WriteSheet(session, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
         const Ticket& ticket = tickets(RowNo);
         const int digits = decltype(ticket.Numbers)::Count;
         Rs[1] = g.LottoFlag;
@@ -56,9 +56,9 @@ void WriteDigits(Run& run, const StoreArgs& at, const Array<Ticket>& tickets) {
 
 }  // namespace
 
-void SaveLotto6Tickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
-    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+void SaveLotto6Tickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
+    WriteSheet(session, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
         const Lotto6Ticket& ticket = g.Lotto6Tickets(RowNo);
         Rs[1] = at.WindowDate;
         PutNumbers(Rs, 2, ticket.Numbers, 6);
@@ -66,10 +66,10 @@ void SaveLotto6Tickets(Run& run, const StoreArgs& at) {
     });
 }
 
-void SaveLottarioTickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
+void SaveLottarioTickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
     const bool ownGame = FindKey(Family::frm645, g.LottoFlag);
-    WriteSheet(run, at, RowsWithBonus(g, Family::frm645), [&](Dao::Recordset& Rs, int RowNo) {
+    WriteSheet(session, at, RowsWithBonus(g, Family::frm645), [&](Dao::Recordset& Rs, int RowNo) {
         const Lotto6Ticket& ticket = g.Lotto6Tickets(RowNo);
         Rs[1] = at.WindowDate;
         PutNumbers(Rs, 2, ticket.Numbers, 6);
@@ -79,10 +79,10 @@ void SaveLottarioTickets(Run& run, const StoreArgs& at) {
     });
 }
 
-void SaveLotto7Tickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
+void SaveLotto7Tickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
     const bool ownGame = FindKey(Family::frm749, g.LottoFlag);
-    WriteSheet(run, at, RowsWithBonus(g, Family::frm749), [&](Dao::Recordset& Rs, int RowNo) {
+    WriteSheet(session, at, RowsWithBonus(g, Family::frm749), [&](Dao::Recordset& Rs, int RowNo) {
         const Lotto7Ticket& ticket = g.Lotto7Tickets(RowNo);
         Rs[1] = at.WindowDate;
         PutNumbers(Rs, 2, ticket.Numbers, 7);
@@ -90,9 +90,9 @@ void SaveLotto7Tickets(Run& run, const StoreArgs& at) {
     });
 }
 
-void SaveKenoTickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
-    WriteSheet(run, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
+void SaveKenoTickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
+    WriteSheet(session, at, g.NoOfTicketsOnSheet, [&](Dao::Recordset& Rs, int RowNo) {
         const KenoTicket& ticket = g.KenoTickets(RowNo);
         Rs[1] = at.WindowDate;
         Rs[2] = g.LottoFlag;
@@ -103,13 +103,17 @@ void SaveKenoTickets(Run& run, const StoreArgs& at) {
     });
 }
 
-void SavePick3Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.global.Pick3Tickets); }
-void SavePick4Tickets(Run& run, const StoreArgs& at) { WriteDigits(run, at, run.global.Pick4Tickets); }
+void SavePick3Tickets(Session& session, const StoreArgs& at) {
+    WriteDigits(session, at, session.global.Pick3Tickets);
+}
+void SavePick4Tickets(Session& session, const StoreArgs& at) {
+    WriteDigits(session, at, session.global.Pick4Tickets);
+}
 
-void SaveAddOnTickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
+void SaveAddOnTickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
     const int digits = AddOnDigits(g.ExtraFlag);
-    WritingRoutine(run, Tails::Open, at.Table(), [&](OwnFile& file) {
+    WritingRoutine(session, Tails::Open, at.Table(), [&](OwnFile& file) {
         Dao::Recordset Rs = file.Db().OpenTable(at.TableName);
         // Unlike the other writers this one counts once, before the loop.
         const int count = Rs.RecordCount();
@@ -123,9 +127,9 @@ void SaveAddOnTickets(Run& run, const StoreArgs& at) {
     });
 }
 
-void SaveExtraTickets(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
-    WriteSheet(run, at, g.NoOfExtra, [&](Dao::Recordset& Rs, int RowNo) {
+void SaveExtraTickets(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
+    WriteSheet(session, at, g.NoOfExtra, [&](Dao::Recordset& Rs, int RowNo) {
         Rs[1] = g.LottoFlag;
         Rs[2] = at.WindowDate;
         PutNumbers(Rs, 3, g.ExtraTickets(RowNo).Numbers, 4);

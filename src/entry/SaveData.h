@@ -9,15 +9,16 @@ namespace sorvane {
 // of rows plus one, not the largest key plus one: after a deletion a key can be taken, which shows its box.
 // All rows are one commit; those written before an error stay. An error shows its box, and the caller goes
 // on.
-void SaveLotto6Tickets(Run& run, const StoreArgs& at);  // NoOfTicketsOnSheet rows
-void SaveLottarioTickets(Run& run,
+void SaveLotto6Tickets(Session& session, const StoreArgs& at);  // NoOfTicketsOnSheet rows
+void SaveLottarioTickets(Session& session,
                          const StoreArgs& at);  // twice as many for Lottario: bonus tickets are rows too
-void SaveLotto7Tickets(Run& run, const StoreArgs& at);  // three times as many for Super 7
-void SaveKenoTickets(Run& run, const StoreArgs& at);    // ten balls a row, also of a ticket that has twenty
-void SavePick3Tickets(Run& run, const StoreArgs& at);
-void SavePick4Tickets(Run& run, const StoreArgs& at);
-void SaveAddOnTickets(Run& run,
+void SaveLotto7Tickets(Session& session, const StoreArgs& at);  // three times as many for Super 7
+void SaveKenoTickets(Session& session,
+                     const StoreArgs& at);  // ten balls a row, also of a ticket that has twenty
+void SavePick3Tickets(Session& session, const StoreArgs& at);
+void SavePick4Tickets(Session& session, const StoreArgs& at);
+void SaveAddOnTickets(Session& session,
                       const StoreArgs& at);  // NoOfExtra rows; the seventh digit for "WESTExtra" alone
-void SaveExtraTickets(Run& run, const StoreArgs& at);  // NoOfExtra rows
+void SaveExtraTickets(Session& session, const StoreArgs& at);  // NoOfExtra rows
 
 }  // namespace sorvane

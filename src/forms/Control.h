@@ -12,7 +12,7 @@ namespace sorvane::forms {
 //
 // Controls are members of their window or tab. Members are destroyed in reverse order, so a container
 // (window, tab strip, page, frame) is declared before its contents. Each event has one handler; attaching
-// another replaces it. All handlers run through Runtime::Run: a run-time error ends the handler, shows its
+// another replaces it. All handlers run through Runtime::Handle: a run-time error ends the handler, shows its
 // box, and the program goes on.
 class Control {
   public:

@@ -50,17 +50,17 @@ bool StandsBefore(const Array<Integer>& numbers, int position) {
     return false;
 }
 
-void DrawDigits(Run& run, const Range& range) {
+void DrawDigits(Session& session, const Range& range) {
     for (int position = 0; position < std::min(range.count, MostPositions); ++position)
-        run.global.Numbers(position) = DrawBelow(run.services.random, range.max);
+        session.global.Numbers(position) = DrawBelow(session.services.random, range.max);
 }
 
-void DrawNumbers(Run& run, const Range& range) {
-    Array<Integer>& numbers = run.global.Numbers;
+void DrawNumbers(Session& session, const Range& range) {
+    Array<Integer>& numbers = session.global.Numbers;
     // What the last ticket left in the positions that are never drawn would come first in this one's line.
     for (int position = MostPositions; position < range.count; ++position) numbers(position) = 0;
     for (int position = 0; position < std::min(range.count, MostPositions); ++position) {
-        do numbers(position) = DrawBelow(run.services.random, range.max) + 1;
+        do numbers(position) = DrawBelow(session.services.random, range.max) + 1;
         while (StandsBefore(numbers, position));
     }
 }
@@ -74,18 +74,18 @@ std::string KenoLine(const Global& g) {
 
 }  // namespace
 
-void GenerateQuickPicks(Run& run, const Integer& numbersPerTicket, const Integer& ticketCount,
+void GenerateQuickPicks(Session& session, const Integer& numbersPerTicket, const Integer& ticketCount,
                         Array<std::string>& quickPicks, Lines& lstDisplay) {
-    Global& g = run.global;
+    Global& g = session.global;
     const Range range = RangeOf(g);
     const int shape = numbersPerTicket;
     const bool keno = shape == KenoShape, lotto = IsLottoShape(shape), digits = IsDigitShape(shape);
     if (range.max > 0) Try([&] { g.Numbers.Redim(range.count); });
     Try([&] { quickPicks.Redim(ticketCount); });
     for (int t = 0; t < ticketCount; ++t) {
-        Try([&] { run.services.random.Randomize(); });
-        if (digits) Try([&] { DrawDigits(run, range); });
-        if (lotto || keno) Try([&] { DrawNumbers(run, range); });
+        Try([&] { session.services.random.Randomize(); });
+        if (digits) Try([&] { DrawDigits(session, range); });
+        if (lotto || keno) Try([&] { DrawNumbers(session, range); });
         if (!digits) Try([&] { SortNumbers(g, g.Numbers); });
         if (keno) Try([&] { lstDisplay.AddItem(KenoLine(g)); });
         if (!lotto && !digits) continue;

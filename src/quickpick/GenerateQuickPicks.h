@@ -16,7 +16,7 @@ namespace sorvane {
 //
 // A key that the generator does not know draws nothing: each line is what Numbers holds. Shows nothing and
 // raises nothing: a statement that fails is left out and the next one runs.
-void GenerateQuickPicks(Run& run, const Integer& numbersPerTicket, const Integer& ticketCount,
+void GenerateQuickPicks(Session& session, const Integer& numbersPerTicket, const Integer& ticketCount,
                         Array<std::string>& quickPicks, Lines& lstDisplay);
 
 }  // namespace sorvane

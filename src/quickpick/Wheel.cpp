@@ -49,17 +49,17 @@ std::string NextRow(Global& g, const Wheel& wheel, Array<Integer>& pool, Array<I
     return JoinByPosition(wheel.sorted ? ticket : pool, wheel.lastPosition + 1, wheel.lastPosition);
 }
 
-void ShowTooManyTickets(Run& run) {
-    Global& g = run.global;
+void ShowTooManyTickets(Session& session) {
+    Global& g = session.global;
     g.Msg = "You have entered a value for the Number of Tickets which exceeds" + g.NL +
             "the maximum possible combinations. Please reduce this number.";
-    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
+    session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
 }
 
-void ShowRows(Run& run, const WheelWindow& window, const Array<std::string>& rows) {
-    const int tickets = run.global.NoOfTickets;
+void ShowRows(Session& session, const WheelWindow& window, const Array<std::string>& rows) {
+    const int tickets = session.global.NoOfTickets;
     if (tickets - 1 > rows.UBound()) {
-        ShowTooManyTickets(run);
+        ShowTooManyTickets(session);
         window.face.RefuseTicketCount();
         return;
     }
@@ -68,9 +68,9 @@ void ShowRows(Run& run, const WheelWindow& window, const Array<std::string>& row
 
 }  // namespace
 
-void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool,
+void WheelTickets(Session& session, const WheelWindow& window, Array<Integer>& pool,
                   const Integer& numbersPerTicket) {
-    Global& g = run.global;
+    Global& g = session.global;
     if (g.WheelSize < 1) Raise(ErrorNumber::SubscriptOutOfRange);
     const int last = g.WheelSize - 1;
     Array<std::string> WheelRows;
@@ -83,13 +83,13 @@ void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool,
         if (wheel.size != g.WheelSize) continue;
         for (int r = 1; r <= last; ++r) WheelRows(r) = NextRow(g, wheel, pool, aside, ticket);
     }
-    ShowRows(run, window, WheelRows);
+    ShowRows(session, window, WheelRows);
 }
 
-void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName, int upperBound,
+void BuildTempTable(Session& session, const std::string& DbName, std::string& TableName, int upperBound,
                     const Array<Integer>& frequencies) {
     TableName = "Temp";
-    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+    WritingRoutine(session, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
         Dao::Recordset Rs = file.Db().OpenTable(TableName);
         DeleteAllRows(Rs);
         for (int i = 0; i <= upperBound; ++i) {
@@ -104,13 +104,13 @@ void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName,
 
 namespace {
 
-bool HasEnoughDraws(Run& run, const std::string& DbName, const std::string& TableName) {
+bool HasEnoughDraws(Session& session, const std::string& DbName, const std::string& TableName) {
     constexpr int FewestDraws = 20;
-    if (CountDrawRows(run, DbName, TableName) >= FewestDraws) return true;
-    Global& g = run.global;
+    if (CountDrawRows(session, DbName, TableName) >= FewestDraws) return true;
+    Global& g = session.global;
     g.Msg = "Not enough data to generate Hot Numbers. Please enter additional Winning Number history" + g.NL +
             "and try again";
-    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Not Enough Data");
+    session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Not Enough Data");
     return false;
 }
 
@@ -118,16 +118,17 @@ bool HasEnoughDraws(Run& run, const std::string& DbName, const std::string& Tabl
 constexpr std::string_view HotOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq] DESC";
 constexpr std::string_view ColdOrder = "SELECT * FROM [Temp] ORDER BY [Ball_Freq]";
 
-void GenerateFrequencyWheel(Run& run, std::string_view order, const WheelRun& wheel,
+void GenerateFrequencyWheel(Session& session, std::string_view order, const WheelRun& wheel,
                             const WheelWindow& window, const Integer& wheelLength) {
-    Global& g = run.global;
+    Global& g = session.global;
     const Integer& howMany = wheel.HowManyToWheel;
-    if (!HasEnoughDraws(run, wheel.DbName, wheel.TableName)) return;
-    TallyByGameShape(run, wheel.NumbersPerTicket, wheel.DbName, wheel.TableName, window.chart, wheel.mode);
+    if (!HasEnoughDraws(session, wheel.DbName, wheel.TableName)) return;
+    TallyByGameShape(session, wheel.NumbersPerTicket, wheel.DbName, wheel.TableName, window.chart,
+                     wheel.mode);
     Array<Integer> pool;
     pool.Redim(howMany);
-    BuildTempTable(run, wheel.DbName, wheel.TableName, g.BallFrequency.UBound(), g.BallFrequency);
-    Dao::Database Db = run.services.engine.OpenDatabase(wheel.DbName, g.Open);
+    BuildTempTable(session, wheel.DbName, wheel.TableName, g.BallFrequency.UBound(), g.BallFrequency);
+    Dao::Database Db = session.services.engine.OpenDatabase(wheel.DbName, g.Open);
     Dao::Recordset Rs = Db.OpenSql(order);
     if (Rs.RecordCount() > 0) {
         Rs.MoveFirst();
@@ -136,23 +137,23 @@ void GenerateFrequencyWheel(Run& run, std::string_view order, const WheelRun& wh
             Rs.MoveNext();
         }
     }
-    DeleteAllRows(run, wheel.DbName, wheel.TableName);
+    DeleteAllRows(session, wheel.DbName, wheel.TableName);
     SortNumbers(g, pool);
     for (int i = 0; i < howMany; ++i) window.face.ShowFavourite(i, Str(pool(i)));
-    WheelTickets(run, window, pool, wheelLength);
+    WheelTickets(session, window, pool, wheelLength);
     g.Generating = false;
 }
 
 }  // namespace
 
-void GenerateHotWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
+void GenerateHotWheel(Session& session, const WheelRun& wheel, const WheelWindow& window,
                       const Integer& wheelLength) {
-    GenerateFrequencyWheel(run, HotOrder, wheel, window, wheelLength);
+    GenerateFrequencyWheel(session, HotOrder, wheel, window, wheelLength);
 }
 
-void GenerateColdWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
+void GenerateColdWheel(Session& session, const WheelRun& wheel, const WheelWindow& window,
                        const Integer& wheelLength) {
-    GenerateFrequencyWheel(run, ColdOrder, wheel, window, wheelLength);
+    GenerateFrequencyWheel(session, ColdOrder, wheel, window, wheelLength);
 }
 
 namespace {
@@ -164,27 +165,28 @@ Integer FavouriteNumber(const std::string& text) {
     return static_cast<int>(value);
 }
 
-void WheelFavourites(Run& run, const WheelRun& wheel, const WheelWindow& window, Array<Integer>& pool) {
-    Global& g = run.global;
+void WheelFavourites(Session& session, const WheelRun& wheel, const WheelWindow& window,
+                     Array<Integer>& pool) {
+    Global& g = session.global;
     for (int i = 0; i < wheel.HowManyToWheel; ++i) {
         const std::string text = window.face.Favourite(i);
         if (Val(text) == 0) {
             g.Msg = "Please enter your favourite Numbers prior to clicking on the" + g.NL +
                     "Generate Numbers button.";
-            run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
+            session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, "Error!");
             window.face.AskForFavourite(i);
             return;
         }
         pool(i) = FavouriteNumber(text);
     }
-    WheelTickets(run, window, pool, WheelLength);
+    WheelTickets(session, window, pool, WheelLength);
     g.Generating = false;
 }
 
 }  // namespace
 
-void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& window) {
-    Global& g = run.global;
+void GenerateByWheelType(Session& session, const WheelRun& wheel, const WheelWindow& window) {
+    Global& g = session.global;
     Array<Integer> pool;
     pool.Redim(wheel.HowManyToWheel);
     window.lstDisplay.Clear();
@@ -192,18 +194,18 @@ void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& win
     wheel.mode = ReportMode;
     switch (wheel.type) {
         case WheelType::QuickPick:
-            GenerateQuickPicks(run, wheel.NumbersPerTicket, g.NoOfTickets, wheel.QuickPicks,
+            GenerateQuickPicks(session, wheel.NumbersPerTicket, g.NoOfTickets, wheel.QuickPicks,
                                window.lstDisplay);
             g.Generating = false;
             return;
         case WheelType::Favourites:
-            return WheelFavourites(run, wheel, window, pool);
+            return WheelFavourites(session, wheel, window, pool);
         case WheelType::Hot:
         case WheelType::Cold: {
             window.face.EmptyFavourites();
             wheel.TableName = WinTableOfWheel;
             const auto generate = wheel.type == WheelType::Hot ? GenerateHotWheel : GenerateColdWheel;
-            generate(run, wheel, window, WheelLength);
+            generate(session, wheel, window, WheelLength);
         }
     }
 }

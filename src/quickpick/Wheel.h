@@ -48,7 +48,7 @@ struct WheelRun {
 // What cmdGenerate of frm645 does. Sets Generating for the run and mode to 1; a run that is refused for a
 // missing favourite or for too little history, or that ends in an error, leaves Generating on. There is no
 // handler: errors of the wheel go to the caller.
-void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& window);
+void GenerateByWheelType(Session& session, const WheelRun& wheel, const WheelWindow& window);
 
 // Build the pool from the HowManyToWheel numbers most (hot) or least (cold) often drawn, show it in the
 // favourites and wheel it. TableName names the win table and ends as "Temp". Fewer than 20 draws show "Not
@@ -56,13 +56,14 @@ void GenerateByWheelType(Run& run, const WheelRun& wheel, const WheelWindow& win
 // frequencies come in the order of their numbers. The table Temp is empty again before the tickets are made;
 // Generating ends as False, unless an error goes to the caller (9 from WheelTickets, or a store error of the
 // query).
-void GenerateHotWheel(Run& run, const WheelRun& wheel, const WheelWindow& window, const Integer& wheelLength);
-void GenerateColdWheel(Run& run, const WheelRun& wheel, const WheelWindow& window,
+void GenerateHotWheel(Session& session, const WheelRun& wheel, const WheelWindow& window,
+                      const Integer& wheelLength);
+void GenerateColdWheel(Session& session, const WheelRun& wheel, const WheelWindow& window,
                        const Integer& wheelLength);
 
 // Fills the table Temp, emptied first, with the numbers 1 to upperBound + 1 and their frequencies. TableName
 // becomes "Temp". An error shows its box.
-void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName, int upperBound,
+void BuildTempTable(Session& session, const std::string& DbName, std::string& TableName, int upperBound,
                     const Array<Integer>& frequencies);
 
 // Adds the first NoOfTickets rows of the wheel to lstDisplay. The pool has a spare slot behind its numbers
@@ -74,6 +75,7 @@ void BuildTempTable(Run& run, const std::string& DbName, std::string& TableName,
 // - any other: the rows behind row 0 stay empty.
 // WheelSize 0, or a pool too short, raises 9. More tickets than WheelSize show "You have entered a value for
 // the Number of Tickets which exceeds..." (title "Error!"), refuse the count and add nothing.
-void WheelTickets(Run& run, const WheelWindow& window, Array<Integer>& pool, const Integer& numbersPerTicket);
+void WheelTickets(Session& session, const WheelWindow& window, Array<Integer>& pool,
+                  const Integer& numbersPerTicket);
 
 }  // namespace sorvane

@@ -10,23 +10,23 @@ namespace sorvane {
 
 using namespace ReportFacts;
 
-void ChartDigits(Run& run, const ReportArgs& args, ChartFace& chart) {
-    run.global.PositionCounts = {};
+void ChartDigits(Session& session, const ReportArgs& args, ChartFace& chart) {
+    session.global.PositionCounts = {};
     args.mode = ChartMode;
-    if (FindDraws(run, args)) Tally[args.family](run, args.DbName, args.TableName, chart, args.mode);
+    if (FindDraws(session, args)) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
 }
 
-void ReportDigits(Run& run, const ReportArgs& args, ChartFace& chart, const std::function<void()>& askType,
-                  std::string_view caption, std::string& text) {
-    run.global.PositionCounts = {};
+void ReportDigits(Session& session, const ReportArgs& args, ChartFace& chart,
+                  const std::function<void()>& askType, std::string_view caption, std::string& text) {
+    session.global.PositionCounts = {};
     args.mode = ReportMode;
-    if (FindDraws(run, args)) {
+    if (FindDraws(session, args)) {
         askType();
-        Tally[args.family](run, args.DbName, args.TableName, chart, args.mode);
+        Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
     } else {
-        run.global.Numbers.Redim(NumbersUpper[args.family]);
+        session.global.Numbers.Redim(NumbersUpper[args.family]);
     }
-    WriteDigitReport(run, args.family, caption, text);
+    WriteDigitReport(session, args.family, caption, text);
 }
 
 namespace {
@@ -134,19 +134,19 @@ void WriteGroups(const Global& g, const GroupReport& report, std::string& text) 
 
 }  // namespace
 
-void WriteDigitReport(Run& run, Family family, std::string_view caption, std::string& text) {
-    const Global& g = run.global;
+void WriteDigitReport(Session& session, Family family, std::string_view caption, std::string& text) {
+    const Global& g = session.global;
     if (g.ReportType == NumbersByPosition) {
         for (const PositionReport& report : PositionReports) {
             if (report.family != family) continue;
-            text = ReportHead(run, caption);
+            text = ReportHead(session, caption);
             WritePositions(g, report, text);
         }
         return;
     }
     for (const GroupReport& report : GroupReports) {
         if (report.family != family || report.type != g.ReportType) continue;
-        text = ReportHead(run, caption);
+        text = ReportHead(session, caption);
         WriteGroups(g, report, text);
     }
 }

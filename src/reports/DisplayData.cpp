@@ -25,22 +25,22 @@ constexpr DrawnFields SevenNumbers{2, 8};
 constexpr DrawnFields KenoNumbers{3, 20};
 constexpr int FirstDigitField = 3;
 
-void ShowNoDraws(Run& run) {
-    Global& g = run.global;
+void ShowNoDraws(Session& session) {
+    Global& g = session.global;
     g.Msg =
         "No Winning Numbers entered yet. Please enter Winning Number data" + g.NL + "and try again." + g.NL;
-    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
+    session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
 }
 
 // Hands each row of the win table to `eachDraw`; `atEnd` follows when there was any.
 template <class EachDraw, class AtEnd>
-void ReadDraws(Run& run, const std::string& DbName, const std::string& TableName, EachDraw eachDraw,
+void ReadDraws(Session& session, const std::string& DbName, const std::string& TableName, EachDraw eachDraw,
                AtEnd atEnd) {
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+    StoreRoutine(session, Tails::Open, TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
         Dao::Recordset Rs = Db.OpenTable(TableName);
         const int rows = Rs.RecordCount();
-        if (rows < 1) return ShowNoDraws(run);
+        if (rows < 1) return ShowNoDraws(session);
         Rs.MoveFirst();
         for (int row = 0; row < rows; ++row) {
             eachDraw(Rs);
@@ -52,14 +52,14 @@ void ReadDraws(Run& run, const std::string& DbName, const std::string& TableName
 
 // Counts the numbers 0 to `top`; an unknown game has no tally, and its first number is outside it.
 template <class AtEnd>
-void TallyNumbers(Run& run, const std::string& DbName, const std::string& TableName, DrawnFields fields,
-                  int top, AtEnd atEnd) {
+void TallyNumbers(Session& session, const std::string& DbName, const std::string& TableName,
+                  DrawnFields fields, int top, AtEnd atEnd) {
     Array<Integer> tally;
     if (top > 0) tally.Redim(top);
     const auto count = [&](Dao::Recordset& Rs) {
         for (int i = 0; i < fields.count; ++i) ++tally(Rs[fields.first + i].ToInteger());
     };
-    ReadDraws(run, DbName, TableName, count, [&] { atEnd(tally); });
+    ReadDraws(session, DbName, TableName, count, [&] { atEnd(tally); });
 }
 
 void DrawFrequencies(const Array<Integer>& tally, ChartFace& chart) {
@@ -94,32 +94,32 @@ int TopKenoNumber(const std::string& LottoFlag) {
 
 }  // namespace
 
-void TallySixNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
+void TallySixNumberFrequency(Session& session, const std::string& DbName, const std::string& TableName,
                              ChartFace& chart, const Integer& mode) {
-    Global& g = run.global;
+    Global& g = session.global;
     const bool lottario = IsLottario(g);
     const int top = FamilyFacts::HighestNumber[lottario ? Family::frm645 : Family::frm649];
-    TallyNumbers(run, DbName, TableName, SixNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, DbName, TableName, SixNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) KeepSixNumberTally(g, tally, lottario);
         if (mode == ChartMode && !g.Generating) DrawFrequencies(tally, chart);
     });
 }
 
-void TallySevenNumberFrequency(Run& run, const std::string& DbName, const std::string& TableName,
+void TallySevenNumberFrequency(Session& session, const std::string& DbName, const std::string& TableName,
                                ChartFace& chart, const Integer& mode) {
-    Global& g = run.global;
+    Global& g = session.global;
     const int top = FamilyFacts::HighestNumber[Family::frm749];
     if (FindKey(Family::frm749, g.LottoFlag)) g.Numbers.Redim(top);
-    TallyNumbers(run, DbName, TableName, SevenNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, DbName, TableName, SevenNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) CopyShifted(tally, g.Numbers);
         if (mode == ChartMode) DrawFrequencies(tally, chart);
     });
 }
 
-void TallyKenoFrequency(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-                        const Integer& mode) {
-    Global& g = run.global;
-    TallyNumbers(run, DbName, TableName, KenoNumbers, TopKenoNumber(g.LottoFlag),
+void TallyKenoFrequency(Session& session, const std::string& DbName, const std::string& TableName,
+                        ChartFace& chart, const Integer& mode) {
+    Global& g = session.global;
+    TallyNumbers(session, DbName, TableName, KenoNumbers, TopKenoNumber(g.LottoFlag),
                  [&](const Array<Integer>& tally) {
                      if (mode == ReportMode) CopyShifted(tally, g.Numbers);
                      if (mode == ChartMode) DrawFrequencies(tally, chart);
@@ -172,9 +172,9 @@ void StartCombos(Array<std::string>& counts) {
     for (int slot = 0; slot <= LastSlot; ++slot) counts(slot) = "0";
 }
 
-void TallyDigits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+void TallyDigits(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
                  const Integer& mode, int digits) {
-    Global& g = run.global;
+    Global& g = session.global;
     const bool chartAsked = mode == ChartMode;
     const bool reportAsked = mode == ReportMode;
     const bool byPosition = chartAsked || (reportAsked && g.ReportType == ReportTypes::NumbersByPosition);
@@ -185,44 +185,45 @@ void TallyDigits(Run& run, const std::string& DbName, const std::string& TableNa
         for (const DigitGroup& group : DigitGroups)
             if (g.ReportType == group.type) CountGroup(g, Rs, group, digits);
     };
-    ReadDraws(run, DbName, TableName, countDraw, [&] {
+    ReadDraws(session, DbName, TableName, countDraw, [&] {
         if (chartAsked) DrawPositions(g, chart, digits);
     });
 }
 
 }  // namespace
 
-void TallyPick3Digits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-                      const Integer& mode) {
-    TallyDigits(run, DbName, TableName, chart, mode, 3);
+void TallyPick3Digits(Session& session, const std::string& DbName, const std::string& TableName,
+                      ChartFace& chart, const Integer& mode) {
+    TallyDigits(session, DbName, TableName, chart, mode, 3);
 }
 
-void TallyPick4Digits(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-                      const Integer& mode) {
-    TallyDigits(run, DbName, TableName, chart, mode, 4);
+void TallyPick4Digits(Session& session, const std::string& DbName, const std::string& TableName,
+                      ChartFace& chart, const Integer& mode) {
+    TallyDigits(session, DbName, TableName, chart, mode, 4);
 }
 
-void TallyByGameShape(Run& run, const Integer& NumbersPerTicket, const std::string& DbName,
+void TallyByGameShape(Session& session, const Integer& NumbersPerTicket, const std::string& DbName,
                       const std::string& TableName, ChartFace& chart, const Integer& mode) {
     switch (NumbersPerTicket) {
         case 5:
             return;
         case 6:
-            return TallySixNumberFrequency(run, DbName, TableName, chart, mode);
+            return TallySixNumberFrequency(session, DbName, TableName, chart, mode);
         case 7:
-            return TallySevenNumberFrequency(run, DbName, TableName, chart, mode);
+            return TallySevenNumberFrequency(session, DbName, TableName, chart, mode);
         case 20:
-            return TallyKenoFrequency(run, DbName, TableName, chart, mode);
+            return TallyKenoFrequency(session, DbName, TableName, chart, mode);
         default:
-            run.global.Msg = "An Unexpected Error Occured. The LottoFlag has not been set. Please try again";
-            run.services.dialogs.MsgBox(run.global.Msg, BoxStyle::Ok, ErrorTitle);
+            session.global.Msg =
+                "An Unexpected Error Occured. The LottoFlag has not been set. Please try again";
+            session.services.dialogs.MsgBox(session.global.Msg, BoxStyle::Ok, ErrorTitle);
     }
 }
 
-Integer CountDrawRows(Run& run, const std::string& DbName, const std::string& TableName) {
+Integer CountDrawRows(Session& session, const std::string& DbName, const std::string& TableName) {
     Integer rows;
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+    StoreRoutine(session, Tails::Open, TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
         rows = Db.OpenTable(TableName).RecordCount();
     });
     return rows;
@@ -293,10 +294,10 @@ Dao::Recordset OpenLedger(Dao::Database& Db, const Ledger& ledger, const std::st
     return oneGame ? Db.OpenSql(sql, {LottoFlag}) : Db.OpenSql(sql);
 }
 
-void ShowNoTickets(Run& run) {
-    Global& g = run.global;
+void ShowNoTickets(Session& session) {
+    Global& g = session.global;
     g.Msg = "No Tickets entered yet. Please enter some played tickets and" + g.NL + "try again." + g.NL;
-    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
+    session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);
 }
 
 void DrawSum(const Ledger& ledger, ChartFace& chart, Currency sum) {
@@ -343,15 +344,15 @@ Currency SumOf(Dao::Recordset& Rs, int rows) {
     return sum;
 }
 
-void ReadLedger(Run& run, const Ledger& ledger, const std::string& DbName, const std::string& TableName,
-                ChartFace& chart, const Integer& mode) {
-    Global& g = run.global;
-    StoreRoutine(run, Tails::Open, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, g.Open);
+void ReadLedger(Session& session, const Ledger& ledger, const std::string& DbName,
+                const std::string& TableName, ChartFace& chart, const Integer& mode) {
+    Global& g = session.global;
+    StoreRoutine(session, Tails::Open, TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(DbName, g.Open);
         Dao::Recordset Rs = OpenLedger(Db, ledger, g.LottoFlag, TableName);
         const Integer rows = g.*ledger.rows = Rs.RecordCount();
         if (rows < 1) {
-            if (ledger.saysWhenEmpty) ShowNoTickets(run);
+            if (ledger.saysWhenEmpty) ShowNoTickets(session);
             if (ledger.saysWhenEmpty || mode == ChartMode) DrawSum(ledger, chart, Currency());
         } else if (mode == ReportMode) {
             KeepLines(g, ledger, Rs, rows);
@@ -363,14 +364,14 @@ void ReadLedger(Run& run, const Ledger& ledger, const std::string& DbName, const
 
 }  // namespace
 
-void SumSpent(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+void SumSpent(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
               const Integer& mode) {
-    ReadLedger(run, SpentLedger, DbName, TableName, chart, mode);
+    ReadLedger(session, SpentLedger, DbName, TableName, chart, mode);
 }
 
-void SumWon(Run& run, const std::string& DbName, const std::string& TableName, ChartFace& chart,
+void SumWon(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
             const Integer& mode) {
-    ReadLedger(run, WonLedger, DbName, TableName, chart, mode);
+    ReadLedger(session, WonLedger, DbName, TableName, chart, mode);
 }
 
 }  // namespace sorvane

@@ -6,28 +6,28 @@ namespace sorvane {
 
 using namespace ReportFacts;
 
-void ChartFrequency(Run& run, const ReportArgs& args, ChartFace& chart) {
+void ChartFrequency(Session& session, const ReportArgs& args, ChartFace& chart) {
     if (!Tally[args.family]) return;
     args.mode = ChartMode;
-    if (FindDraws(run, args)) Tally[args.family](run, args.DbName, args.TableName, chart, args.mode);
+    if (FindDraws(session, args)) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
 }
 
-void ReportFrequency(Run& run, const ReportArgs& args, ChartFace& chart, std::string_view caption,
+void ReportFrequency(Session& session, const ReportArgs& args, ChartFace& chart, std::string_view caption,
                      std::string& text) {
     if (!Tally[args.family]) return;
     args.mode = ReportMode;
-    const bool found = FindDraws(run, args);
+    const bool found = FindDraws(session, args);
     // In frm749 the tally alone sizes Numbers, so without a table the report shows what was left there.
-    if (NumbersUpper[args.family] != NotSized) run.global.Numbers.Redim(NumbersUpper[args.family]);
-    if (found) Tally[args.family](run, args.DbName, args.TableName, chart, args.mode);
-    WriteFrequencyReport(run, args.family, caption, text);
+    if (NumbersUpper[args.family] != NotSized) session.global.Numbers.Redim(NumbersUpper[args.family]);
+    if (found) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
+    WriteFrequencyReport(session, args.family, caption, text);
 }
 
-void WriteFrequencyReport(Run& run, Family family, std::string_view caption, std::string& text) {
-    const Global& g = run.global;
+void WriteFrequencyReport(Session& session, Family family, std::string_view caption, std::string& text) {
+    const Global& g = session.global;
     const std::string& NL = g.NL;
     const std::string rule = "           -------------------------------------------------" + NL;
-    text = ReportHead(run, caption);
+    text = ReportHead(session, caption);
     text += "                       Number Frequency Report" + NL;
     text += "                       =======================" + NL + NL;
     text += "                 Number                    Times Drawn" + NL;

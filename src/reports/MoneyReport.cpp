@@ -12,23 +12,23 @@ namespace {
 
 constexpr std::string_view TotalPicture = "###,###,##0.00";
 
-bool Probe(Run& run, const std::string& DbName, std::string& TableName, const char* name) {
+bool Probe(Session& session, const std::string& DbName, std::string& TableName, const char* name) {
     TableName = name;
-    run.global.TableOpened = Off;
-    ProbeTable(run, DbName, TableName);
-    return run.global.TableOpened != Off;
+    session.global.TableOpened = Off;
+    ProbeTable(session, DbName, TableName);
+    return session.global.TableOpened != Off;
 }
 
-void ReadLedgers(Run& run, const MoneyWindow& window, const std::string& DbName, std::string& TableName,
-                 const Integer& mode, ChartFace& chart) {
-    const bool won = Probe(run, DbName, TableName, "Winnings");
-    const bool spent = Probe(run, DbName, TableName, "Spent");
-    if (window.eitherLedgerCounts && won) run.global.TableOpened = On;
-    if (!spent && run.global.TableOpened == Off) return;
+void ReadLedgers(Session& session, const MoneyWindow& window, const std::string& DbName,
+                 std::string& TableName, const Integer& mode, ChartFace& chart) {
+    const bool won = Probe(session, DbName, TableName, "Winnings");
+    const bool spent = Probe(session, DbName, TableName, "Spent");
+    if (window.eitherLedgerCounts && won) session.global.TableOpened = On;
+    if (!spent && session.global.TableOpened == Off) return;
     TableName = "Winnings";
-    SumWon(run, DbName, TableName, chart, mode);
+    SumWon(session, DbName, TableName, chart, mode);
     TableName = "Spent";
-    SumSpent(run, DbName, TableName, chart, mode);
+    SumSpent(session, DbName, TableName, chart, mode);
 }
 
 // One half of the report, from its heading to the blank line behind its rows.
@@ -63,25 +63,27 @@ std::string Difference(Currency difference) {
 
 }  // namespace
 
-void ChartMoney(Run& run, const MoneyWindow& window, const std::string& DbName, std::string& TableName,
-                Integer& mode, ChartFace& chart) {
+void ChartMoney(Session& session, const MoneyWindow& window, const std::string& DbName,
+                std::string& TableName, Integer& mode, ChartFace& chart) {
     mode = ChartMode;
-    ReadLedgers(run, window, DbName, TableName, mode, chart);
+    ReadLedgers(session, window, DbName, TableName, mode, chart);
 }
 
-void ReportMoney(Run& run, const MoneyWindow& window, const std::string& DbName, std::string& TableName,
-                 Integer& mode, ChartFace& chart, std::string_view caption, std::string& text) {
-    if (window.resetsTotals) run.global.TotalWon = run.global.TotalSpent = Currency();
+void ReportMoney(Session& session, const MoneyWindow& window, const std::string& DbName,
+                 std::string& TableName, Integer& mode, ChartFace& chart, std::string_view caption,
+                 std::string& text) {
+    if (window.resetsTotals) session.global.TotalWon = session.global.TotalSpent = Currency();
     mode = ReportMode;
-    ReadLedgers(run, window, DbName, TableName, mode, chart);
-    WriteMoneyReport(run, window, caption, text);
+    ReadLedgers(session, window, DbName, TableName, mode, chart);
+    WriteMoneyReport(session, window, caption, text);
 }
 
-void WriteMoneyReport(Run& run, const MoneyWindow& window, std::string_view caption, std::string& text) {
-    const Global& g = run.global;
+void WriteMoneyReport(Session& session, const MoneyWindow& window, std::string_view caption,
+                      std::string& text) {
+    const Global& g = session.global;
     const std::string& NL = g.NL;
     const std::string rule(window.rule);
-    text = ReportHead(run, caption, window.headHasCaption);
+    text = ReportHead(session, caption, window.headHasCaption);
     text += "                            Profit/Loss Report" + NL;
     text += "                            ==================" + NL + NL;
     WriteHalf({"              Dollars Spent", "              =============", window.spentHead,

@@ -8,12 +8,12 @@ namespace sorvane {
 
 // What cmdProfitLoss does behind its control changes: mode 0; "Winnings" and "Spent" are probed, then both
 // ledgers are read onto the chart, the won side first. TableName ends as "Spent".
-void ChartMoney(Run& run, const ReportFacts::MoneyWindow& window, const std::string& DbName,
+void ChartMoney(Session& session, const ReportFacts::MoneyWindow& window, const std::string& DbName,
                 std::string& TableName, Integer& mode, ChartFace& chart);
 
 // What cmdPLReport does behind its control changes: mode 1, the same probes and readings, then the report in
 // any case. Where the tables are missing there is no box, and counts and lines are those of an earlier run.
-void ReportMoney(Run& run, const ReportFacts::MoneyWindow& window, const std::string& DbName,
+void ReportMoney(Session& session, const ReportFacts::MoneyWindow& window, const std::string& DbName,
                  std::string& TableName, Integer& mode, ChartFace& chart, std::string_view caption,
                  std::string& text);
 
@@ -21,7 +21,7 @@ void ReportMoney(Run& run, const ReportFacts::MoneyWindow& window, const std::st
 // a plain number, a net gain stands in parentheses. `text` starts anew and keeps what was written before a
 // failure (error 9 where there are fewer lines than the count says). Does not return when a total is longer
 // than 14 characters, or a difference in parentheses longer than 13.
-void WriteMoneyReport(Run& run, const ReportFacts::MoneyWindow& window, std::string_view caption,
+void WriteMoneyReport(Session& session, const ReportFacts::MoneyWindow& window, std::string_view caption,
                       std::string& text);
 
 }  // namespace sorvane

@@ -12,7 +12,7 @@
 
 namespace sorvane::ReportFacts {
 
-using TallyRoutine = void (*)(Run& run, const std::string& DbName, const std::string& TableName,
+using TallyRoutine = void (*)(Session& session, const std::string& DbName, const std::string& TableName,
                               ChartFace& chart, const Integer& mode);
 
 inline constexpr std::array<std::string_view, 1> FrequencySeries{"Frequency"};

@@ -20,10 +20,10 @@ struct ReportArgs {
 
 // Names the win table and probes for it, which sets TableOpened. A missing one shows "No Winning Numbers
 // entered yet..." (title "ERROR!") and gives false.
-bool FindDraws(Run& run, const ReportArgs& args);
+bool FindDraws(Session& session, const ReportArgs& args);
 
 // The head line: a line break, the date of today, the caption behind 38 blanks, two line breaks. Without
 // `captioned` neither blanks nor caption.
-std::string ReportHead(Run& run, std::string_view caption, bool captioned = true);
+std::string ReportHead(Session& session, std::string_view caption, bool captioned = true);
 
 }  // namespace sorvane

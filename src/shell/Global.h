@@ -107,7 +107,7 @@ struct Global {
 };
 
 // What every routine of the rooms gets.
-struct Run {
+struct Session {
     Global& global;
     Services& services;
 };

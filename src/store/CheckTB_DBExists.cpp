@@ -25,8 +25,9 @@ void MakeFolder(const fs::path& folder) {
     if (!fs::is_directory(folder, error)) Raise(ErrorNumber::PathFileAccess);
 }
 
-void CreateFile(Run& run, const std::string& DbName) {
-    Dao::Workspace Ws = run.services.engine.CreateWorkspace(ProgramName, "admin", "", run.global.Open);
+void CreateFile(Session& session, const std::string& DbName) {
+    Dao::Workspace Ws =
+        session.services.engine.CreateWorkspace(ProgramName, "admin", "", session.global.Open);
     Dao::Database Db = Ws.CreateDatabase(DbName, Locale);
     KeepFromOthers(DbName, fs::perms::owner_read | fs::perms::owner_write);
     Db.Close();
@@ -35,22 +36,22 @@ void CreateFile(Run& run, const std::string& DbName) {
 
 }  // namespace
 
-void CheckDatabaseExists(Run& run, const std::string& DbName) {
+void CheckDatabaseExists(Session& session, const std::string& DbName) {
     const fs::path folder = fs::path(DbName).parent_path();
     std::error_code error;
     if (!fs::is_directory(folder, error)) MakeFolder(folder);
-    StoreRoutine(run, Tails::CheckDatabase, {}, [&] {
-        if (!fs::is_regular_file(DbName, error)) CreateFile(run, DbName);
+    StoreRoutine(session, Tails::CheckDatabase, {}, [&] {
+        if (!fs::is_regular_file(DbName, error)) CreateFile(session, DbName);
     });
 }
 
-void ProbeTable(Run& run, const std::string& DbName, const std::string& TableName) {
-    const int error = StoreRoutine(run, Tails::Probe, TableName, [&] {
-        Dao::Database Db = run.services.engine.OpenDatabase(DbName, run.global.Open);
+void ProbeTable(Session& session, const std::string& DbName, const std::string& TableName) {
+    const int error = StoreRoutine(session, Tails::Probe, TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
         Dao::Recordset ProbeRs = Db.OpenTable(TableName);
-        run.global.TableOpened = On;
+        session.global.TableOpened = On;
     });
-    if (error != 0) run.global.TableOpened = Off;
+    if (error != 0) session.global.TableOpened = Off;
 }
 
 }  // namespace sorvane

@@ -10,22 +10,22 @@ namespace sorvane {
 // Makes sure that the file exists: the folder is made silently where it is missing, then the empty file, with
 // no table, both for nobody but the user. Shows the general error box when it can't. Raises 75 when even the
 // folder can't be made.
-void CheckDatabaseExists(Run& run, const std::string& DbName);
+void CheckDatabaseExists(Session& session, const std::string& DbName);
 
 // Sets Global::TableOpened to 1 when the table can be opened, else to 0. A missing table shows nothing; any
 // other error shows its box.
-void ProbeTable(Run& run, const std::string& DbName, const std::string& TableName);
+void ProbeTable(Session& session, const std::string& DbName, const std::string& TableName);
 
 // Probes the table and calls the creator while it is missing, until TableOpened is 1. There is no limit: a
 // table that can't be made gives its box again and again, for as long as the cause lasts. The creator may
 // change TableName.
 template <class Creator>
-void MakeSureOf(Run& run, const std::string& DbName, std::string& TableName, Creator creator) {
-    run.global.TableOpened = Off;
+void MakeSureOf(Session& session, const std::string& DbName, std::string& TableName, Creator creator) {
+    session.global.TableOpened = Off;
     do {
-        ProbeTable(run, DbName, TableName);
-        if (run.global.TableOpened == Off) creator();
-    } while (run.global.TableOpened != On);
+        ProbeTable(session, DbName, TableName);
+        if (session.global.TableOpened == Off) creator();
+    } while (session.global.TableOpened != On);
 }
 
 }  // namespace sorvane

@@ -171,43 +171,43 @@ int Append(Dao::Database& Db, const NewTable& table, const IndexFields& index) {
 // would mend a table without its indexes or a played table without its Win table. Otherwise each table stands
 // for itself: indexes that can't be made show a box for their own table. A Win table that can't be made shows
 // none here; the probing loop behind does.
-void Make(Run& run, const std::string& DbName, const NewTable& table, const NewTable* win,
+void Make(Session& session, const std::string& DbName, const NewTable& table, const NewTable* win,
           const IndexFields& index) {
     int ofTable = 0, ofWin = 0;
-    const Dao::Workspace Ws = run.services.engine.Workspaces(0, run.global.Open);
-    const int error = WritingRoutine(run, table.creator.tail, {DbName, table.name}, [&](OwnFile& file) {
+    const Dao::Workspace Ws = session.services.engine.Workspaces(0, session.global.Open);
+    const int error = WritingRoutine(session, table.creator.tail, {DbName, table.name}, [&](OwnFile& file) {
         ofTable = Append(file.Db(), table, index);
         if (!win || file.Db().HasTable(win->name)) return;
         const int untold = ErrorOf([&] { ofWin = Append(file.Db(), *win, index); });
         if (untold != 0 && !file.Db().HasTable(table.name)) Raise(untold);
     });
     if (error != 0) return;
-    run.global.TableOpened = On;
+    session.global.TableOpened = On;
     for (const int indexError : {ofTable, ofWin})
-        if (indexError != 0) ShowStoreError(run, Tails::CreateIndex, indexError, table.name);
+        if (indexError != 0) ShowStoreError(session, Tails::CreateIndex, indexError, table.name);
 }
 
 }  // namespace
 
-void Creator::operator()(Run& run, const std::string& DbName, const std::string& TableName,
+void Creator::operator()(Session& session, const std::string& DbName, const std::string& TableName,
                          const std::string& PrimaryField, const std::string& SecondField) const {
-    Make(run, DbName, {*this, TableName}, nullptr, {PrimaryField, SecondField});
+    Make(session, DbName, {*this, TableName}, nullptr, {PrimaryField, SecondField});
 }
 
-void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
-                        const std::string& PrimaryField, const std::string& SecondField,
+void CreateTableByShape(Session& session, const std::string& DbName, std::string& TableName,
+                        Integer& ShapeCode, const std::string& PrimaryField, const std::string& SecondField,
                         const std::string& WinOtherwise) {
     const IndexFields index{PrimaryField, SecondField};
     for (const ShapePair& pair : ShapePairs()) {
         if (pair.code != ShapeCode) continue;
-        const auto winName = pair.WinName(run.global);
+        const auto winName = pair.WinName(session.global);
         const NewTable win{pair.win, winName.value_or(WinOtherwise)};
         const auto createPair = [&] {
-            Make(run, DbName, {pair.played, TableName}, win.name.empty() ? nullptr : &win, index);
+            Make(session, DbName, {pair.played, TableName}, win.name.empty() ? nullptr : &win, index);
         };
         if (pair.code == FourDigits) {
-            if (const auto name = Pick4Played(run.global)) TableName = *name;
-            MakeSureOf(run, DbName, TableName, [&] {
+            if (const auto name = Pick4Played(session.global)) TableName = *name;
+            MakeSureOf(session, DbName, TableName, [&] {
                 ShapeCode = FourDigits;
                 createPair();
             });
@@ -215,8 +215,8 @@ void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableN
             createPair();
         }
         if (winName) TableName = *winName;
-        MakeSureOf(run, DbName, TableName,
-                   [&] { pair.win(run, DbName, TableName, PrimaryField, SecondField); });
+        MakeSureOf(session, DbName, TableName,
+                   [&] { pair.win(session, DbName, TableName, PrimaryField, SecondField); });
         return;
     }
 }

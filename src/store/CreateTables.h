@@ -26,7 +26,7 @@ struct Creator {
     std::span<const ShapeField> fields;
     ErrorTail tail = Tails::Create;
     bool indexed = true;
-    void operator()(Run& run, const std::string& DbName, const std::string& TableName,
+    void operator()(Session& session, const std::string& DbName, const std::string& TableName,
                     const std::string& PrimaryField, const std::string& SecondField) const;
 };
 
@@ -55,8 +55,8 @@ inline const std::string DateFieldName = "Date";
 // tells, in a probing loop); then TableName becomes the matching Win table's, which a probing loop makes
 // should it still be missing. Where no key matches, the name stays what it was and nothing further is made,
 // but a Win table that the caller names itself: it is made with the played one.
-void CreateTableByShape(Run& run, const std::string& DbName, std::string& TableName, Integer& ShapeCode,
-                        const std::string& PrimaryField, const std::string& SecondField,
+void CreateTableByShape(Session& session, const std::string& DbName, std::string& TableName,
+                        Integer& ShapeCode, const std::string& PrimaryField, const std::string& SecondField,
                         const std::string& WinOtherwise = {});
 
 }  // namespace sorvane

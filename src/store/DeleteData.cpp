@@ -19,8 +19,9 @@ void DeleteFromHere(Dao::Recordset& Rs, Date DrawDate) {
 
 }  // namespace
 
-void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& TableName, Date DrawDate) {
-    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+void DeleteRowsForDate(Session& session, const std::string& DbName, const std::string& TableName,
+                       Date DrawDate) {
+    WritingRoutine(session, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
         Dao::Recordset Rs = file.Db().OpenTable(TableName);
         const Integer rows = Rs.RecordCount();
         if (rows <= 0) return;
@@ -31,8 +32,8 @@ void DeleteRowsForDate(Run& run, const std::string& DbName, const std::string& T
     });
 }
 
-void DeleteAllRows(Run& run, const std::string& DbName, const std::string& TableName) {
-    WritingRoutine(run, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
+void DeleteAllRows(Session& session, const std::string& DbName, const std::string& TableName) {
+    WritingRoutine(session, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
         Dao::Recordset Rs = file.Db().OpenTable(TableName);
         DeleteAllRows(Rs);
     });

@@ -6,11 +6,11 @@ namespace sorvane {
 
 namespace {
 
-Answer AskToAmend(Run& run) {
-    Global& g = run.global;
+Answer AskToAmend(Session& session) {
+    Global& g = session.global;
     g.Msg = "You have already entered a Winning amount for this" + g.NL +
             "Lottery on this Draw Date. Do you wish to amend your" + g.NL + "entry?";
-    return run.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "Correct Winnings?");
+    return session.services.dialogs.MsgBox(g.Msg, BoxStyle::YesNo, "Correct Winnings?");
 }
 
 void PutAmount(Dao::Recordset& Rs, const Global& g, Date date) {
@@ -42,12 +42,12 @@ struct Ledger {
 
 }  // namespace
 
-void StoreLedgerAmount(Run& run, const StoreArgs& at) {
-    const Global& g = run.global;
-    WritingRoutine(run, Tails::Ledger, at.Table(), [&](OwnFile& file) {
+void StoreLedgerAmount(Session& session, const StoreArgs& at) {
+    const Global& g = session.global;
+    WritingRoutine(session, Tails::Ledger, at.Table(), [&](OwnFile& file) {
         std::optional<Ledger> ledger(std::in_place, file.Db(), at, g);
         if (ledger->amends) {
-            if (file.Ask([&] { return AskToAmend(run); }) != Answer::Yes) return;
+            if (file.Ask([&] { return AskToAmend(session); }) != Answer::Yes) return;
             ledger.emplace(file.Db(), at, g);
         }
         if (ledger->amends) {

@@ -9,6 +9,6 @@ namespace sorvane {
 // the date belongs to the game, asks whether to amend it instead (title "Correct Winnings?"): Yes amends it,
 // or adds the row anew if it has gone meanwhile. An amount that does not convert shows "Please enter a valid
 // amount and try again." and writes nothing.
-void StoreLedgerAmount(Run& run, const StoreArgs& at);
+void StoreLedgerAmount(Session& session, const StoreArgs& at);
 
 }  // namespace sorvane

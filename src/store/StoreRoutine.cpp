@@ -22,15 +22,15 @@ std::string SentenceOf(const ErrorTail& tail, int number, std::string_view Table
 
 }  // namespace
 
-void ShowStoreError(Run& run, const ErrorTail& tail, int number, std::string_view TableName) {
+void ShowStoreError(Session& session, const ErrorTail& tail, int number, std::string_view TableName) {
     if (number == ErrorNumber::TableNotFound && tail.silentWithoutTable) return;
-    Global& g = run.global;
+    Global& g = session.global;
     g.Msg = "ERROR #" + Str(number) + g.NL + SentenceOf(tail, number, TableName);
-    run.services.dialogs.MsgBox(g.Msg, BoxStyle::Stop, ErrorTitle);
+    session.services.dialogs.MsgBox(g.Msg, BoxStyle::Stop, ErrorTitle);
 }
 
 void OwnFile::Open() {
-    db_.emplace(run_.services.engine.OpenDatabase(DbName_, run_.global.Open));
+    db_.emplace(session_.services.engine.OpenDatabase(DbName_, session_.global.Open));
     db_->OneCommit();
 }
 

@@ -42,14 +42,14 @@ inline constexpr ErrorTail Ledger{.conversion = "Please enter a valid amount and
 // Shows the box of the tail for an error number: "ERROR #", the number, a line break, the sentence; title
 // "ERROR!", stop icon. `TableName` is the name in force when the error came. Shows nothing where the tail is
 // silent.
-void ShowStoreError(Run& run, const ErrorTail& tail, int number, std::string_view TableName);
+void ShowStoreError(Session& session, const ErrorTail& tail, int number, std::string_view TableName);
 
 // Runs the work of a store routine. An error becomes its box; what was open is closed by then, because the
 // work owns it. Returns 0, or the number of the error; the caller goes on with whatever state is left.
 template <class Work>
-int StoreRoutine(Run& run, const ErrorTail& tail, const std::string& TableName, Work work) {
+int StoreRoutine(Session& session, const ErrorTail& tail, const std::string& TableName, Work work) {
     const int number = ErrorOf(work);
-    if (number != 0) ShowStoreError(run, tail, number, TableName);
+    if (number != 0) ShowStoreError(session, tail, number, TableName);
     return number;
 }
 
@@ -73,7 +73,7 @@ struct StoreArgs {
 // made when it closes.
 class OwnFile {
   public:
-    OwnFile(Run& run, const std::string& DbName) : run_(run), DbName_(DbName) { Open(); }
+    OwnFile(Session& session, const std::string& DbName) : session_(session), DbName_(DbName) { Open(); }
     Dao::Database& Db() { return *db_; }
     // Raises when the commit fails: then nothing of it is written.
     void Close();
@@ -90,7 +90,7 @@ class OwnFile {
   private:
     void Open();
 
-    Run& run_;
+    Session& session_;
     const std::string& DbName_;
     std::optional<Dao::Database> db_;
 };
@@ -99,9 +99,9 @@ class OwnFile {
 // commits what was written before it, then its box comes. The box of a commit that fails, of which nothing is
 // left, comes only where no error came before it.
 template <class Work>
-int WritingRoutine(Run& run, const ErrorTail& tail, const StoreTable& table, Work work) {
-    return StoreRoutine(run, tail, table.TableName, [&] {
-        OwnFile file(run, table.DbName);
+int WritingRoutine(Session& session, const ErrorTail& tail, const StoreTable& table, Work work) {
+    return StoreRoutine(session, tail, table.TableName, [&] {
+        OwnFile file(session, table.DbName);
         const int inTheMiddle = ErrorOf([&] { work(file); });
         const int atTheCommit = ErrorOf([&] { file.Close(); });
         if (inTheMiddle != 0) Raise(inTheMiddle);

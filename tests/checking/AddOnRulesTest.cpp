@@ -176,7 +176,7 @@ TEST_P(DigitRules, ADigitZeroIsWritten) {
 TEST_P(DigitRules, AMissingRowRaisesTheSubscriptError) {
     boxes.Encore = "1234567";
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { GetParam().judge(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { GetParam().judge(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ladders, DigitRules, ::testing::Values(Ontario, West, Quebec, Atlantic, Plus),
@@ -264,10 +264,10 @@ TEST_F(AddOnRules, LettersAtTheEndsOfTheDrawnNumberEndTheEncoreCheck) {
     Digits6("123456");
     LineList list;
     boxes.Encore = "a23457";
-    EXPECT_EQ(ErrorOf([&] { CheckEncore(run, boxes, 0, list); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ErrorOf([&] { CheckEncore(session, boxes, 0, list); }), ErrorNumber::TypeMismatch);
     boxes.Encore = "92345b";
-    EXPECT_EQ(ErrorOf([&] { CheckThePlus(run, boxes, 0, list); }), ErrorNumber::TypeMismatch);
-    CheckTag(run, boxes, 0, list);
+    EXPECT_EQ(ErrorOf([&] { CheckThePlus(session, boxes, 0, list); }), ErrorNumber::TypeMismatch);
+    CheckTag(session, boxes, 0, list);
     EXPECT_EQ(list.items, Texts{"Sorry. Tag ticket #123456 is not a winner."});
 }
 
@@ -304,10 +304,10 @@ TEST_F(ExtraRules, EveryCountHasItsLine) {
 TEST_F(ExtraRules, MoreThanFourMatchesAddTheLineBeforeOnceMore) {
     DrawFour({20, 97, 98, 99});
     LineList list;
-    CheckExtraEarlyBird(run, boxes, 0, list);
+    CheckExtraEarlyBird(session, boxes, 0, list);
     Pick4({5, 5, 5, 20});
     DrawFour({5, 5, 98, 99});
-    CheckExtraEarlyBird(run, boxes, 0, list);
+    CheckExtraEarlyBird(session, boxes, 0, list);
     EXPECT_EQ(list.items, (Texts{"Extra # 5, 10, 15, 20 won $1.00!", "Extra # 5, 10, 15, 20 won $1.00!"}));
     EXPECT_EQ(global.MatchCount, 0);
 }
@@ -393,8 +393,8 @@ TEST_F(EarlyBirdRules, ALottarioTicketGetsTwoLines) {
     Draw({1, 2, 3, 4, 5, 6, 7});
     DrawFour({1, 2, 3, 4});
     LineList list;
-    CheckLotto6(run, boxes, 0, list);
-    CheckExtraEarlyBird(run, boxes, 0, list);
+    CheckLotto6(session, boxes, 0, list);
+    CheckExtraEarlyBird(session, boxes, 0, list);
     EXPECT_EQ(list.items,
               (Texts{"Congratulations! You've hit the JACKPOT!!!", "Congratulations! You Won EARLYBIRD!"}));
 }

@@ -21,12 +21,12 @@ using Numbers = std::vector<int>;
 inline const std::string Sorry = "Sorry. This ticket is not a winner.";
 
 struct JudgeWorld : World {
-    using Judge = void (*)(Run&, const WinningBoxes&, int, Lines&);
+    using Judge = void (*)(Session&, const WinningBoxes&, int, Lines&);
 
     // The lines that judging row 0 adds.
     Texts AllLines(Judge judge) {
         LineList list;
-        judge(run, boxes, 0, list);
+        judge(session, boxes, 0, list);
         return list.items;
     }
     // The one line that judging row 0 adds.
@@ -79,7 +79,7 @@ struct StoreTest : ::testing::Test, World {
     StoreTest() { WithDatabase(); }
 
     void Make(const Creator& creator, const std::string& table) {
-        creator(run, DbName(), table, PrimaryFieldName, DateFieldName);
+        creator(session, DbName(), table, PrimaryFieldName, DateFieldName);
     }
     // Adds rows of SQL values.
     void Add(const std::string& table, const Texts& rows) {

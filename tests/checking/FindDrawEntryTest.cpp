@@ -5,7 +5,7 @@ namespace sorvane::testing {
 struct DrawEntry : StoreTest {
     DrawEntry() { Make(CreatePlayed6Table, "PlayedBC49"); }
     void Find(const std::string& table = "PlayedBC49") {
-        FindDrawEntry(run, At(table));
+        FindDrawEntry(session, At(table));
         ExpectAllClosed();
     }
 };

@@ -133,12 +133,12 @@ TEST_F(KenoRules, AnEmptyBoxEndsTheCheck) {
     Keno(20, 0, TicketWith(20, 5));
     boxes.Main.at(7) = "";
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { CheckKeno(run, boxes, 0, list); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ErrorOf([&] { CheckKeno(session, boxes, 0, list); }), ErrorNumber::TypeMismatch);
 }
 
 TEST_F(KenoRules, AMissingRowRaisesTheSubscriptError) {
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { CheckKeno(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckKeno(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 }  // namespace sorvane::testing

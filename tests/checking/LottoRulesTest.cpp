@@ -185,19 +185,19 @@ TEST_F(LottoRules, LettersInABoxEndTheCheck) {
     Ticket6({1, 2, 3, 4, 5, 6});
     boxes.Main = {"1", "2", "3", "x", "5", "6", "7"};
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { CheckLotto6(run, boxes, 0, list); }), ErrorNumber::TypeMismatch);
+    EXPECT_EQ(ErrorOf([&] { CheckLotto6(session, boxes, 0, list); }), ErrorNumber::TypeMismatch);
     boxes.Main.at(3) = "32768";
-    EXPECT_EQ(ErrorOf([&] { CheckLotto6(run, boxes, 0, list); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { CheckLotto6(session, boxes, 0, list); }), ErrorNumber::Overflow);
     EXPECT_TRUE(list.items.empty());
 }
 
 TEST_F(LottoRules, AnArrayThatNoReaderSizedRaisesTheSubscriptError) {
     Draw({1, 2, 3, 4, 5, 6, 7, 8});
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { CheckLotto6(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(ErrorOf([&] { CheckLotto7(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckLotto6(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckLotto7(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
     Ticket6({1, 2, 3, 4, 5, 6});
-    EXPECT_EQ(ErrorOf([&] { CheckLotto6(run, boxes, 1, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckLotto6(session, boxes, 1, list); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST_F(LottoRules, TheSameLadderHoldsForEveryGame) {

@@ -51,12 +51,12 @@ struct PickRules : JudgeTest {
 };
 
 TEST_F(PickRules, ThreeDigitsHaveSixOrdersInThisOrder) {
-    BuildPick3Perms(run, {1, 2, 3});
+    BuildPick3Perms(session, {1, 2, 3});
     EXPECT_EQ(Perms(), (Numbers{123, 132, 213, 231, 312, 321}));
 }
 
 TEST_F(PickRules, FourDigitsHaveTwentyFourOrdersInThisOrder) {
-    BuildPick4Perms(run, {1, 2, 3, 4});
+    BuildPick4Perms(session, {1, 2, 3, 4});
     EXPECT_EQ(Perms(), (Numbers{1234, 1243, 1324, 1342, 1423, 1432, 2134, 2143, 2314, 2341, 2413, 2431,
                                 3124, 3142, 3214, 3241, 3412, 3421, 4123, 4132, 4213, 4231, 4312, 4321}));
 }
@@ -67,7 +67,7 @@ TEST_F(PickRules, OrdersOfAllThousandThreeDigitStrings) {
         const Numbers digits = DigitsOf(text);
         Numbers expected;
         Orders(text, "", expected);
-        BuildPick3Perms(run, {digits[0], digits[1], digits[2]});
+        BuildPick3Perms(session, {digits[0], digits[1], digits[2]});
         ASSERT_EQ(Perms(), expected) << text;
     }
 }
@@ -78,7 +78,7 @@ TEST_F(PickRules, OrdersOfAllTenThousandFourDigitStrings) {
         const Numbers digits = DigitsOf(text);
         Numbers expected;
         Orders(text, "", expected);
-        BuildPick4Perms(run, {digits[0], digits[1], digits[2], digits[3]});
+        BuildPick4Perms(session, {digits[0], digits[1], digits[2], digits[3]});
         ASSERT_EQ(Perms(), expected) << text;
     }
 }
@@ -174,8 +174,8 @@ TEST_F(PickRules, NoGameKeyIsConsulted) {
 TEST_F(PickRules, AMissingRowRaisesTheSubscriptError) {
     Draw({1, 2, 3, 4});
     LineList list;
-    EXPECT_EQ(ErrorOf([&] { CheckPick3(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
-    EXPECT_EQ(ErrorOf([&] { CheckPick4(run, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckPick3(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { CheckPick4(session, boxes, 0, list); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 }  // namespace sorvane::testing

@@ -19,12 +19,12 @@ std::string ManyRows(const std::string& table, int count, const std::string& val
 
 }  // namespace
 
-using Reader = void (*)(Run&, const StoreArgs&, Lines&);
+using Reader = void (*)(Session&, const StoreArgs&, Lines&);
 
 struct Readers : StoreTest {
     Texts Read(Reader reader, const std::string& table) {
         LineList list;
-        reader(run, At(table), list);
+        reader(session, At(table), list);
         ExpectAllClosed();
         return list.items;
     }
@@ -122,7 +122,7 @@ TEST_F(Readers, TheWayOfTheFirstRowJudgesTheOthersToo) {
     WinningBoxes boxes;
     boxes.Main = {"3", "2", "1"};
     LineList judged;
-    for (int row = 0; row < global.EntryCounter; ++row) CheckPick3(run, boxes, row, judged);
+    for (int row = 0; row < global.EntryCounter; ++row) CheckPick3(session, boxes, row, judged);
     EXPECT_EQ(judged.items, Texts(2, "Congratulations! This Ticket is a Winner! "));
 }
 

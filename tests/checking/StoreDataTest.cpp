@@ -16,12 +16,12 @@ const std::string Correct =
 
 }  // namespace
 
-using Writer = void (*)(Run&, const StoreArgs&, const WinningBoxes&);
+using Writer = void (*)(Session&, const StoreArgs&, const WinningBoxes&);
 
 struct WinWriters : StoreTest {
     void Store(Writer writer, const std::string& table) {
         boxes.DrawDate = date;
-        writer(run, At(table), boxes);
+        writer(session, At(table), boxes);
         ExpectAllClosed();
     }
     void Boxes(int first, int count) {
@@ -394,7 +394,7 @@ TEST_F(AddOnWriter, AnotherDateGetsAnotherRow) {
 
 TEST_F(AddOnWriter, TheRowBearsTheDateOfThePage) {
     boxes.DrawDate = Date::FromDays(46099);
-    StoreAddOnWin(run, At("WinEncore"), boxes);
+    StoreAddOnWin(session, At("WinEncore"), boxes);
     EXPECT_EQ(All("WinEncore"), Texts{"1|Lotto649|46099|0|1|2|3|4|5|NULL"});
 }
 

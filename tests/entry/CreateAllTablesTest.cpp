@@ -23,7 +23,7 @@ WindowState Open(World& world, Family family, std::string_view LottoFlag, std::s
     world.global.LottoFlag = LottoFlag;
     world.global.ExtraFlag = ExtraFlag;
     WindowState state;
-    CreateAllTables(world.run, family, state);
+    CreateAllTables(world.session, family, state);
     const PerFamily<int> numbers{{6, 7, 6, 20, 20, 3, 4}};
     EXPECT_EQ(state.NumbersPerTicket, numbers[family]) << LottoFlag;
     EXPECT_EQ(state.DbName, world.DbName());

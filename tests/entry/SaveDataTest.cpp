@@ -23,7 +23,7 @@ class WritersTest : public ::testing::Test {
     void Open(Family family, std::string_view LottoFlag, std::string_view ExtraFlag) {
         g.LottoFlag = LottoFlag;
         g.ExtraFlag = ExtraFlag;
-        CreateAllTables(world.run, family, state);
+        CreateAllTables(world.session, family, state);
     }
     StoreArgs At(std::string_view table) {
         state.TableName = table;
@@ -53,10 +53,10 @@ TEST_F(WritersTest, SixNumberRowsCountTheirKeysFromOneAndCarryTheWindowsDate) {
         g.Lotto6Tickets(i).DrawDate = Date::FromYmd(1999, 1, 1);
     }
     g.Lotto6Tickets(1).Regular = True;
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(All("PlayedBC49"), (Names{"1|" + Day("|1|2|3|4|5|6|0|0"), "2|" + Day("|11|12|13|14|15|16|1|0"),
                                         "3|" + Day("|21|22|23|24|25|26|0|0")}));
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "1,2,3,4,5,6");
     EXPECT_EQ(g.Open.DbOpen, 0);
     EXPECT_EQ(g.Open.RsOpen, 0);
@@ -70,7 +70,7 @@ TEST_F(WritersTest, LottarioWritesItsBonusTicketsAndBothMarks) {
     Fill(g.Lotto6Tickets(1), 7);
     g.Lotto6Tickets(0).Regular = True;
     g.Lotto6Tickets(1).EarlyBird = True;
-    SaveLottarioTickets(world.run, At("PlayedLottario"));
+    SaveLottarioTickets(world.session, At("PlayedLottario"));
     EXPECT_EQ(All("PlayedLottario"),
               (Names{"1|" + Day("|1|2|3|4|5|6|1|0"), "2|" + Day("|7|8|9|10|11|12|0|1")}));
 }
@@ -81,7 +81,7 @@ TEST_F(WritersTest, SuperSevenWritesThreeRowsForATicket) {
     g.Lotto7Tickets.Redim(3);
     for (int i = 0; i < 3; ++i) Fill(g.Lotto7Tickets(i), 1 + 7 * i);
     g.Lotto7Tickets(0).Regular = True;
-    SaveLotto7Tickets(world.run, At("PlayedSuper7"));
+    SaveLotto7Tickets(world.session, At("PlayedSuper7"));
     EXPECT_EQ(All("PlayedSuper7"), (Names{"1|" + Day("|1|2|3|4|5|6|7|1"), "2|" + Day("|8|9|10|11|12|13|14|0"),
                                           "3|" + Day("|15|16|17|18|19|20|21|0")}));
 }
@@ -95,7 +95,7 @@ TEST_F(WritersTest, AKenoRowHoldsTenBallsOfTheTwentyPicked) {
     ticket.Wager = 5;
     ticket.NoOfBalls = 20;
     ticket.Regular = True;
-    SaveKenoTickets(world.run, At("PlayedONTKeno"));
+    SaveKenoTickets(world.session, At("PlayedONTKeno"));
     EXPECT_EQ(All("PlayedONTKeno"), Names{"1|" + Day("|ONTKeno|1|2|3|4|5|6|7|8|9|10|5|20|1")});
 }
 
@@ -106,7 +106,7 @@ TEST_F(WritersTest, DigitRowsPutTheGameBeforeTheDateAndTheWayBehindTheDigits) {
     g.Pick3Tickets.Redim(2);
     Fill(g.Pick3Tickets(0), 7);
     g.Pick3Tickets(1).Regular = True;
-    SavePick3Tickets(world.run, At("PlayedWESTPick3"));
+    SavePick3Tickets(world.session, At("PlayedWESTPick3"));
     EXPECT_EQ(All("PlayedWESTPick3"),
               (Names{"1|WESTPick3|" + Day("|7|8|9|Box|0"), "2|WESTPick3|" + Day("|0|0|0|Box|1")}));
 }
@@ -116,7 +116,7 @@ TEST_F(WritersTest, AnEmptyWayOfPlayIsWrittenAsAnEmptyText) {
     g.NoOfTicketsOnSheet = 1;
     g.Pick4Tickets.Redim(1);
     Fill(g.Pick4Tickets(0), 1);
-    SavePick4Tickets(world.run, At("PlayedFLAPlay4"));
+    SavePick4Tickets(world.session, At("PlayedFLAPlay4"));
     EXPECT_EQ(All("PlayedFLAPlay4"), Names{"1|FLAPlay4|" + Day("|1|2|3|4||0")});
 }
 
@@ -126,18 +126,18 @@ TEST_F(WritersTest, AnAddOnNumberGoesDigitByDigitAndItsSeventhForWesternExtraAlo
     g.AddOnTickets.Redim(2);
     Fill(g.AddOnTickets(0), 1);
     Fill(g.AddOnTickets(1), 2);
-    SaveAddOnTickets(world.run, At("PlayedWESTExtra"));
+    SaveAddOnTickets(world.session, At("PlayedWESTExtra"));
     EXPECT_EQ(All("PlayedWESTExtra"),
               (Names{"1|Super 7|" + Day("|1|2|3|4|5|6|7"), "2|Super 7|" + Day("|2|3|4|5|6|7|8")}));
     Open(Family::frm749, "Super 7", "Tag");
-    SaveAddOnTickets(world.run, At("PlayedTag"));
+    SaveAddOnTickets(world.session, At("PlayedTag"));
     EXPECT_EQ(All("PlayedTag").at(1), "2|Super 7|" + Day("|2|3|4|5|6|7|NULL"));
 }
 
 TEST_F(WritersTest, WithACountOfNoughtNoAddOnRowIsWritten) {
     Open(Family::frm649, "Lotto649", "Encore");
     g.NoOfExtra = 0;
-    SaveAddOnTickets(world.run, At("PlayedEncore"));
+    SaveAddOnTickets(world.session, At("PlayedEncore"));
     EXPECT_TRUE(All("PlayedEncore").empty());
 }
 
@@ -146,7 +146,7 @@ TEST_F(WritersTest, ExtraRowsHoldFourNumbersAndNothingBehindThem) {
     g.NoOfExtra = 1;
     g.ExtraTickets.Redim(1);
     Fill(g.ExtraTickets(0), 96);
-    SaveExtraTickets(world.run, At("PlayedExtra"));
+    SaveExtraTickets(world.session, At("PlayedExtra"));
     EXPECT_EQ(All("PlayedExtra"), Names{"1|BC49|" + Day("|96|97|98|99|NULL|0")});
 }
 
@@ -156,7 +156,7 @@ TEST_F(WritersTest, AKeyTakenAfterACleanUpShowsItsBoxAndTheRowsBeforeItStay) {
     g.NoOfTicketsOnSheet = 2;
     g.Lotto6Tickets.Redim(2);
     world.ExpectUnexpected(3022);
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(world.Plain().One("SELECT group_concat(ID1) FROM PlayedBC49"), "2,3");
 }
 
@@ -181,7 +181,7 @@ class OneCommitTest : public WritersTest {
 
 TEST_F(OneCommitTest, ASheetOfAHundredTicketsIsOne) {
     const unsigned commits = Commits();
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(Commits(), commits + 1);
     EXPECT_EQ(world.Plain().One("SELECT count(*) FROM PlayedBC49"), "100");
 }
@@ -197,7 +197,7 @@ TEST_F(OneCommitTest, TheRowsBeforeAnErrorAreOnTheDiskWhenItsBoxComesAndTheFileI
                              EXPECT_EQ(g.Open.DbOpen, 0);
                              world.Plain().Do("BEGIN EXCLUSIVE; COMMIT");
                          });
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
 }
 
 TEST_F(OneCommitTest, WhereItFailsNothingOfTheSheetStaysAndItsBoxComes) {
@@ -205,11 +205,11 @@ TEST_F(OneCommitTest, WhereItFailsNothingOfTheSheetStaysAndItsBoxComes) {
         PlainFile reader = world.Plain();
         reader.Do(Reading);
         world.ExpectUnexpected(3260);
-        SaveLotto6Tickets(world.run, At("PlayedBC49"));
+        SaveLotto6Tickets(world.session, At("PlayedBC49"));
         EXPECT_EQ(g.Open.DbOpen, 0);
     }
     EXPECT_EQ(Keys(), "NULL");
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(world.Plain().One("SELECT max(ID1) FROM PlayedBC49"), "100");
 }
 
@@ -219,7 +219,7 @@ TEST_F(OneCommitTest, WhereItFailsBehindAnErrorNothingStaysAndTheBoxOfTheErrorCo
         PlainFile reader = world.Plain();
         reader.Do(Reading);
         world.ExpectUnexpected(3022);
-        SaveLotto6Tickets(world.run, At("PlayedBC49"));
+        SaveLotto6Tickets(world.session, At("PlayedBC49"));
     }
     EXPECT_EQ(Keys(), "4");
 }
@@ -228,7 +228,7 @@ TEST_F(OneCommitTest, WhileAnotherProgramWritesASheetIsRefusedBeforeItCounts) {
     PlainFile writer = world.Plain();
     writer.Do("BEGIN IMMEDIATE; INSERT INTO PlayedBC49 (ID1) VALUES (1)");
     world.ExpectUnexpected(3260);
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     writer.Do("COMMIT");
     EXPECT_EQ(Keys(), "1");
 }
@@ -248,7 +248,7 @@ TEST_F(WritersTest, KeysCountOnBeyondSixteenBits) {
          {std::pair{"PlayedLotto649", &SaveLotto6Tickets}, std::pair{"PlayedEncore", &SaveAddOnTickets},
           std::pair{"Spent", &StoreLedgerAmount}}) {
         fill(table);
-        save(world.run, At(table));
+        save(world.session, At(table));
         const Names keys = world.Plain().Rows("SELECT ID1 FROM " + std::string(table) + " WHERE ID1 > 32768");
         EXPECT_EQ(keys, std::string(table) == "Spent" ? Names{"32769"} : (Names{"32769", "32770"})) << table;
     }
@@ -258,14 +258,14 @@ TEST_F(WritersTest, AMissingTableIsNamedInTheBox) {
     Open(Family::frm649, "BC49", "Extra");
     g.NoOfTicketsOnSheet = 1;
     world.ExpectStoreError(3011, "Unable to open PlayedPik4 table. Please advise error number to support.");
-    SaveLotto6Tickets(world.run, At("PlayedPik4"));
+    SaveLotto6Tickets(world.session, At("PlayedPik4"));
 }
 
 TEST_F(WritersTest, AnArrayNeverSizedIsAnUnexpectedErrorInTheBox) {
     Open(Family::frm649, "BC49", "Extra");
     g.NoOfTicketsOnSheet = 1;
     world.ExpectUnexpected(9);
-    SaveLotto6Tickets(world.run, At("PlayedBC49"));
+    SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_TRUE(All("PlayedBC49").empty());
 }
 

@@ -37,12 +37,12 @@ class DyingCreation : public ::testing::TestWithParam<Opening> {
         DyingDialogs dialogs;
         Dao::Engine engine(vfs.Name());
         Services services{dialogs, world.printer, world.clock, world.random, world.tools, engine};
-        sorvane::Run run{world.global, services};
+        sorvane::Session session{world.global, services};
         world.global.LottoFlag = GetParam().LottoFlag;
         world.global.ExtraFlag = GetParam().ExtraFlag;
         WindowState state;
         try {
-            return ErrorOf([&] { CreateAllTables(run, GetParam().family, state); }) == 0;
+            return ErrorOf([&] { CreateAllTables(session, GetParam().family, state); }) == 0;
         } catch (const Dead&) {
             return false;
         }

@@ -32,77 +32,77 @@ class NoFace final : public WheelFace {
     void RefuseTicketCount() override {}
 };
 
-template <void (*Call)(Run&, const StoreArgs&)>
+template <void (*Call)(Session&, const StoreArgs&)>
 void Calls(Desk& desk) {
-    Call(desk.run, desk.At());
+    Call(desk.session, desk.At());
 }
 
-template <void (*Store)(Run&, const StoreArgs&, const WinningBoxes&)>
+template <void (*Store)(Session&, const StoreArgs&, const WinningBoxes&)>
 void Stores(Desk& desk) {
     WinningBoxes boxes;
     for (int number = 1; number <= 20; ++number) boxes.Main.push_back(std::to_string(number));
     boxes.Four = {"1", "2", "3", "4"};
     boxes.Encore = "1234567";
     boxes.DrawDate = desk.state.WindowDate;
-    Store(desk.run, desk.At(), boxes);
+    Store(desk.session, desk.At(), boxes);
 }
 
-template <void (*Read)(Run&, const StoreArgs&, Lines&)>
+template <void (*Read)(Session&, const StoreArgs&, Lines&)>
 void Reads(Desk& desk) {
-    Read(desk.run, desk.At(), desk.list);
+    Read(desk.session, desk.At(), desk.list);
 }
 
 template <Family family>
 void Charts(Desk& desk) {
-    if constexpr (IsPick(family)) ChartDigits(desk.run, desk.Report(family), desk.chart);
-    else ChartFrequency(desk.run, desk.Report(family), desk.chart);
+    if constexpr (IsPick(family)) ChartDigits(desk.session, desk.Report(family), desk.chart);
+    else ChartFrequency(desk.session, desk.Report(family), desk.chart);
 }
 
 template <auto generate>
 void Wheels(Desk& desk) {
     NoFace face;
-    desk.run.global.Generating = true;
+    desk.session.global.Generating = true;
     Integer howMany = 7, numbers = 6, mode = ReportMode;
     Array<std::string> unused;
-    generate(desk.run, {{}, howMany, numbers, desk.DbName, desk.state.TableName, mode, unused},
+    generate(desk.session, {{}, howMany, numbers, desk.DbName, desk.state.TableName, mode, unused},
              {face, desk.list, desk.chart}, 6);
 }
 
 template <Family family>
 void CreatesAll(Desk& desk) {
-    CreateAllTables(desk.run, family, desk.state);
+    CreateAllTables(desk.session, family, desk.state);
 }
 
 void AmendsWinnings(Desk& desk) {
-    desk.run.global.EnteringWinnings = On;
-    StoreLedgerAmount(desk.run, desk.At());
+    desk.session.global.EnteringWinnings = On;
+    StoreLedgerAmount(desk.session, desk.At());
 }
 
 void DeletesDate(Desk& desk) {
-    DeleteRowsForDate(desk.run, desk.DbName, desk.state.TableName, desk.state.WindowDate);
+    DeleteRowsForDate(desk.session, desk.DbName, desk.state.TableName, desk.state.WindowDate);
 }
-void EmptiesTemp(Desk& desk) { DeleteAllRows(desk.run, desk.DbName, desk.state.TableName); }
+void EmptiesTemp(Desk& desk) { DeleteAllRows(desk.session, desk.DbName, desk.state.TableName); }
 
 void BuildsTemp(Desk& desk) {
     Array<Integer> frequencies;
     frequencies.Redim(44);
     for (int i = 0; i <= 44; ++i) frequencies(i) = 100 + i;
-    BuildTempTable(desk.run, desk.DbName, desk.state.TableName, 44, frequencies);
+    BuildTempTable(desk.session, desk.DbName, desk.state.TableName, 44, frequencies);
 }
 
 void ChartsMoney(Desk& desk) {
-    ChartMoney(desk.run, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
+    ChartMoney(desk.session, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
                desk.chart);
 }
 void ReportsMoney(Desk& desk) {
     std::string text;
-    ReportMoney(desk.run, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
+    ReportMoney(desk.session, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
                 desk.chart, "Lotto", text);
     desk.list.AddItem(text);
 }
 void ReportsFrequency(Desk& desk) {
     std::string text;
-    ReportFrequency(desk.run, desk.Report(Family::frm649), desk.chart, "Lotto", text);
+    ReportFrequency(desk.session, desk.Report(Family::frm649), desk.chart, "Lotto", text);
     desk.list.AddItem(text);
 }
 
@@ -188,7 +188,7 @@ RoutineWorld::RoutineWorld(const Routine& of, const std::string& vfs) : routine(
     std::filesystem::create_directory(std::filesystem::path(path).parent_path());
     if (routine.fromNothing) return;
     Ready();
-    CreateAllTables(run, routine.family, state);
+    CreateAllTables(session, routine.family, state);
     for (const std::string& table : world.Plain().Tables()) Fill(table);
     std::ostringstream bytes;
     bytes << std::ifstream(path, std::ios::binary).rdbuf();
@@ -268,7 +268,7 @@ RoutineWorld::Outcome RoutineWorld::RunOnce(const std::function<void()>& done) {
     Ready();
     LineList list;
     testing::RecordingChart chart;
-    Desk desk{run, path, state, list, chart};
+    Desk desk{session, path, state, list, chart};
     const int raised = ErrorOf([&] { routine.act(desk); });
     done();
     EXPECT_EQ(world.global.Open.DbOpen, Off);

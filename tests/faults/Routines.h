@@ -25,7 +25,7 @@ using Tables = std::map<std::string, Texts>;  // rows in the order of their numb
 
 // What a routine works with.
 struct Desk {
-    Run& run;
+    Session& session;
     const std::string& DbName;
     WindowState& state;
     LineList& list;
@@ -105,7 +105,7 @@ class RoutineWorld {
     testing::World world;
     PatientDialogs dialogs;
     Services services{dialogs, world.printer, world.clock, world.random, world.tools, world.engine};
-    sorvane::Run run{world.global, services};
+    sorvane::Session session{world.global, services};
     WindowState state;
     const std::string path = world.DbName();
     std::string fresh;  // the file's bytes as it was made

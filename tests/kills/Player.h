@@ -42,27 +42,27 @@ class Program final : public Dialogs {
     }
     static constexpr int MostTickets = 100;
 
-    void Start() { CreateAllTables(run_, Family::frm649, state_); }
+    void Start() { CreateAllTables(session_, Family::frm649, state_); }
     void Sheet(int day, int tickets) {
         global.NoOfTicketsOnSheet = tickets;
-        SaveLotto6Tickets(run_, At("PlayedLotto649", day));
+        SaveLotto6Tickets(session_, At("PlayedLotto649", day));
     }
     void AddOns(int day, int tickets) {
         global.NoOfExtra = tickets;
-        SaveAddOnTickets(run_, At("PlayedEncore", day));
+        SaveAddOnTickets(session_, At("PlayedEncore", day));
     }
     void CleanUp(const char* table, int day) {
         const StoreArgs at = At(table, day);
-        DeleteRowsForDate(run_, at.DbName, at.TableName, at.WindowDate);
+        DeleteRowsForDate(session_, at.DbName, at.TableName, at.WindowDate);
     }
     // All seven numbers are `first` and the six behind it.
     void Check(int day, int first) {
         for (int i = 0; i < 7; ++i) boxes_.Main.at(static_cast<std::size_t>(i)) = std::to_string(first + i);
-        StoreLotto6Win(run_, At("WinLotto649", day), boxes_);
+        StoreLotto6Win(session_, At("WinLotto649", day), boxes_);
     }
     void Winnings(int day, int dollars) {
         global.Dollars = std::to_string(dollars);
-        StoreLedgerAmount(run_, At("Winnings", day));
+        StoreLedgerAmount(session_, At("Winnings", day));
     }
 
     Global global;
@@ -89,7 +89,7 @@ class Program final : public Dialogs {
     WinningBoxes boxes_;
     std::string table_;
     const std::string path_;
-    Run run_{global, services_};
+    Session session_{global, services_};
 };
 
 // A process of its own. It must come into being while this one has no database open, since locks belong to

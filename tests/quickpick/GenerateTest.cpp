@@ -30,7 +30,7 @@ struct PickWorld : World {
         return list.items;
     }
     Services picks;
-    Run with;
+    Session with;
     Array<std::string> QuickPicks;
     LineList list;
 };

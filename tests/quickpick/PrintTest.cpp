@@ -31,7 +31,7 @@ struct PrintWorld : World {
         if (!picks.empty()) QuickPicks.Redim(static_cast<int>(picks.size()));
         for (std::size_t i = 0; i < picks.size(); ++i) QuickPicks(static_cast<int>(i)) = picks[i];
     }
-    void Print(int tickets) { PrintTickets(run, QuickPicks, tickets); }
+    void Print(int tickets) { PrintTickets(session, QuickPicks, tickets); }
     void ExpectBox(std::string_view text) { dialogs.Expect("PRINTER ERROR!", text); }
     Texts Page() const {
         EXPECT_EQ(printer.documents.size(), 1U);

@@ -53,8 +53,8 @@ struct WheelWorld : World {
         HowManyToWheel = howMany;
         global.WheelSize = size;
         global.NoOfTickets = tickets;
-        CreateTempTable(run, db, "Temp", PrimaryFieldName, DateFieldName);
-        CreateWin6Table(run, db, "WinLottario", PrimaryFieldName, DateFieldName);
+        CreateTempTable(session, db, "Temp", PrimaryFieldName, DateFieldName);
+        CreateWin6Table(session, db, "WinLottario", PrimaryFieldName, DateFieldName);
     }
     void AddDraws(int draws, const std::string& numbers) {
         const int first = std::stoi(Plain().One("SELECT count(*) + 1 FROM WinLottario"));
@@ -62,8 +62,8 @@ struct WheelWorld : World {
             Plain().Do("INSERT INTO WinLottario VALUES (" + std::to_string(i) + ", 46000, " + numbers + ")");
     }
     void Generate(WheelType type) {
-        GenerateByWheelType(run, {type, HowManyToWheel, NumbersPerTicket, db, TableName, mode, QuickPicks},
-                            window);
+        GenerateByWheelType(
+            session, {type, HowManyToWheel, NumbersPerTicket, db, TableName, mode, QuickPicks}, window);
     }
     // What is left behind: nothing in Temp, the file free for others, nothing open.
     void ExpectTempEmptyAndFileFree() {
@@ -88,7 +88,7 @@ struct WheelWorld : World {
     }
     const Texts& Wheel(const std::vector<int>& numbers, int numbersPerTicket = 6) {
         Array<Integer> pool = Pool(numbers);
-        WheelTickets(run, window, pool, numbersPerTicket);
+        WheelTickets(session, window, pool, numbersPerTicket);
         return list.items;
     }
 
@@ -124,7 +124,7 @@ TEST(WheelTicketsTest, TheSevenRowsAreDifferentAndEachLeavesOutAnotherNumber) {
 TEST(WheelTicketsTest, RotationLeavesTheSpareSlotAndTheSortOverwritesNumbers) {
     WheelWorld world;
     Array<Integer> pool = world.Pool({1, 2, 3, 4, 5, 6, 7});
-    WheelTickets(world.run, world.window, pool, 6);
+    WheelTickets(world.session, world.window, pool, 6);
     EXPECT_EQ(pool(7), 0);
     EXPECT_EQ(pool(0), 7);
     EXPECT_EQ(pool(6), 6);
@@ -290,7 +290,7 @@ TEST(BuildTempTableTest, TheRowsAreTheNumbersWithTheirFrequenciesCommittedOnce) 
     WheelWorld world;
     Array<Integer> frequencies = world.Pool({5, 0, 7});
     const unsigned commits = world.Commits();
-    BuildTempTable(world.run, world.db, world.TableName, 2, frequencies);
+    BuildTempTable(world.session, world.db, world.TableName, 2, frequencies);
     EXPECT_EQ(world.Plain().Rows("SELECT * FROM Temp"), (Texts{"1|1|5", "2|2|0", "3|3|7"}));
     EXPECT_EQ(world.Commits(), commits + 1);
     EXPECT_EQ(world.TableName, "Temp");

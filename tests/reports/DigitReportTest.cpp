@@ -20,7 +20,7 @@ struct DigitWorld : ReportWorld {
     // The report button, with this choice in frmReportType.
     void Report(std::string_view choice, std::string_view caption = "Pick 3") {
         ReportDigits(
-            run, Args(), chart, [&] { ++asked, global.ReportType = choice; }, caption, text);
+            session, Args(), chart, [&] { ++asked, global.ReportType = choice; }, caption, text);
     }
     std::string ReportOf(std::string_view choice, std::string_view caption = "Pick 3") {
         Report(choice, caption);
@@ -114,7 +114,7 @@ TEST(DigitReportTest, BothButtonsZeroTheCountsByPosition) {
     DigitWorld world(Family::frmPick3, "ONTPick3");
     AddPick3(world);
     for (int i = 0; i < 2; ++i) {
-        ChartDigits(world.run, world.Args(), world.chart);
+        ChartDigits(world.session, world.Args(), world.chart);
         EXPECT_EQ((world.chart.cells[{1, 1}]), "11");
         EXPECT_EQ(world.mode, ChartMode);
         EXPECT_EQ(world.ReportOf(ReportTypes::NumbersByPosition), Crlf(golden::Pick3Positions));
@@ -124,7 +124,7 @@ TEST(DigitReportTest, BothButtonsZeroTheCountsByPosition) {
 TEST(DigitReportTest, TheChartButtonWithoutATableShowsItsBoxAlone) {
     DigitWorld world(Family::frmPick3, "BCDaily3");
     world.ExpectBox(NoTableText);
-    ChartDigits(world.run, world.Args(), world.chart);
+    ChartDigits(world.session, world.Args(), world.chart);
     EXPECT_TRUE(world.chart.calls.empty());
     EXPECT_EQ(world.TableName, "WinBCDaily3");
 }
@@ -133,7 +133,7 @@ TEST(DigitReportTest, EveryKeyNamesItsWinTableTheWesternOneIncluded) {
     for (const std::string key : {"ONTPick3", "BCDaily3", "WESTPick3", "Quote3", "FLACash3"}) {
         DigitWorld world(Family::frmPick3, key);
         world.DigitDraws("Win" + key, {"012"});
-        ChartDigits(world.run, world.Args(), world.chart);
+        ChartDigits(world.session, world.Args(), world.chart);
         EXPECT_EQ((world.chart.cells[{1, 1}]), "1") << key;
     }
 }
@@ -152,7 +152,7 @@ TEST(DigitReportTest, AHundredByPositionStandsWithoutABlankAndAThousandToo) {
     world.global.PositionCounts(0)(0) = 9;
     world.global.PositionCounts(0)(1) = 99;
     world.global.PositionCounts(0)(2) = 100;
-    WriteDigitReport(world.run, Family::frmPick3, "Pick 3", world.text);
+    WriteDigitReport(world.session, Family::frmPick3, "Pick 3", world.text);
     EXPECT_NE(world.text.find("           0           9             99            100\r\n"),
               std::string::npos);
 }
@@ -160,7 +160,7 @@ TEST(DigitReportTest, AHundredByPositionStandsWithoutABlankAndAThousandToo) {
 TEST(DigitReportTest, AFailureKeepsWhatWasWritten) {
     DigitWorld world(Family::frmPick3, "ONTPick3");
     world.global.ReportType = ReportTypes::BackPairs;
-    EXPECT_EQ(ErrorOf([&] { WriteDigitReport(world.run, Family::frmPick3, "Pick 3", world.text); }), 9);
+    EXPECT_EQ(ErrorOf([&] { WriteDigitReport(world.session, Family::frmPick3, "Pick 3", world.text); }), 9);
     const std::string whole = Crlf(golden::Pick3BackPairs);
     EXPECT_EQ(world.text, whole.substr(0, whole.find("  00 ")));
 }

@@ -19,8 +19,8 @@ using testing::ReportWorld;
 struct NumberWorld : ReportWorld {
     NumberWorld(Family which, std::string_view LottoFlag) : ReportWorld(LottoFlag), family(which) {}
     ReportArgs Args() { return {family, db, TableName, mode}; }
-    void Report(std::string_view caption) { ReportFrequency(run, Args(), chart, caption, text); }
-    void Chart() { ChartFrequency(run, Args(), chart); }
+    void Report(std::string_view caption) { ReportFrequency(session, Args(), chart, caption, text); }
+    void Chart() { ChartFrequency(session, Args(), chart); }
 
     Family family;
     std::string db = DbName();

@@ -74,9 +74,9 @@ class DatabaseDocument : public ::testing::Test {
   protected:
     void SetUp() override {
         Services services{dialogs, printer, clock, random, tools, engine};
-        sorvane::Run run{global, services};
+        sorvane::Session session{global, services};
         global.AppPath = folder.File("");
-        CheckDatabaseExists(run, path());
+        CheckDatabaseExists(session, path());
         const std::vector<std::pair<std::string, const Creator*>> tables = {
             {"Spent", &CreateSpentTable},
             {"Winnings", &CreateWinningsTable},
@@ -94,7 +94,7 @@ class DatabaseDocument : public ::testing::Test {
             {"WinEncore", &CreateWinAddOnTable},
             {"Temp", &CreateTempTable},
         };
-        for (const auto& [name, create] : tables) (*create)(run, path(), name, "ID1", "Date");
+        for (const auto& [name, create] : tables) (*create)(session, path(), name, "ID1", "Date");
     }
     std::string path() const { return DatabasePath(global.AppPath); }
 

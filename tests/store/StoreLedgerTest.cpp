@@ -24,12 +24,12 @@ class LedgerTest : public ::testing::Test {
         g.LottoFlag = "Lotto649";
     }
     void Make(const Creator& creator, const std::string& table) {
-        creator(world.run, world.DbName(), table, PrimaryFieldName, DateFieldName);
+        creator(world.session, world.DbName(), table, PrimaryFieldName, DateFieldName);
     }
     void Record(std::string_view table, std::string_view amount) {
         std::string TableName(table);
         g.Dollars = amount;
-        StoreLedgerAmount(world.run, {world.DbName(), TableName, day});
+        StoreLedgerAmount(world.session, {world.DbName(), TableName, day});
     }
     Names Spent() { return world.Plain().Rows("SELECT ID1, Lottoflag, Spent FROM Spent ORDER BY rowid"); }
     Names Winnings() {

@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 constexpr std::string_view Unexpected = "Unexpected error occurred. Please advise error number to support.";
 
 void Make(World& world, const Creator& creator, const std::string& table) {
-    creator(world.run, world.DbName(), table, PrimaryFieldName, DateFieldName);
+    creator(world.session, world.DbName(), table, PrimaryFieldName, DateFieldName);
 }
 
 Names Columns(PlainFile& file, const std::string& table) {
@@ -31,7 +31,7 @@ Names Columns(PlainFile& file, const std::string& table) {
 
 TEST(CheckDatabaseExistsTest, AMissingFolderIsMadeAndTheEmptyFileInItWithoutAMessage) {
     World world;
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_TRUE(fs::is_directory(world.folder / "data"));
     EXPECT_TRUE(world.Plain().Tables().empty());
     EXPECT_EQ(world.global.Open.DbOpen, 0);
@@ -44,17 +44,17 @@ TEST(CheckDatabaseExistsTest, WhatItMakesIsTheUsersAloneAndWhatIsThereKeepsItsRi
     constexpr fs::perms Own = fs::perms::owner_read | fs::perms::owner_write;
     World world;
     const fs::path folder = world.folder / "data";
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(RightsOf(folder), fs::perms::owner_all);
     EXPECT_EQ(RightsOf(world.DbName()), Own);
     constexpr fs::perms Shared = fs::perms::owner_all | fs::perms::group_read | fs::perms::group_exec;
     fs::permissions(folder, Shared);
     fs::permissions(world.DbName(), Own | fs::perms::group_read);
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(RightsOf(folder), Shared);
     EXPECT_EQ(RightsOf(world.DbName()), Own | fs::perms::group_read);
     fs::remove(world.DbName());
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(RightsOf(folder), Shared);
     EXPECT_EQ(RightsOf(world.DbName()), Own);
 }
@@ -63,7 +63,7 @@ TEST(CheckDatabaseExistsTest, AFileThatIsThereIsLeftAlone) {
     World world;
     world.WithDatabase();
     Make(world, CreateSpentTable, "Spent");
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
 }
 
@@ -71,24 +71,24 @@ TEST(CheckDatabaseExistsTest, AFolderInThePlaceOfTheFileShowsTheGeneralBox) {
     World world;
     fs::create_directories(world.DbName());
     world.dialogs.Expect("ERROR!", "ERROR #75\r\n" + std::string(Unexpected), Answer::Ok, BoxStyle::Stop);
-    CheckDatabaseExists(world.run, world.DbName());
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_TRUE(fs::is_directory(world.DbName()));
 }
 
 TEST(CheckDatabaseExistsTest, AFolderThatCannotBeMadeRaises75ToTheCaller) {
     World world;
     { std::ofstream(world.folder / "data") << "not a folder"; }
-    EXPECT_EQ(ErrorOf([&] { CheckDatabaseExists(world.run, world.DbName()); }), 75);
+    EXPECT_EQ(ErrorOf([&] { CheckDatabaseExists(world.session, world.DbName()); }), 75);
 }
 
 TEST(ProbeTableTest, TellsWhetherATableIsThereAndIsSilentAboutAMissingOne) {
     World world;
     world.WithDatabase();
     world.global.TableOpened = On;
-    ProbeTable(world.run, world.DbName(), "Spent");
+    ProbeTable(world.session, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 0);
     Make(world, CreateSpentTable, "Spent");
-    ProbeTable(world.run, world.DbName(), "Spent");
+    ProbeTable(world.session, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.global.Open.DbOpen, 0);
     EXPECT_EQ(world.global.Open.RsOpen, 0);
@@ -97,7 +97,7 @@ TEST(ProbeTableTest, TellsWhetherATableIsThereAndIsSilentAboutAMissingOne) {
 TEST(ProbeTableTest, AnyOtherErrorShowsTheGeneralBox) {
     World world;
     world.ExpectUnexpected(3024);
-    ProbeTable(world.run, world.DbName(), "Spent");
+    ProbeTable(world.session, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 0);
 }
 
@@ -107,10 +107,10 @@ TEST(ProbeTableTest, AFolderInThePlaceOfTheJournalIsADiskError) {
     Make(world, CreateSpentTable, "Spent");
     fs::create_directory(world.DbName() + "-journal");
     world.ExpectUnexpected(3043);
-    ProbeTable(world.run, world.DbName(), "Spent");
+    ProbeTable(world.session, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 0);
     fs::remove(world.DbName() + "-journal");
-    ProbeTable(world.run, world.DbName(), "Spent");
+    ProbeTable(world.session, world.DbName(), "Spent");
     EXPECT_EQ(world.global.TableOpened, 1);
 }
 
@@ -119,8 +119,8 @@ TEST(ProbeTableTest, AFileOfOneByteIsNoDatabaseAndStaysAsItIs) {
     world.WithDatabase();
     { std::ofstream(world.DbName(), std::ios::trunc) << 'x'; }
     world.ExpectUnexpected(3343);
-    ProbeTable(world.run, world.DbName(), "Spent");
-    CheckDatabaseExists(world.run, world.DbName());
+    ProbeTable(world.session, world.DbName(), "Spent");
+    CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(fs::file_size(world.DbName()), 1u);
 }
 
@@ -144,9 +144,9 @@ TEST(CheckDatabaseExistsTest, APathOfFiveHundredCharactersIsTakenAndALongerOneIs
         ASSERT_EQ(world.DbName().size(), characters);
         const bool taken = characters <= 500;
         if (!taken) world.ExpectUnexpected(3051);
-        CheckDatabaseExists(world.run, world.DbName());
+        CheckDatabaseExists(world.session, world.DbName());
         if (!taken) world.ExpectUnexpected(3024);
-        ProbeTable(world.run, world.DbName(), "Spent");
+        ProbeTable(world.session, world.DbName(), "Spent");
         EXPECT_EQ(fs::exists(world.DbName()), taken);
     }
 }
@@ -155,7 +155,7 @@ TEST(ProbingLoopTest, CreatesAMissingTableSilently) {
     World world;
     world.WithDatabase();
     std::string table = "Spent";
-    MakeSureOf(world.run, world.DbName(), table, [&] { Make(world, CreateSpentTable, table); });
+    MakeSureOf(world.session, world.DbName(), table, [&] { Make(world, CreateSpentTable, table); });
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
 }
@@ -176,7 +176,7 @@ TEST(ProbingLoopTest, ADamagedFileGivesBothBoxesOnceAPassUntilTheCauseIsGone) {
     }
     std::string table = "Spent";
     int passes = 0;
-    MakeSureOf(world.run, world.DbName(), table, [&] {
+    MakeSureOf(world.session, world.DbName(), table, [&] {
         ++passes;
         Make(world, CreateSpentTable, table);
     });
@@ -262,9 +262,9 @@ TEST(CreatorsTest, TheThreeFormsOfTheCreatorsSentencesStayDistinct) {
     };
     for (const auto& form : forms) {
         world.ExpectStoreError(3011, form.sentence);
-        ShowStoreError(world.run, form.creator.tail, 3011, "Spent");
+        ShowStoreError(world.session, form.creator.tail, 3011, "Spent");
         world.ExpectUnexpected(3043);
-        ShowStoreError(world.run, form.creator.tail, 3043, "Spent");
+        ShowStoreError(world.session, form.creator.tail, 3043, "Spent");
     }
 }
 
@@ -284,11 +284,11 @@ TEST(CreateIndexTest, HasOneSentenceForEveryErrorAndLeavesTheTableWithoutItsInde
         EXPECT_EQ(ErrorOf([&] { CreateIndex(Db, "Nowhere", PrimaryFieldName, DateFieldName); }), 3011);
     }
     world.ExpectStoreError(3011, " Unable to create index. Please advise error number to support.");
-    ShowStoreError(world.run, Tails::CreateIndex, 3011, "Nowhere");
+    ShowStoreError(world.session, Tails::CreateIndex, 3011, "Nowhere");
     // A table without the second field: it stands, the loop that made it ends, its index is missing.
     world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
     world.global.TableOpened = Off;
-    CreateSpentTable(world.run, world.DbName(), "Spent", PrimaryFieldName, "Day");
+    CreateSpentTable(world.session, world.DbName(), "Spent", PrimaryFieldName, "Day");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
 }
@@ -301,7 +301,7 @@ TEST(CreateIndexTest, OfAPairTheTablesStandWithoutTheIndexesThatFail) {
     Integer code = 6;
     for (int box = 0; box < 2; ++box)
         world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
-    CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, "Day");
+    CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, "Day");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), (Names{"PlayedBC49", "WinBC49"}));
 }
@@ -321,7 +321,7 @@ TEST(CreateIndexTest, AnIndexThatCannotBeMadeLeavesTheOtherTableOfThePairItsOwn)
         std::string table = "PlayedBC49";
         Integer code = 6;
         world.ExpectStoreError(3010, " Unable to create index. Please advise error number to support.");
-        CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+        CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
         EXPECT_EQ(IndexesOf(world, "PlayedBC49"), ofPlayed ? Names{} : played);
         EXPECT_EQ(IndexesOf(world, "WinBC49"), ofPlayed ? win : Names{});
     }
@@ -337,7 +337,7 @@ TEST(CreateTableByShapeTest, AWinTableThatCannotBeMadeIsToldOnceAPassAndLeavesTh
     world.ExpectUnexpected(3010);
     world.dialogs.Expect("ERROR!", "ERROR #3010\r\n" + std::string(Unexpected), Answer::Ok, BoxStyle::Stop,
                          [&] { world.Plain().Do("DROP VIEW WinBC49"); });
-    CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+    CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
     EXPECT_EQ(IndexesOf(world, "PlayedBC49").size(), 2u);
     EXPECT_EQ(IndexesOf(world, "WinBC49").size(), 2u);
 }
@@ -372,7 +372,7 @@ TEST(CreateTableByShapeTest, MakesThePairAndLeavesTheWinTablesNameBehind) {
         world.global.ExtraFlag = c.ExtraFlag;
         std::string table = c.start;
         Integer code = c.code;
-        CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+        CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
         EXPECT_EQ(world.Plain().Tables(), c.made) << c.LottoFlag;
         EXPECT_EQ(table, c.nameAfter) << c.LottoFlag;
         EXPECT_EQ(code, c.code);
@@ -385,7 +385,7 @@ TEST(CreateTableByShapeTest, TheMisspeltFloridaKeyNeverMatchesAndDoesNoHarm) {
     world.global.LottoFlag = world.global.ExtraFlag = "FLAPlay4";
     std::string table = "anything";
     Integer code = 4;
-    CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+    CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
     EXPECT_EQ(world.Plain().Tables(), Names{"PlayedFLAPlay4"});
     EXPECT_EQ(table, "PlayedFLAPlay4");
 }
@@ -396,7 +396,7 @@ TEST(CreateTableByShapeTest, FiveAndAnyOtherCodeDoNothing) {
     for (const int other : {0, 2, 5, 8, 21}) {
         std::string table = "PlayedLotto649";
         Integer code = other;
-        CreateTableByShape(world.run, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
+        CreateTableByShape(world.session, world.DbName(), table, code, PrimaryFieldName, DateFieldName);
         EXPECT_EQ(table, "PlayedLotto649");
     }
     EXPECT_TRUE(world.Plain().Tables().empty());
@@ -419,14 +419,14 @@ class DeletionTest : public ::testing::Test {
 };
 
 TEST_F(DeletionTest, AnEmptyTableStaysAsItIsWithoutAnError) {
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedEncore", monday);
-    DeleteAllRows(world.run, world.DbName(), "PlayedEncore");
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
+    DeleteAllRows(world.session, world.DbName(), "PlayedEncore");
     EXPECT_TRUE(Left().empty());
 }
 
 TEST_F(DeletionTest, ADateWithoutRowsDeletesNothing) {
     Put(1, "Lotto649", tuesday);
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
     EXPECT_EQ(Left(), Names{"1"});
 }
 
@@ -435,7 +435,7 @@ TEST_F(DeletionTest, AllRowsOfTheDateGoWhicheverGameTheyCarry) {
     Put(2, "Super 7", tuesday);
     Put(3, "Super 7", monday);
     Put(4, "Lottario", monday);
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
     EXPECT_EQ(Left(), Names{"2"});
 }
 
@@ -443,7 +443,7 @@ TEST_F(DeletionTest, TheLastRowsOfTheTableCanBelongToTheDate) {
     Put(1, "Lotto649", monday);
     Put(2, "Lotto649", tuesday);
     Put(3, "Lotto649", tuesday);
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedEncore", tuesday);
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", tuesday);
     EXPECT_EQ(Left(), Names{"1"});
     EXPECT_EQ(world.global.Open.RsOpen, 0);
     EXPECT_EQ(world.global.Open.DbOpen, 0);
@@ -451,16 +451,16 @@ TEST_F(DeletionTest, TheLastRowsOfTheTableCanBelongToTheDate) {
 
 TEST_F(DeletionTest, AllRowsGo) {
     for (int key = 1; key <= 5; ++key) Put(key, "Lotto649", key % 2 ? monday : tuesday);
-    DeleteAllRows(world.run, world.DbName(), "PlayedEncore");
+    DeleteAllRows(world.session, world.DbName(), "PlayedEncore");
     EXPECT_TRUE(Left().empty());
 }
 
 TEST_F(DeletionTest, AMissingTableIsNamed) {
     constexpr auto sentence = "Unable to open PlayedTag table. Please advise error number to support.";
     world.ExpectStoreError(3011, sentence);
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedTag", monday);
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedTag", monday);
     world.ExpectStoreError(3011, sentence);
-    DeleteAllRows(world.run, world.DbName(), "PlayedTag");
+    DeleteAllRows(world.session, world.DbName(), "PlayedTag");
 }
 
 TEST_F(DeletionTest, MoreRowsThanSixteenBitsHoldAreAnOverflowWhenADateIsCleaned) {
@@ -469,7 +469,7 @@ TEST_F(DeletionTest, MoreRowsThanSixteenBitsHoldAreAnOverflowWhenADateIsCleaned)
         "PlayedEncore (ID1, Lottoflag, Date) SELECT i, 'Lotto649', " +
         std::to_string(monday.Day()) + " FROM n");
     world.ExpectUnexpected(6);
-    DeleteRowsForDate(world.run, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
     EXPECT_EQ(Left().size(), 32768u);
 }
 

@@ -52,8 +52,8 @@ class WindowWorld : public ::testing::Test {
     Dao::Engine engine;
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
-    sorvane::Run run{global, services};
-    Windows windows{run, Makers};
+    sorvane::Session session{global, services};
+    Windows windows{session, Makers};
     Person person;
 
     WindowWorld();

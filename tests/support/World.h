@@ -71,7 +71,7 @@ struct World {
     }
     // The folder and the empty file.
     World& WithDatabase() {
-        CheckDatabaseExists(run, DbName());
+        CheckDatabaseExists(session, DbName());
         return *this;
     }
     std::string DbName() const { return DatabasePath(global.AppPath); }
@@ -95,7 +95,7 @@ struct World {
     RecordingTools tools;
     Dao::Engine engine;
     Services services{dialogs, printer, clock, random, tools, engine};
-    Run run{global, services};
+    Session session{global, services};
 };
 
 }  // namespace sorvane::testing

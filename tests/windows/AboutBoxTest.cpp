@@ -16,7 +16,7 @@ class AboutBox : public WindowWorld {
         Person::Await(about);
         Person::Settle();
     }
-    frmAbout about{run};
+    frmAbout about{session};
 };
 
 TEST_F(AboutBox, SaysWhatTheProgramIs) {

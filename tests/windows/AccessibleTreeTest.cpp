@@ -184,7 +184,7 @@ TEST_F(AccessibleTree, WindowsAreWindowsOrDialogsUnderTheirTitles) {
 }
 
 TEST_F(AccessibleTree, LowAndHighHaveNamesOfTheirOwn) {
-    frmRequestNewLottery window(run);
+    frmRequestNewLottery window(session);
     window.Show();
     Person::Settle();
     const Tree tree(window, "request");

@@ -44,13 +44,13 @@ inline void SeeOtherWindows(MainWindow& world, const std::function<void(forms::W
     see(world.frm);
     world.Select("mnuCANONTPICK3");
     const std::function<std::unique_ptr<forms::Window>()> makers[] = {
-        [&] { return std::make_unique<frmAbout>(world.run); },
+        [&] { return std::make_unique<frmAbout>(world.session); },
         [&] { return std::make_unique<frmComingSoon>(); },
-        [&] { return std::make_unique<frmRequestNewLottery>(world.run); },
-        [&] { return std::make_unique<frmReport>(world.run); },
-        [&] { return std::make_unique<frmReportType>(world.run); },
-        [&] { return std::make_unique<frmHowManySheets>(world.run); },
-        [&] { return std::make_unique<frmTicketsOnSheet>(world.run); },
+        [&] { return std::make_unique<frmRequestNewLottery>(world.session); },
+        [&] { return std::make_unique<frmReport>(world.session); },
+        [&] { return std::make_unique<frmReportType>(world.session); },
+        [&] { return std::make_unique<frmHowManySheets>(world.session); },
+        [&] { return std::make_unique<frmTicketsOnSheet>(world.session); },
     };
     for (const auto& make : makers) {
         const auto window = make();

@@ -19,7 +19,7 @@ class MainWindow : public WindowWorld {
   public:
     // The program lies in `home`; empty: in the folder of the test.
     explicit MainWindow(const std::string& home = {})
-        : frm(run, windows, home.empty() ? folder.Path().string() : home, [this] { ++ended; }) {
+        : frm(session, windows, home.empty() ? folder.Path().string() : home, [this] { ++ended; }) {
         global.NL.clear();
         global.AppPath.clear();
     }

@@ -248,9 +248,9 @@ int Ending(void (*act)(frmMain&, Windows&)) {
     Dao::Engine engine;
     Services services{boxes, printer, clock, random, tools, engine};
     Global global;
-    Run run{global, services};
-    Windows windows{run, Makers};
-    frmMain main(run, windows, place.Path().string(), [] { QCoreApplication::exit(); });
+    Session session{global, services};
+    Windows windows{session, Makers};
+    frmMain main(session, windows, place.Path().string(), [] { QCoreApplication::exit(); });
     main.Load();
     main.Show();
     QTimer::singleShot(0, &main, [&] { act(main, windows); });

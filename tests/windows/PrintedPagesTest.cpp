@@ -24,7 +24,7 @@ class PrintedPages : public WindowWorld {
         return true;
     }};
     Services onPaper{boxes, pdf, clock, random, tools, engine};
-    sorvane::Run printing{global, onPaper};
+    sorvane::Session printing{global, onPaper};
 
     // Whether this is one whole line of what was printed.
     void ExpectLine(const std::string& line) {

@@ -93,7 +93,7 @@ TEST_F(ReportPage, OverAllLotteriesWithoutTicketsTheBoxComesAndThenHeadingsAndTo
     Show("mnuCANBCBC49");
     Window().Leave();
     global.LottoFlag.clear();
-    frmReport report(run);
+    frmReport report(session);
     person.ExpectWindow("frmReport", [this](QWidget&) {
         person.Expect("ERROR!",
                       "No Tickets entered yet. Please enter some played tickets and\r\ntry again.\r\n");

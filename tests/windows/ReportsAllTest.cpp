@@ -19,7 +19,7 @@ class AllReportsTest : public ReportsWorld {
         global.LottoFlag.clear();
     }
     frmReport& OpenAll() {
-        frm_ = std::make_unique<frmReport>(run);
+        frm_ = std::make_unique<frmReport>(session);
         frm_->Show();
         Person::Await(*frm_);
         return *frm_;
@@ -182,7 +182,7 @@ class ReportTypeTest : public ReportsWorld {
   public:
     // Uses the dialog as it is shown; whoever doesn't leave it fails.
     void Ask(const std::function<void()>& act) {
-        frmReportType dialog(run);
+        frmReportType dialog(session);
         person.ExpectWindow("frmReportType", [&](QWidget&) { act(); });
         dialog.ShowModal();
     }

@@ -21,7 +21,7 @@ class ReportsPrintTest : public ReportsWorld {
         return accept;
     }};
     Services paper{boxes, pdf, clock, random, tools, engine};
-    sorvane::Run paperRun{global, paper};
+    sorvane::Session paperRun{global, paper};
     Windows paperWindows{paperRun, Makers};
 
     GameWindow& OpenOnPaper(const GameCase& game, std::string_view tab) {

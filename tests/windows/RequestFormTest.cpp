@@ -42,7 +42,7 @@ class RequestWindow : public WindowWorld {
         person.Type("Drawn on Fridays.");
     }
 
-    frmRequestNewLottery form{run};
+    frmRequestNewLottery form{session};
 };
 
 const Texts TextFields{"txtNameOfLottery", "txtCountry", "txtProvinceState", "txtNumberOfNumbers",
@@ -228,7 +228,7 @@ TEST_F(RequestWindow, ExitAndTheCloseBoxLeaveItAndEscapeDoesNot) {
     EXPECT_TRUE(form.isVisible());
     Click("cmdExit");
     EXPECT_FALSE(form.isVisible());
-    frmRequestNewLottery again(run);
+    frmRequestNewLottery again(session);
     Open(again);
     person.Close(again);
     EXPECT_FALSE(again.isVisible());
@@ -245,7 +245,7 @@ class RequestPaper : public RequestWindow {
         return true;
     }};
     Services toFile{boxes, device, clock, random, tools, engine};
-    sorvane::Run printing{global, toFile};
+    sorvane::Session printing{global, toFile};
     frmRequestNewLottery paper{printing};
 
     RequestPaper() {

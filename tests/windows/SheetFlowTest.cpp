@@ -333,7 +333,7 @@ TEST_F(SheetFlowTest, WithoutSheetsTheQuestionForTheTicketsOfOneTakesAllThatAreL
     global.NoOfTickets = global.TotalTickets = 3;
     for (const int sheets : {2, 0}) {
         global.NoOfSheets = sheets;
-        frmTicketsOnSheet question(run);
+        frmTicketsOnSheet question(session);
         person.ExpectWindow("frmTicketsOnSheet", [&](QWidget&) {
             Type("txtNoOfTicketsOnSheet", "3");
             if (sheets > 0)

@@ -45,7 +45,7 @@ Evening::Evening(const fs::path& out)
           device.setOutputFileName(forms::ToQt(page_));
           return true;
       }),
-      frmMain_(run_, windows_, FreshRecords(out), [this] { ended_ = true; }) {}
+      frmMain_(session_, windows_, FreshRecords(out), [this] { ended_ = true; }) {}
 
 void Evening::Play() {
     MainWindow();

@@ -99,8 +99,8 @@ class Evening : public test::WindowWorld {
     std::string page_;  // the file that the printer writes next
     forms::PrinterDialog paper_;
     Services services_{boxes, paper_, clock, random, tools, engine};
-    sorvane::Run run_{global, services_};
-    Windows windows_{run_, test::Makers};
+    sorvane::Session session_{global, services_};
+    Windows windows_{session_, test::Makers};
     frmMain frmMain_;
     bool ended_ = false;
 };

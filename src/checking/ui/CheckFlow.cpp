@@ -35,9 +35,9 @@ class RowsOfThisCheck {
 }  // namespace
 
 void CheckFlow::cmdCheck_Click() {
-    const RowsOfThisCheck rows(window_.run.global);
+    const RowsOfThisCheck rows(window_.session.global);
     const Family family = window_.Which;
-    window_.run.global.EnteringWinnings = Off;
+    window_.session.global.EnteringWinnings = Off;
     window_.State.WindowDate = window_.dtpEnterTickets(2).Value();
     if (!DateHasCome()) return;
     if (ListsCleared[family] == Clearing::AfterDate) {
@@ -61,20 +61,20 @@ void CheckFlow::cmdCheck_Click() {
 }
 
 bool CheckFlow::StatOnly() const {
-    return KnowsStatUpdate[window_.Which] && window_.run.global.StatUpdate == On;
+    return KnowsStatUpdate[window_.Which] && window_.session.global.StatUpdate == On;
 }
 
 bool CheckFlow::DateHasCome() {
-    Run& run = window_.run;
-    if (window_.State.WindowDate <= run.services.clock.Today()) return true;
-    run.global.Msg = FutureText;
-    window_.MsgBox(run.global.Msg, BoxStyle::Ok, CheckTitle);
+    Session& session = window_.session;
+    if (window_.State.WindowDate <= session.services.clock.Today()) return true;
+    session.global.Msg = FutureText;
+    window_.MsgBox(session.global.Msg, BoxStyle::Ok, CheckTitle);
     return false;
 }
 
 bool CheckFlow::Missing(std::string_view text, std::string_view title, forms::Control& box) {
-    window_.run.global.Msg = text;
-    window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, title);
+    window_.session.global.Msg = text;
+    window_.MsgBox(window_.session.global.Msg, BoxStyle::Ok, title);
     box.SetFocus();
     return false;
 }
@@ -97,7 +97,7 @@ bool CheckFlow::FourAreFilled() {
 
 bool CheckFlow::AddOnIsLongEnough() {
     const Family family = window_.Which;
-    const Global& g = window_.run.global;
+    const Global& g = window_.session.global;
     if (StatOnly()) return true;
     if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
     if (ClearsEncoreListAtTest[family] && page_.lstEncorePlayed) page_.lstEncorePlayed->Clear();
@@ -108,25 +108,25 @@ bool CheckFlow::AddOnIsLongEnough() {
 
 bool CheckFlow::ReadTickets() {
     WindowState& state = window_.State;
-    Run& run = window_.run;
-    if (const auto table = CheckTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
-    Read[window_.Which](run, window_.At(), page_.lstNumbersPlayed);
-    return run.global.NoRowForDate != On;
+    Session& session = window_.session;
+    if (const auto table = CheckTable(window_.Which, session.global.LottoFlag)) state.TableName = *table;
+    Read[window_.Which](session, window_.At(), page_.lstNumbersPlayed);
+    return session.global.NoRowForDate != On;
 }
 
 void CheckFlow::StoreDraw() {
     WindowState& state = window_.State;
-    Run& run = window_.run;
-    if (const auto table = WinTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    Session& session = window_.session;
+    if (const auto table = WinTable(window_.Which, session.global.LottoFlag)) state.TableName = *table;
     if (ProbesWin[window_.Which])
-        MakeSureOf(run, state.DbName, state.TableName, [&] {
-            CreateWinKenoTable(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
+        MakeSureOf(session, state.DbName, state.TableName, [&] {
+            CreateWinKenoTable(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
         });
-    Store[window_.Which](run, window_.At(), page_.Boxes());
+    Store[window_.Which](session, window_.At(), page_.Boxes());
 }
 
 bool CheckFlow::GoesOnToJudging() {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     if (RefusalStops[window_.Which] && g.RecheckRefused == True) {
         g.RecheckRefused = Off;
         g.RecheckAccepted = True;
@@ -145,43 +145,43 @@ bool CheckFlow::GoesOnToJudging() {
 
 void CheckFlow::JudgeTickets(const WinningBoxes& boxes) {
     const Family family = window_.Which;
-    Run& run = window_.run;
+    Session& session = window_.session;
     if (AlsoStore[family]) {
         window_.State.TableName = AlsoWin[family];
-        AlsoStore[family](run, window_.At(), boxes);
+        AlsoStore[family](session, window_.At(), boxes);
     }
     forms::BusyPointer busy;
-    const int rows = run.global.EntryCounter;
+    const int rows = session.global.EntryCounter;
     for (int Row = 0; Row < rows; ++Row) {
-        CheckFacts::Check[family](run, boxes, Row, page_.lstMessage);
-        if (AlsoCheck[family]) AlsoCheck[family](run, boxes, Row, page_.lstMessage);
+        CheckFacts::Check[family](session, boxes, Row, page_.lstMessage);
+        if (AlsoCheck[family]) AlsoCheck[family](session, boxes, Row, page_.lstMessage);
         busy.Tick();
     }
     window_.State.TicketRows = page_.lstNumbersPlayed.ListCount();
-    run.global.EntryCounter = 0;
+    session.global.EntryCounter = 0;
 }
 
 void CheckFlow::CheckAddOn(const WinningBoxes& boxes) {
-    Run& run = window_.run;
+    Session& session = window_.session;
     WindowState& state = window_.State;
-    const AddOnPass* pass = FindAddOnPass(window_.Which, run.global.ExtraFlag);
+    const AddOnPass* pass = FindAddOnPass(window_.Which, session.global.ExtraFlag);
     if (!pass || !page_.lstEncorePlayed) return;
     const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
     state.TableName = addOn.Played;
-    pass->Read(run, window_.At(), *page_.lstEncorePlayed);
+    pass->Read(session, window_.At(), *page_.lstEncorePlayed);
     state.TableName = addOn.Win;
-    pass->Store(run, window_.At(), boxes);
+    pass->Store(session, window_.At(), boxes);
     forms::BusyPointer busy;
-    const int rows = run.global.EntryCounter;
+    const int rows = session.global.EntryCounter;
     for (int Row = 0; Row < rows; ++Row) {
-        pass->Check(run, boxes, Row, page_.lstMessage);
+        pass->Check(session, boxes, Row, page_.lstMessage);
         busy.Tick();
     }
 }
 
 void CheckFlow::chkStatUpdate_Click() {
     const bool on = page_.chkStatUpdate.Value() == 1;
-    window_.run.global.StatUpdate = on ? On : Off;
+    window_.session.global.StatUpdate = on ? On : Off;
     page_.cmdCheck.SetCaption(on ? "&Update" : "&Check");
     const unsigned disables = StatDisables[window_.Which];
     if (disables & StatControls::EarlyBird) page_.lblWinEarlybird->SetEnabled(!on);
@@ -194,33 +194,33 @@ void CheckFlow::chkStatUpdate_Click() {
 }
 
 void CheckFlow::cmdEnterWinnings_Click() {
-    Run& run = window_.run;
+    Session& session = window_.session;
     WindowState& state = window_.State;
     const bool probes = ProbesForWinnings[window_.Which];
-    run.global.EnteringWinnings = On;
-    run.global.TableOpened = Off;
+    session.global.EnteringWinnings = On;
+    session.global.TableOpened = Off;
     state.WindowDate = window_.dtpEnterTickets(2).Value();
-    if (const auto table = WinningsTable(window_.Which, run.global.LottoFlag)) state.TableName = *table;
+    if (const auto table = WinningsTable(window_.Which, session.global.LottoFlag)) state.TableName = *table;
     if (probes) MakeSureOfTable();
-    FindDrawEntry(run, window_.At());
-    if (run.global.WinningsDrawFound == Off) return;
-    run.global.TableOpened = Off;
+    FindDrawEntry(session, window_.At());
+    if (session.global.WinningsDrawFound == Off) return;
+    session.global.TableOpened = Off;
     state.TableName = "Winnings";
     if (probes) MakeSureOfTable();
-    run.global.Dollars = page_.txtDollarsWon.Text();
-    StoreLedgerAmount(run, window_.At());
+    session.global.Dollars = page_.txtDollarsWon.Text();
+    StoreLedgerAmount(session, window_.At());
     // The box comes in every case, also when nothing was stored: meant.
-    run.global.Msg = SavedText;
-    window_.MsgBox(run.global.Msg, BoxStyle::Ok, SavedTitle);
+    session.global.Msg = SavedText;
+    window_.MsgBox(session.global.Msg, BoxStyle::Ok, SavedTitle);
 }
 
 void CheckFlow::MakeSureOfTable() {
-    Run& run = window_.run;
+    Session& session = window_.session;
     WindowState& state = window_.State;
     const Creator& played = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayed6Table;
     const Creator& creator = state.TableName == "Winnings" ? CreateWinningsTable : played;
-    MakeSureOf(run, state.DbName, state.TableName,
-               [&] { creator(run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+    MakeSureOf(session, state.DbName, state.TableName,
+               [&] { creator(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
 }
 
 }  // namespace sorvane

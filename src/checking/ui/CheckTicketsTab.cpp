@@ -303,7 +303,7 @@ void CheckTicketsTab::RefuseAndKeep(forms::KeyPress& key, int style) {
 void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
     if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
     if (key.KeyAscii != forms::EnterKey || EnterInBox[window_.Which] != CheckFacts::EnterKey::Moves) {
-        forms::RefuseKey(window_.run.services.dialogs, txtWin(Index), key);
+        forms::RefuseKey(window_.session.services.dialogs, txtWin(Index), key);
         return;
     }
     if (txtWin.IsLoaded(Index + 1)) txtWin(Index + 1).SetFocus();
@@ -319,7 +319,7 @@ void CheckTicketsTab::txtWin4_KeyPress(int Index, forms::KeyPress& key) {
         return;
     }
     if (RefusalEmptiesFour[window_.Which])
-        forms::RefuseKey(window_.run.services.dialogs, txtWin4(Index), key);
+        forms::RefuseKey(window_.session.services.dialogs, txtWin4(Index), key);
     else RefuseAndKeep(key, BoxStyle::Exclamation);
 }
 
@@ -332,8 +332,8 @@ void CheckTicketsTab::txtWinEncore_KeyPress(forms::KeyPress& key) {
 void CheckTicketsTab::txtWinEncore_LostFocus() {
     const int length = Len(txtWinEncore->Text());
     if (length < 6) {
-        window_.run.global.Msg = EncoreExitText;
-        window_.MsgBox(window_.run.global.Msg, BoxStyle::Ok, EncoreExitTitle);
+        window_.session.global.Msg = EncoreExitText;
+        window_.MsgBox(window_.session.global.Msg, BoxStyle::Ok, EncoreExitTitle);
         txtWinEncore->SetFocus();
     } else if (length == 6) {
         cmdCheck.SetFocus();

@@ -20,7 +20,7 @@ constexpr int LowestPlay4 = 1, HighestPlay4 = 99;
 
 }  // namespace
 
-AddOnCapture::AddOnCapture(GameWindow& window) : window_(window), g_(window.run.global) {
+AddOnCapture::AddOnCapture(GameWindow& window) : window_(window), g_(window.session.global) {
     MakeControls();
     AttachHandlers();
 }
@@ -108,7 +108,7 @@ void AddOnCapture::FocusCount() {
 
 void AddOnCapture::txtNoOfExtra_KeyPress(forms::KeyPress& key) {
     if (!forms::IsDigitOrBackspace(key.KeyAscii) && key.KeyAscii != forms::EnterKey)
-        forms::RefuseKey(window_.run.services.dialogs, *txtNoOfExtra, key);
+        forms::RefuseKey(window_.session.services.dialogs, *txtNoOfExtra, key);
     else if (key.KeyAscii == forms::EnterKey && EnterInExtra[window_.Which] != Go::Stay)
         window_.Enter.Capture().FocusFirst();
 }
@@ -294,7 +294,7 @@ void AddOnCapture::SaveNumbers() {
     // ExtraNo may still be that of the sheet before, when this one has no add-on.
     StoreAddOnTicket(addOn.CountedOnSheet && IsBought() ? int{g_.ExtraNo} : 0);
     window_.State.TableName = addOn.Played;
-    SaveAddOnTickets(window_.run, window_.At());
+    SaveAddOnTickets(window_.session, window_.At());
     chkEncore->SetValue(0);
     txtEncore->SetText("");
 }
@@ -302,7 +302,7 @@ void AddOnCapture::SaveNumbers() {
 void AddOnCapture::SaveExtra() {
     StoreExtraTicket();
     window_.State.TableName = FindAddOn(g_.ExtraFlag)->Played;
-    SaveExtraTickets(window_.run, window_.At());
+    SaveExtraTickets(window_.session, window_.At());
     EmptyPlay4();
     HideExtra();
 }

@@ -10,9 +10,12 @@
 
 namespace sorvane {
 
-CountDialog::CountDialog(Run& run, std::string_view name, std::string_view caption, std::string_view question,
-                         std::string_view field)
-    : Window(name), run_(run), lblGetNoOfTicketsOnSheet("lblGetNoOfTicketsOnSheet", question), field_(field) {
+CountDialog::CountDialog(Session& session, std::string_view name, std::string_view caption,
+                         std::string_view question, std::string_view field)
+    : Window(name),
+      session_(session),
+      lblGetNoOfTicketsOnSheet("lblGetNoOfTicketsOnSheet", question),
+      field_(field) {
     SetCaption(caption);
     SetCloseButton(cmdCancel);
     SetEscapeButton(cmdCancel);
@@ -47,20 +50,21 @@ void CountDialog::LayOut() {
 
 void CountDialog::KeyPressed(forms::KeyPress& key) {
     if (key.KeyAscii == forms::EnterKey) cmdOk.SetFocus();
-    else if (!forms::IsDigitOrBackspace(key.KeyAscii)) forms::RefuseKey(run_.services.dialogs, field_, key);
+    else if (!forms::IsDigitOrBackspace(key.KeyAscii))
+        forms::RefuseKey(session_.services.dialogs, field_, key);
 }
 
 void CountDialog::Refuse(std::string_view title) {
-    run_.services.dialogs.MsgBox(run_.global.Msg, BoxStyle::Ok, title);
+    session_.services.dialogs.MsgBox(session_.global.Msg, BoxStyle::Ok, title);
     field_.SetFocus();
 }
 
-frmHowManySheets::frmHowManySheets(Run& run)
-    : CountDialog(run, "frmHowManySheets", "Number of Sheets played for this Draw Date",
+frmHowManySheets::frmHowManySheets(Session& session)
+    : CountDialog(session, "frmHowManySheets", "Number of Sheets played for this Draw Date",
                   "Please enter the number of Sheets played for this Draw Date:", "txtNoOfSheets") {}
 
 void frmHowManySheets::Accept() {
-    Global& g = run_.global;
+    Global& g = session_.global;
     if (field_.Text().empty()) {
         g.Msg = "Please enter a valid number";
         Refuse("ERROR");
@@ -76,13 +80,13 @@ void frmHowManySheets::Accept() {
     Unload();
 }
 
-frmTicketsOnSheet::frmTicketsOnSheet(Run& run)
-    : CountDialog(run, "frmTicketsOnSheet", "Number of Tickets on this Sheet?",
+frmTicketsOnSheet::frmTicketsOnSheet(Session& session)
+    : CountDialog(session, "frmTicketsOnSheet", "Number of Tickets on this Sheet?",
                   "Please enter the number of tickets on this sheet. (Excluding any bonus tickets)",
                   "txtNoOfTicketsOnSheet") {}
 
 void frmTicketsOnSheet::Accept() {
-    Global& g = run_.global;
+    Global& g = session_.global;
     g.NoOfTicketsOnSheet = field_.Text().empty() ? Integer(0) : IntegerPart(field_.Text());
     const char* wrong = nullptr;
     if (g.NoOfTicketsOnSheet > g.TotalTickets)

@@ -15,7 +15,7 @@ namespace sorvane {
 // as it was.
 class CountDialog : public forms::Window {
   protected:
-    CountDialog(Run& run, std::string_view name, std::string_view caption, std::string_view question,
+    CountDialog(Session& session, std::string_view name, std::string_view caption, std::string_view question,
                 std::string_view field);
 
     // "&Ok": takes the number over, and unloads or shows what is wrong with it.
@@ -23,7 +23,7 @@ class CountDialog : public forms::Window {
     // Shows Global::Msg and gives the focus back to the field.
     void Refuse(std::string_view title);
 
-    Run& run_;
+    Session& session_;
     forms::Label lblGetNoOfTicketsOnSheet;
     forms::TextBox field_;
     forms::CommandButton cmdOk{"cmdOk", "&Ok"};
@@ -37,7 +37,7 @@ class CountDialog : public forms::Window {
 // Sets Global::NoOfSheets. More sheets than tickets are refused, but the number stays; zero is accepted.
 class frmHowManySheets final : public CountDialog {
   public:
-    explicit frmHowManySheets(Run& run);
+    explicit frmHowManySheets(Session& session);
 
   private:
     void Accept() override;
@@ -46,7 +46,7 @@ class frmHowManySheets final : public CountDialog {
 // Sets Global::NoOfTicketsOnSheet for a sheet that is not the last.
 class frmTicketsOnSheet final : public CountDialog {
   public:
-    explicit frmTicketsOnSheet(Run& run);
+    explicit frmTicketsOnSheet(Session& session);
 
   private:
     void Accept() override;

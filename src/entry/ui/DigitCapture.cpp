@@ -25,7 +25,7 @@ constexpr double DigitScale = 1.6;
 }  // namespace
 
 DigitCapture::DigitCapture(GameWindow& window)
-    : window_(window), g_(window.run.global), digits_(FamilyFacts::NumbersPerTicket[window.Which]) {
+    : window_(window), g_(window.session.global), digits_(FamilyFacts::NumbersPerTicket[window.Which]) {
     MakeControls();
     AttachHandlers();
     LayOutSlip();
@@ -229,8 +229,8 @@ void DigitCapture::Correct() {
 bool DigitCapture::SheetIsFull() const { return g_.TicketNo == g_.NoOfTicketsOnSheet; }
 
 void DigitCapture::SaveSheet(const StoreArgs& at) {
-    if (window_.Which == Family::frmPick3) SavePick3Tickets(window_.run, at);
-    else SavePick4Tickets(window_.run, at);
+    if (window_.Which == Family::frmPick3) SavePick3Tickets(window_.session, at);
+    else SavePick4Tickets(window_.session, at);
 }
 
 }  // namespace sorvane

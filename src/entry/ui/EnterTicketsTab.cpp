@@ -62,7 +62,7 @@ constexpr std::string_view ShutHint = "Type how many tickets, then press Tab";
 
 // Whether saving fails until the add-on's count was left, or its box ticked, once in the run.
 bool NeedsVisit(const GameWindow& window, bool byCount) {
-    const Global& g = window.run.global;
+    const Global& g = window.session.global;
     const AddOn* addOn = FindAddOn(g.ExtraFlag);
     return addOn && !addOn->FourNumbers && Has(Saves[window.Which], g.ExtraFlag) &&
            addOn->CountedOnSheet == byCount && !g.AddOnTickets.Sized();
@@ -249,7 +249,7 @@ void EnterTicketsTab::ShowTitle(std::string_view kind, int number) {
 }
 
 std::string EnterTicketsTab::Progress() const {
-    const Global& g = window_.run.global;
+    const Global& g = window_.session.global;
     // EnteringAddOns may be on still from the sheet before.
     const std::string next = cmdNext_Ticket.Caption();
     if (next == AddOnCaption::NextExtra || next == AddOnCaption::NextEncore)
@@ -257,18 +257,19 @@ std::string EnterTicketsTab::Progress() const {
     const int tickets = capture_->TicketsOnSheet();
     if (tickets <= 0 || g.TotalTickets == 0) return std::string(IsPick(window_.Which) ? "" : ShutHint);
     const TicketCapture::Marks marks = capture_->Marked();
-    const std::string filled = "ickets filled " + Str(window_.run.global.TicketNo) + " of " + Str(tickets);
+    const std::string filled =
+        "ickets filled " + Str(window_.session.global.TicketNo) + " of " + Str(tickets);
     if (marks.wanted == 0) return "T" + filled;
     return "Numbers " + Str(marks.marked) + " of " + Str(marks.wanted) + ", t" + filled;
 }
 
 void EnterTicketsTab::PutAmount(const std::string& amount) {
-    window_.run.global.Dollars = amount;
+    window_.session.global.Dollars = amount;
     window_.State.DecimalCount = 1;
     txtDollars.SetText(amount);
 }
 
-void EnterTicketsTab::StartAmount() { window_.run.global.Dollars = NoDollars; }
+void EnterTicketsTab::StartAmount() { window_.session.global.Dollars = NoDollars; }
 
 void EnterTicketsTab::TurnButtonsOff() {
     cmdNext_Ticket.SetEnabled(false);
@@ -298,18 +299,18 @@ void EnterTicketsTab::txtDollars_KeyPress(forms::KeyPress& key) {
     txtDollars.SetCaret(0);
     key.Swallow();
     txtDollars.SetFocus();
-    window_.run.global.Dollars = "0";
+    window_.session.global.Dollars = "0";
 }
 
 void EnterTicketsTab::txtDollars_Change() {
     if (!txtDollars.Text().empty()) {
-        window_.run.global.Dollars = txtDollars.Text();
+        window_.session.global.Dollars = txtDollars.Text();
         return;
     }
     txtDollars.SetText(NoDollars);
     txtDollars.SetCaret(0);
     txtDollars.SetFocus();
-    window_.run.global.Dollars = "0";
+    window_.session.global.Dollars = "0";
 }
 
 void EnterTicketsTab::txtDollars_LostFocus() {
@@ -322,14 +323,14 @@ void EnterTicketsTab::txtDollars_LostFocus() {
     const std::string text = txtDollars.Text();
     points += static_cast<int>(std::count(text.begin(), text.end(), '.'));
     if (points > 1) {
-        Global& g = window_.run.global;
+        Global& g = window_.session.global;
         g.Msg = "Only one decimal point may be used in this field." + g.NL +
                 "Please enter a valid Dollar amount.";
         window_.MsgBox(g.Msg, BoxStyle::Ok, "ERROR");
         txtDollars.SetText(NoDollars);
         txtDollars.SetFocus();
     }
-    window_.run.global.Dollars = txtDollars.Text();
+    window_.session.global.Dollars = txtDollars.Text();
 }
 
 }  // namespace sorvane

@@ -12,8 +12,8 @@ namespace sorvane {
 
 using namespace EntryFacts;
 
-GameWindow::GameWindow(Family family, Run& run_, Windows& windows_)
-    : GameFrame(family, run_, windows_),
+GameWindow::GameWindow(Family family, Session& session_, Windows& windows_)
+    : GameFrame(family, session_, windows_),
       Enter(*this),
       Check(*this),
       Reports(*this),
@@ -35,8 +35,8 @@ GameWindow::~GameWindow() {
     TakeArraysOut();
 }
 
-std::unique_ptr<GameFrame> GameWindow::Make(Family family, Run& run, Windows& windows) {
-    return std::make_unique<GameWindow>(family, run, windows);
+std::unique_ptr<GameFrame> GameWindow::Make(Family family, Session& session, Windows& windows) {
+    return std::make_unique<GameWindow>(family, session, windows);
 }
 
 void GameWindow::AttachSharedHandlers() {
@@ -45,7 +45,8 @@ void GameWindow::AttachSharedHandlers() {
     txtNoOfTickets.OnLostFocus([this](int Index) { Sheets.TicketCountLeft(Index); });
     txtNoOfTickets.OnGotFocus([this](int Index) { txtNoOfTickets(Index).SelectAll(); });
     dtpEnterTickets.OnChange([this](int Index) { dtpEnterTickets_Change(Index); });
-    dtpEnterTickets.OnLostFocus([this](int Index) { run.global.DrawDate = dtpEnterTickets(Index).Value(); });
+    dtpEnterTickets.OnLostFocus(
+        [this](int Index) { session.global.DrawDate = dtpEnterTickets(Index).Value(); });
     cmdExit.OnClick([this](int) { cmdExit_Click(); });
     SSTab1.OnClick([this] { SSTab1_Click(); });
     Enter.cmdNext_Ticket.OnClick([this] { Sheets.cmdNext_Ticket_Click(); });
@@ -56,7 +57,7 @@ void GameWindow::AttachSharedHandlers() {
 
 void GameWindow::Form_Load() {
     Enter.AddOns.HideAtLoad();
-    CreateAllTables(run, Which, State);
+    CreateAllTables(session, Which, State);
     ForgetSaves();
     NameTables();
     QuickPick.ChooseHot();
@@ -70,13 +71,13 @@ void GameWindow::cmdCancel_Click() {
     if (MsgBox("Are you sure you wish to start over?", BoxStyle::YesNo, "CONFIRM") != Answer::Yes) return;
     if (CancelCleansUp[Which]) {
         Sheets.OfferCleanUp("Cancelling before completion...");
-        run.global.TicketsSaved = Off;
+        session.global.TicketsSaved = Off;
     }
-    run.global.TableOpened = Off;
+    session.global.TableOpened = Off;
     State.SavingSheet = false;
     NameTables();
-    run.global.StatUpdate = Off;
-    run.global.RecheckAccepted = True;
+    session.global.StatUpdate = Off;
+    session.global.RecheckAccepted = True;
     QuickPick.ChooseHot();
     ClearCountersAtCancel();
     ShowFirstSheet();
@@ -91,21 +92,21 @@ void GameWindow::cmdExit_Click() {
 }
 
 void GameWindow::ForgetSaves() {
-    run.global.TicketsSaved = Off;
+    session.global.TicketsSaved = Off;
     State.SavingSheet = false;
-    run.global.TableOpened = Off;
-    run.global.StatUpdate = Off;
+    session.global.TableOpened = Off;
+    session.global.StatUpdate = Off;
 }
 
 void GameWindow::NameTables() {
-    State.DbName = DatabasePath(run.global.AppPath);
+    State.DbName = DatabasePath(session.global.AppPath);
     State.IndexName = PrimaryFieldName;
     State.FieldName = DateFieldName;
-    if (const auto table = LoadTable(Which, run.global.LottoFlag)) State.TableName = *table;
+    if (const auto table = LoadTable(Which, session.global.LottoFlag)) State.TableName = *table;
 }
 
 void GameWindow::ClearCountersAtLoad() {
-    Global& g = run.global;
+    Global& g = session.global;
     g.RecheckAccepted = True;
     State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
     g.Correcting = State.InNextTicket = Off;
@@ -115,7 +116,7 @@ void GameWindow::ClearCountersAtLoad() {
 }
 
 void GameWindow::ClearCountersAtCancel() {
-    Global& g = run.global;
+    Global& g = session.global;
     State.CurrentSheet = State.TotalSheets = State.BonusPhase = 0;
     g.Correcting = State.InNextTicket = Off;
     g.TotalTickets = g.NoOfTickets = g.SheetTickets = g.NoOfSheets = g.NoOfTicketsOnSheet = 0;
@@ -135,7 +136,7 @@ void GameWindow::ShowFirstSheet() {
 }
 
 void GameWindow::SetDates() {
-    const Date today = run.services.clock.Today();
+    const Date today = session.services.clock.Today();
     dtpEnterTickets.ForEach([&](forms::DatePicker& picker, int) { picker.SetValue(today); });
 }
 
@@ -148,13 +149,13 @@ void GameWindow::SSTab1_Click() {
 }
 
 void GameWindow::dtpEnterTickets_Change(int Index) {
-    run.global.DrawDate = dtpEnterTickets(Index).Value();
+    session.global.DrawDate = dtpEnterTickets(Index).Value();
     if (Index == 2) Check.ForgetResults();
 }
 
 void GameWindow::txtNoOfTickets_KeyPress(int Index, forms::KeyPress& key) {
     if (!forms::IsDigitOrBackspace(key.KeyAscii) && key.KeyAscii != forms::EnterKey) {
-        forms::RefuseKey(run.services.dialogs, txtNoOfTickets(Index), key);
+        forms::RefuseKey(session.services.dialogs, txtNoOfTickets(Index), key);
         return;
     }
     if (key.KeyAscii != forms::EnterKey || Index > 1) return;

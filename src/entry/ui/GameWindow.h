@@ -16,9 +16,9 @@ class GameWindow final : public GameFrame {
   public:
     // Makes every control of the family in its design-time state. What the window does when it is loaded is
     // Form_Load.
-    GameWindow(Family family, Run& run, Windows& windows);
+    GameWindow(Family family, Session& session, Windows& windows);
     ~GameWindow() override;
-    static std::unique_ptr<GameFrame> Make(Family family, Run& run, Windows& windows);
+    static std::unique_ptr<GameFrame> Make(Family family, Session& session, Windows& windows);
 
     // The load event; run again on the live window after "Tickets NOT Saved". Makes tables, so it may show
     // boxes.

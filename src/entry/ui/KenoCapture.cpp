@@ -164,6 +164,6 @@ void KenoCapture::StoreTicket() {
     AfterStoring(g_.TicketNo < g_.NoOfTicketsOnSheet);
 }
 
-void KenoCapture::SaveSheet(const StoreArgs& at) { SaveKenoTickets(window_.run, at); }
+void KenoCapture::SaveSheet(const StoreArgs& at) { SaveKenoTickets(window_.session, at); }
 
 }  // namespace sorvane

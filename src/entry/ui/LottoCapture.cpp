@@ -26,7 +26,7 @@ constexpr PerFamily<int> GridColumns{{10, 10, 9, 10, 10, 1, 1}};
 
 LottoCapture::LottoCapture(GameWindow& window)
     : window_(window),
-      g_(window.run.global),
+      g_(window.session.global),
       grid_(FamilyFacts::CountOfNumbers(window.Which), GridColumns[window.Which]) {
     grid_.SetOpen(false);
     grid_.chkNumb.OnClick([this](int Index) { chkNumb_Click(Index); });
@@ -122,7 +122,7 @@ void LottoCapture::Correct() {
 
 bool LottoCapture::SheetIsFull() const { return g_.TicketNo == g_.NoOfTicketsOnSheet; }
 
-void LottoCapture::SaveSheet(const StoreArgs& at) { SaveLotto6Tickets(window_.run, at); }
+void LottoCapture::SaveSheet(const StoreArgs& at) { SaveLotto6Tickets(window_.session, at); }
 
 std::string LottoCapture::AmountAtCount(int tickets) const {
     return DefaultAmount(window_.Which, g_.LottoFlag, tickets);
@@ -217,7 +217,7 @@ void BonusCapture::Correct() {
     g_.Correcting = Off;  // at once; the clearing of the grid counted nothing
 }
 
-void BonusCapture::SaveSheet(const StoreArgs& at) { SaveLotto7Tickets(window_.run, at); }
+void BonusCapture::SaveSheet(const StoreArgs& at) { SaveLotto7Tickets(window_.session, at); }
 
 LottarioCapture::LottarioCapture(GameWindow& window) : BonusCapture(window) {
     chkEarlybird.OnClick([this] { g_.EarlyBirdPlayed = chkEarlybird.Value() == 1 ? True : Off; });
@@ -270,6 +270,6 @@ void LottarioCapture::StoreTicket() {
     AfterStoring(more);
 }
 
-void LottarioCapture::SaveSheet(const StoreArgs& at) { SaveLottarioTickets(window_.run, at); }
+void LottarioCapture::SaveSheet(const StoreArgs& at) { SaveLottarioTickets(window_.session, at); }
 
 }  // namespace sorvane

@@ -36,7 +36,7 @@ void SheetFlow::TicketCountLeft(int Index) {
         SetSheetTickets();
         if (CountOpensGrid[w.Which]) w.Enter.Capture().Open();
     }
-    const Global& g = w.run.global;
+    const Global& g = w.session.global;
     if (w.State.TotalSheets >= 2 && g.NoOfTickets != g.NoOfSheets) AskTicketsOnSheet();
     w.State.CurrentSheet = 1;
     w.Enter.ShowTitle("Ticket #", g.TicketNo + 1);
@@ -46,7 +46,7 @@ void SheetFlow::TicketCountLeft(int Index) {
 }
 
 void SheetFlow::TakeCount(int Index, const std::string& text) {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     g.NoOfTickets = IntegerPart(text);
     g.TotalTickets = g.NoOfTickets;
     if (text == "1") {
@@ -54,7 +54,7 @@ void SheetFlow::TakeCount(int Index, const std::string& text) {
         g.NoOfTicketsOnSheet = 1;
         window_.State.TotalSheets = 1;
     } else if (text > "0" && Index != 1) {  // compared as text: "00" asks, "0" does not
-        frmHowManySheets question(window_.run);
+        frmHowManySheets question(window_.session);
         window_.windows.ShowModal(question);
         window_.State.TotalSheets = g.NoOfSheets;
         if (g.NoOfTickets == g.NoOfSheets) g.NoOfTicketsOnSheet = 1;
@@ -62,7 +62,7 @@ void SheetFlow::TakeCount(int Index, const std::string& text) {
 }
 
 void SheetFlow::AskForCount(forms::TextBox& count) {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     g.Msg = "# of Tickets required. Please enter a number.";
     window_.MsgBox(g.Msg, BoxStyle::Ok, "# of Tickets required");
     count.SetText("0");
@@ -71,13 +71,13 @@ void SheetFlow::AskForCount(forms::TextBox& count) {
 }
 
 void SheetFlow::SetSheetTickets() {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     g.SheetTickets = g.NoOfTickets * SheetFactor(window_.Which, g.LottoFlag);
     aTicketASheet_ = g.NoOfTickets == g.NoOfSheets;
 }
 
 void SheetFlow::AskTicketsOnSheet() {
-    frmTicketsOnSheet question(window_.run);
+    frmTicketsOnSheet question(window_.session);
     window_.windows.ShowModal(question);
 }
 
@@ -95,11 +95,11 @@ void SheetFlow::cmdNext_Ticket_Click() {
     window_.Enter.cmdCorrection.SetEnabled(false);
     window_.Enter.Capture().Next();
     window_.State.InNextTicket = Off;
-    window_.run.global.NumbersPicked = 0;
+    window_.session.global.NumbersPicked = 0;
 }
 
 void SheetFlow::cmdCorrection_Click() {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     g.Correcting = On;
     window_.Enter.TurnButtonsOff();
     window_.Enter.Capture().BeforeCorrection();
@@ -110,7 +110,7 @@ void SheetFlow::cmdCorrection_Click() {
 
 void SheetFlow::cmdSave_Click() {
     GameWindow& w = window_;
-    Global& g = w.run.global;
+    Global& g = w.session.global;
     w.State.WindowDate = w.dtpEnterTickets(0).Value();
     if (ProbesAtSave[w.Which]) MakePlayedTable();
     if (StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
@@ -118,16 +118,18 @@ void SheetFlow::cmdSave_Click() {
     if (window_.MsgBox("Save this sheet of tickets?", Style, "CONFIRM") != Answer::Yes) NotSaved();
     else if (w.Enter.Capture().SheetIsFull()) SaveSheet();
     w.State.SavingSheet = false;
-    if (TablesAfterSave[w.Which]) CreateAllTables(w.run, w.Which, w.State);
+    if (TablesAfterSave[w.Which]) CreateAllTables(w.session, w.Which, w.State);
     g.Msg.clear();
 }
 
 void SheetFlow::MakePlayedTable() {
     WindowState& state = window_.State;
-    if (const auto table = PlayedTable(window_.Which, window_.run.global.LottoFlag)) state.TableName = *table;
+    if (const auto table = PlayedTable(window_.Which, window_.session.global.LottoFlag))
+        state.TableName = *table;
     const Creator& creator = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayedPick4Table;
-    MakeSureOf(window_.run, state.DbName, state.TableName,
-               [&] { creator(window_.run, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+    MakeSureOf(window_.session, state.DbName, state.TableName, [&] {
+        creator(window_.session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
+    });
 }
 
 void SheetFlow::NotSaved() {
@@ -139,7 +141,7 @@ void SheetFlow::NotSaved() {
 
 void SheetFlow::SaveSheet() {
     GameWindow& w = window_;
-    const Global& g = w.run.global;
+    const Global& g = w.session.global;
     w.State.SavingSheet = true;
     w.State.SavedDate = w.State.WindowDate;
     if (const auto table = PlayedTable(w.Which, g.LottoFlag)) w.State.TableName = *table;
@@ -148,12 +150,12 @@ void SheetFlow::SaveSheet() {
     if (!AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
     if (w.State.CurrentSheet < g.NoOfSheets) BeginNextSheet();
     else if (w.State.CurrentSheet == g.NoOfSheets) FinishEntry();
-    w.run.global.TicketsSaved = True;
+    w.session.global.TicketsSaved = True;
 }
 
 void SheetFlow::BeginNextSheet() {
     GameWindow& w = window_;
-    Global& g = w.run.global;
+    Global& g = w.session.global;
     window_.MsgBox("Tickets Saved - Enter Next Sheet", BoxStyle::Ok, Confirmed);
     if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
     g.NoOfTickets -= g.NoOfTicketsOnSheet;
@@ -175,7 +177,7 @@ void SheetFlow::BeginNextSheet() {
 }
 
 bool SheetFlow::AsksTicketsOnNextSheet() const {
-    const Global& g = window_.run.global;
+    const Global& g = window_.session.global;
     if (g.NoOfTickets <= 1 || aTicketASheet_) return false;
     // Keno 80 compares the whole entry with its sheets instead.
     if (window_.Which == Family::frmKeno80) return g.TotalTickets != g.NoOfSheets;
@@ -184,7 +186,7 @@ bool SheetFlow::AsksTicketsOnNextSheet() const {
 
 void SheetFlow::FinishEntry() {
     GameWindow& w = window_;
-    Global& g = w.run.global;
+    Global& g = w.session.global;
     if (!SpentAfterBox[w.Which]) RecordSpending();
     window_.MsgBox("Tickets Saved", BoxStyle::Ok, Confirmed);
     if (AddOnAfterBox[w.Which]) w.Enter.AddOns.SaveSheet();
@@ -201,11 +203,11 @@ void SheetFlow::FinishEntry() {
 
 void SheetFlow::RecordSpending() {
     window_.State.TableName = "Spent";
-    StoreLedgerAmount(window_.run, window_.At());
+    StoreLedgerAmount(window_.session, window_.At());
 }
 
 void SheetFlow::OfferCleanUp(std::string_view title) {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     WindowState& state = window_.State;
     if (g.NoOfTickets == 0 || g.NoOfSheets < state.CurrentSheet || g.TicketsSaved != True) return;
     g.Msg = "Since you've already saved some tickets, your database will be incorrect." + g.NL +
@@ -214,11 +216,11 @@ void SheetFlow::OfferCleanUp(std::string_view title) {
             "in the Draw Date box above.)";
     if (window_.MsgBox(g.Msg, BoxStyle::YesNoCancel, title) != Answer::Yes) return;
     window_.NameTables();
-    DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
+    DeleteRowsForDate(window_.session, state.DbName, state.TableName, state.SavedDate);
     const AddOn* addOn = FindAddOn(g.ExtraFlag);
     if (addOn && Has(Cleans[window_.Which], g.ExtraFlag)) {
         state.TableName = addOn->Played;
-        DeleteRowsForDate(window_.run, state.DbName, state.TableName, state.SavedDate);
+        DeleteRowsForDate(window_.session, state.DbName, state.TableName, state.SavedDate);
     }
     window_.MsgBox("Database cleaned!", BoxStyle::Ok, "Database Cleaned");
 }

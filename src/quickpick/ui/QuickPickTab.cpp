@@ -128,28 +128,29 @@ void QuickPickTab::ChooseHot() {
 
 void QuickPickTab::cmdGenerate_Click() {
     WindowState& state = window_.State;
-    Run& run = window_.run;
-    const auto busy = BusyFor(run.global.NoOfTickets, ToGenerate);
+    Session& session = window_.session;
+    const auto busy = BusyFor(session.global.NoOfTickets, ToGenerate);
     if (!WheelLive[window_.Which]) {
         lstDisplay.Clear();
-        GenerateQuickPicks(run, state.NumbersPerTicket, run.global.NoOfTickets, state.QuickPicks, lstDisplay);
+        GenerateQuickPicks(session, state.NumbersPerTicket, session.global.NoOfTickets, state.QuickPicks,
+                           lstDisplay);
         return;
     }
-    GenerateByWheelType(run,
+    GenerateByWheelType(session,
                         {Wheel->Chosen(), state.HowManyToWheel, state.NumbersPerTicket, state.DbName,
                          state.TableName, state.mode, state.QuickPicks},
                         {*Wheel, lstDisplay, frequencies_});
 }
 
 void QuickPickTab::cmdPrint_Click() {
-    const Integer& tickets = window_.run.global.NoOfTickets;
+    const Integer& tickets = window_.session.global.NoOfTickets;
     const auto busy = BusyFor(tickets, ToPrint);
-    PrintTickets(window_.run, window_.State.QuickPicks, tickets);
+    PrintTickets(window_.session, window_.State.QuickPicks, tickets);
 }
 
 void QuickPickTab::cboNoOfQPs_LostFocus() {
     const std::string text = cboNoOfQPs->Text();
-    window_.run.global.NoOfBallsPerTicket = text.empty() ? Integer(0) : CInt(text);
+    window_.session.global.NoOfBallsPerTicket = text.empty() ? Integer(0) : CInt(text);
 }
 
 }  // namespace sorvane

@@ -126,7 +126,7 @@ void WheelControls::RefuseTicketCount() {
 
 Integer& WheelControls::HowManyKept() {
     return HowManyGoesTo[window_.Which] == HowMany::HowManyToWheel ? window_.State.HowManyToWheel
-                                                                   : window_.run.global.NoOfTickets;
+                                                                   : window_.session.global.NoOfTickets;
 }
 
 void WheelControls::optWheelType_Click(int Index) {
@@ -139,7 +139,7 @@ void WheelControls::optWheelType_Click(int Index) {
 
 void WheelControls::txtHowMany_KeyPress(forms::KeyPress& key) {
     if (!IsNumberKey(key.KeyAscii)) {
-        forms::RefuseKey(window_.run.services.dialogs, txtHowMany, key);
+        forms::RefuseKey(window_.session.services.dialogs, txtHowMany, key);
         txtHowMany.SetText("0");
         txtHowMany.SetCaret(0);
     } else if (key.KeyAscii == forms::EnterKey) {
@@ -165,7 +165,7 @@ void WheelControls::TakeHowMany() {
     if (lowest > 0 && howMany < lowest)
         return RefuseHowMany("Value must be greater than " + Str(lowest - 1) + ". Please enter a new value.",
                              "Number too Low", true);
-    window_.run.global.Favourites.Redim(howMany);
+    window_.session.global.Favourites.Redim(howMany);
     HowManyKept() = howMany;
     if (!WheelLive[window_.Which] || optWheelType(static_cast<int>(WheelType::Favourites)).Value())
         OpenFavourites(howMany);
@@ -185,7 +185,7 @@ void WheelControls::OpenFavourites(int howMany) {
 }
 
 void WheelControls::CompareWithWheelSize() {
-    Global& g = window_.run.global;
+    Global& g = window_.session.global;
     forms::TextBox& count = window_.txtNoOfTickets(1);
     g.WheelSize = WheelSizeOf(window_.Which, txtHowMany.Text());
     if (NumberIn(count) <= g.WheelSize) return;
@@ -200,14 +200,14 @@ void WheelControls::CompareWithWheelSize() {
 void WheelControls::txtFavs_KeyPress(int Index, forms::KeyPress& key) {
     forms::TextBox& box = txtFavs(Index);
     if (!IsNumberKey(key.KeyAscii)) {
-        forms::RefuseKey(window_.run.services.dialogs, box, key);
+        forms::RefuseKey(window_.session.services.dialogs, box, key);
         box.SetText("0");
         box.SelectAll();
     }
     if (key.KeyAscii != forms::EnterKey) return;
     // The last box follows from NoOfTickets, also in frm645, which keeps the numbers to wheel elsewhere:
     // meant.
-    const int last = window_.run.global.NoOfTickets - 1;
+    const int last = window_.session.global.NoOfTickets - 1;
     if (Index < last && txtFavs.IsLoaded(Index + 1)) txtFavs(Index + 1).SetFocus();
     else if (Index == last) generate_.SetFocus();
 }
@@ -231,7 +231,7 @@ void WheelControls::txtFavs_LostFocus(int Index) {
         box.SetFocus();
         return;
     }
-    window_.run.global.Favourites(Index) = number;
+    window_.session.global.Favourites(Index) = number;
     if (Index == HowManyKept()) generate_.SetFocus();
 }
 

@@ -88,8 +88,8 @@ ReportArgs ReportsTab::Args() {
 void ReportsTab::cmdNumberFrequency_Click() {
     cmdPrintReport.SetEnabled(false);
     Show(mscNumberFrequency);
-    if (IsPick(window_.Which)) ChartDigits(window_.run, Args(), Frequencies);
-    else ChartFrequency(window_.run, Args(), Frequencies);
+    if (IsPick(window_.Which)) ChartDigits(window_.session, Args(), Frequencies);
+    else ChartFrequency(window_.session, Args(), Frequencies);
     mscNumberFrequency.SetHint(Tally[window_.Which] ? NoDrawsHint : NoChartHint);
 }
 
@@ -97,15 +97,15 @@ void ReportsTab::cmdReport_Click() {
     cmdPrintReport.SetEnabled(true);
     if (!Tally[window_.Which]) return;  // keno 80 has no report
     Show(txtReport);
-    Run& run = window_.run;
+    Session& session = window_.session;
     const std::string caption = window_.Caption();
     const auto askType = [&] {
-        frmReportType dialog(run);
+        frmReportType dialog(session);
         window_.windows.ShowModal(dialog);
     };
     txtReport.Write([&](std::string& text) {
-        if (IsPick(window_.Which)) ReportDigits(run, Args(), Frequencies, askType, caption, text);
-        else ReportFrequency(run, Args(), Frequencies, caption, text);
+        if (IsPick(window_.Which)) ReportDigits(session, Args(), Frequencies, askType, caption, text);
+        else ReportFrequency(session, Args(), Frequencies, caption, text);
     });
 }
 
@@ -113,7 +113,7 @@ void ReportsTab::cmdProfitLoss_Click() {
     WindowState& state = window_.State;
     Show(mscProfitLoss);
     ChartCells cells(mscProfitLoss);
-    ChartMoney(window_.run, GameMoney, state.DbName, state.TableName, state.mode, cells);
+    ChartMoney(window_.session, GameMoney, state.DbName, state.TableName, state.mode, cells);
     mscProfitLoss.SetHint(NoTicketsHint);
 }
 
@@ -123,7 +123,7 @@ void ReportsTab::cmdPLReport_Click() {
     Show(txtReport);
     ChartCells cells(mscProfitLoss);
     txtReport.Write([&](std::string& text) {
-        ReportMoney(window_.run, GameMoney, state.DbName, state.TableName, state.mode, cells,
+        ReportMoney(window_.session, GameMoney, state.DbName, state.TableName, state.mode, cells,
                     window_.Caption(), text);
     });
 }
@@ -132,7 +132,7 @@ void ReportsTab::cmdPrintReport_Click() {
     if (!PrintsReport[window_.Which]) return;
     const std::string text = txtReport.Text();
     const forms::BusyPointer busy(std::chrono::milliseconds(text.size() / CharactersAMillisecond));
-    PrintReport(window_.run.services.printer, text);
+    PrintReport(window_.session.services.printer, text);
 }
 
 }  // namespace sorvane

@@ -17,7 +17,7 @@ namespace {
 constexpr int Lines = 33;
 }  // namespace
 
-frmReport::frmReport(Run& run) : Window("frmReport"), run_(run) {
+frmReport::frmReport(Session& session) : Window("frmReport"), session_(session) {
     SetCaption(AllCaption);
     SetCloseButton(cmdExit);
     cmdProfitLoss.OnClick([this] { cmdProfitLoss_Click(); });
@@ -36,7 +36,7 @@ void frmReport::LayOut() {
 }
 
 void frmReport::Form_Load() {
-    DbName_ = DatabasePath(run_.global.AppPath);
+    DbName_ = DatabasePath(session_.global.AppPath);
     mscProfitLoss.SetVisible(true);
     mscProfitLoss.SetHint(EmptyChartHint);
     txtReport.SetVisible(false);
@@ -47,7 +47,7 @@ void frmReport::cmdProfitLoss_Click() {
     txtReport.SetVisible(false);
     mscProfitLoss.SetVisible(true);
     ChartCells cells(mscProfitLoss);
-    ChartMoney(run_, AllGamesMoney, DbName_, TableName_, mode_, cells);
+    ChartMoney(session_, AllGamesMoney, DbName_, TableName_, mode_, cells);
     mscProfitLoss.SetHint(NoTicketsHint);
 }
 
@@ -56,7 +56,7 @@ void frmReport::cmdPLReport_Click() {
     txtReport.SetVisible(true);
     ChartCells cells(mscProfitLoss);
     txtReport.Write([&](std::string& text) {
-        ReportMoney(run_, AllGamesMoney, DbName_, TableName_, mode_, cells, Caption(), text);
+        ReportMoney(session_, AllGamesMoney, DbName_, TableName_, mode_, cells, Caption(), text);
     });
 }
 

@@ -16,8 +16,10 @@ namespace sorvane {
 // before. Opens on an empty chart.
 class frmReport final : public forms::Window {
   public:
-    explicit frmReport(Run& run);
-    static std::unique_ptr<forms::Window> Make(Run& run) { return std::make_unique<frmReport>(run); }
+    explicit frmReport(Session& session);
+    static std::unique_ptr<forms::Window> Make(Session& session) {
+        return std::make_unique<frmReport>(session);
+    }
 
   private:
     void Form_Load();
@@ -25,7 +27,7 @@ class frmReport final : public forms::Window {
     void cmdProfitLoss_Click();
     void cmdPLReport_Click();
 
-    Run& run_;
+    Session& session_;
     std::string DbName_;
     std::string TableName_;
     Integer mode_;

@@ -9,22 +9,23 @@
 
 namespace sorvane {
 
-frmReportType::frmReportType(Run& run) : Window("frmReportType") {
+frmReportType::frmReportType(Session& session) : Window("frmReportType") {
     SetCaption("Type of Report");
     SetCloseButton(cmdCancel);
     SetEscapeButton(cmdCancel);
     for (std::size_t i = 0; i < ReportTypes::All.size(); ++i)
         optReportType.Load(static_cast<int>(i), ReportTypes::All[i]);
-    optReportType.OnClick(
-        [&run](int Index) { run.global.ReportType = ReportTypes::All[static_cast<std::size_t>(Index)]; });
+    optReportType.OnClick([&session](int Index) {
+        session.global.ReportType = ReportTypes::All[static_cast<std::size_t>(Index)];
+    });
     cmdOK.OnClick([this] { Unload(); });
-    cmdCancel.OnClick([this, &run] {
-        run.global.ReportType.clear();
+    cmdCancel.OnClick([this, &session] {
+        session.global.ReportType.clear();
         Unload();
     });
     SetFirstFocus(optReportType(0));
     LayOut();
-    if (!CellsOf(run.global.LottoFlag).HasTriples) optReportType(1).SetVisible(false);
+    if (!CellsOf(session.global.LottoFlag).HasTriples) optReportType(1).SetVisible(false);
 }
 
 void frmReportType::LayOut() {

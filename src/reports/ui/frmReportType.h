@@ -13,7 +13,7 @@ namespace sorvane {
 // earlier time, when no option was chosen.
 class frmReportType final : public forms::Window {
   public:
-    explicit frmReportType(Run& run);
+    explicit frmReportType(Session& session);
 
   private:
     void LayOut();

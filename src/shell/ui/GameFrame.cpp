@@ -4,13 +4,13 @@
 
 namespace sorvane {
 
-GameFrame::GameFrame(Family family, Run& run_, Windows& windows_)
-    : Window(NameOf(family)), Which(family), run(run_), windows(windows_) {}
+GameFrame::GameFrame(Family family, Session& session_, Windows& windows_)
+    : Window(NameOf(family)), Which(family), session(session_), windows(windows_) {}
 
 void GameFrame::Leave() { windows.Unload(*this); }
 
 Answer GameFrame::MsgBox(std::string_view text, int style, std::string_view title) {
-    return run.services.dialogs.MsgBox(text, style, title);
+    return session.services.dialogs.MsgBox(text, style, title);
 }
 
 void GameFrame::TakeArraysOut() {

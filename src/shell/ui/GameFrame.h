@@ -29,7 +29,7 @@ inline constexpr std::string_view QuickPickCaption = "&Quick Pick";
 class GameFrame : public forms::Window {
   public:
     // Everything empty: whoever derives from it fills the pages and puts them into the tab strip.
-    GameFrame(Family family, Run& run, Windows& windows);
+    GameFrame(Family family, Session& session, Windows& windows);
 
     // The load event. May show boxes.
     virtual void Form_Load() = 0;
@@ -42,7 +42,7 @@ class GameFrame : public forms::Window {
     StoreArgs At() { return {State.DbName, State.TableName, State.WindowDate}; }
 
     const Family Which;
-    Run& run;
+    Session& session;
     Windows& windows;
     WindowState State;
 

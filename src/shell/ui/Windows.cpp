@@ -6,13 +6,13 @@
 
 namespace sorvane {
 
-Windows::Windows(Run& run, const WindowMakers& makers) : run_(run), makers_(makers) {}
+Windows::Windows(Session& session, const WindowMakers& makers) : session_(session), makers_(makers) {}
 Windows::~Windows() = default;
 
 GameFrame& Windows::Load(Family family) {
     auto& window = loaded_[static_cast<std::size_t>(family)];
     if (!window) {
-        window = makers_.game(family, run_, *this);
+        window = makers_.game(family, session_, *this);
         window->Form_Load();
     }
     return *window;
@@ -20,7 +20,7 @@ GameFrame& Windows::Load(Family family) {
 
 bool Windows::IsLoaded(Family family) const { return loaded_[static_cast<std::size_t>(family)] != nullptr; }
 
-std::unique_ptr<forms::Window> Windows::MakeReport() const { return makers_.report(run_); }
+std::unique_ptr<forms::Window> Windows::MakeReport() const { return makers_.report(session_); }
 
 void Windows::ShowModal(forms::Window& window) {
     ++shown_;

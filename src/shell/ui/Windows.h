@@ -18,13 +18,13 @@ class Windows;
 
 // How the windows are made that stand above this room. Whoever starts the program knows them.
 struct WindowMakers {
-    std::unique_ptr<GameFrame> (*game)(Family family, Run& run, Windows& windows);
-    std::unique_ptr<forms::Window> (*report)(Run& run);  // of all lotteries
+    std::unique_ptr<GameFrame> (*game)(Family family, Session& session, Windows& windows);
+    std::unique_ptr<forms::Window> (*report)(Session& session);  // of all lotteries
 };
 
 class Windows {
   public:
-    Windows(Run& run, const WindowMakers& makers);
+    Windows(Session& session, const WindowMakers& makers);
     ~Windows();
 
     // The family's window; made and loaded when it isn't there. It stands in the registry before its
@@ -42,7 +42,7 @@ class Windows {
     void Unload(GameFrame& window);
 
   private:
-    Run& run_;
+    Session& session_;
     const WindowMakers makers_;
     std::array<std::unique_ptr<GameFrame>, 7> loaded_;
     std::vector<std::unique_ptr<GameFrame>> leaving_;

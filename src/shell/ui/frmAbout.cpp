@@ -11,7 +11,7 @@
 
 namespace sorvane {
 
-frmAbout::frmAbout(Run& run) : Window("frmAbout") {
+frmAbout::frmAbout(Session& session) : Window("frmAbout") {
     SetCaption("About " + std::string(ProgramName));
     lblVersion.SetCaption("Version " + std::string(Deployment::Version));
     lblDescription.SetCaption(
@@ -23,7 +23,7 @@ frmAbout::frmAbout(Run& run) : Window("frmAbout") {
     SetCloseButton(cmdOK);
     SetFirstFocus(cmdOK);
     cmdOK.OnClick([this] { Unload(); });
-    cmdSysInfo.OnClick([&run] { StartSysInfo(run.services); });
+    cmdSysInfo.OnClick([&session] { StartSysInfo(session.services); });
     LayOut();
 }
 

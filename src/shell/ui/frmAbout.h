@@ -12,7 +12,7 @@ namespace sorvane {
 
 class frmAbout final : public forms::Window {
   public:
-    explicit frmAbout(Run& run);
+    explicit frmAbout(Session& session);
 
   private:
     void LayOut();

@@ -22,9 +22,9 @@
 
 namespace sorvane {
 
-frmMain::frmMain(Run& run, Windows& windows, std::string applicationFolder, std::function<void()> end)
+frmMain::frmMain(Session& session, Windows& windows, std::string applicationFolder, std::function<void()> end)
     : Window("frmMain", Kind::Main),
-      run_(run),
+      session_(session),
       windows_(windows),
       applicationFolder_(std::move(applicationFolder)),
       end_(std::move(end)) {
@@ -84,12 +84,12 @@ std::function<void()> frmMain::HandlerOf(const MenuEntry& entry) {
         case MenuAction::Exit:
             return end_;
         case MenuAction::Request:
-            return shows([this] { return std::make_unique<frmRequestNewLottery>(run_); });
+            return shows([this] { return std::make_unique<frmRequestNewLottery>(session_); });
         case MenuAction::About:
-            return shows([this] { return std::make_unique<frmAbout>(run_); });
+            return shows([this] { return std::make_unique<frmAbout>(session_); });
         case MenuAction::Report:
             return shows([this] {
-                run_.global.LottoFlag.clear();  // all lotteries
+                session_.global.LottoFlag.clear();  // all lotteries
                 return windows_.MakeReport();
             });
         case MenuAction::Menu:
@@ -105,14 +105,14 @@ void frmMain::Load() {
 
 void frmMain::Form_Load() {
     namespace fs = std::filesystem;
-    run_.global.NL = "\r\n";
-    run_.global.AppPath = (fs::path(applicationFolder_) / "").make_preferred().string();
+    session_.global.NL = "\r\n";
+    session_.global.AppPath = (fs::path(applicationFolder_) / "").make_preferred().string();
 
-    const std::string DbName = DatabasePath(run_.global.AppPath);
-    CheckDatabaseExists(run_, DbName);
+    const std::string DbName = DatabasePath(session_.global.AppPath);
+    CheckDatabaseExists(session_, DbName);
     const auto makeSureOf = [&](std::string TableName, auto create) {
-        MakeSureOf(run_, DbName, TableName,
-                   [&] { create(run_, DbName, TableName, PrimaryFieldName, DateFieldName); });
+        MakeSureOf(session_, DbName, TableName,
+                   [&] { create(session_, DbName, TableName, PrimaryFieldName, DateFieldName); });
     };
     makeSureOf("Spent", CreateSpentTable);
     makeSureOf("Winnings", CreateWinningsTable);
@@ -121,7 +121,7 @@ void frmMain::Form_Load() {
 // The keys are in place before the window loads, because its load event reads them. The title may go to
 // another window than the one that opens, which loads that one too.
 void frmMain::Open(const Game& game) {
-    Select(run_.global, game);
+    Select(session_.global, game);
     windows_.Load(game.titleGoesTo.value_or(game.opens)).SetCaption(game.title);
     GameFrame& window = windows_.Load(game.opens);
     Dress(window, DressingOf(game));
@@ -130,7 +130,7 @@ void frmMain::Open(const Game& game) {
 
 // The routine that opened something has closed it; only the flags are left to be cleared.
 void frmMain::cmdExit_Click() {
-    run_.global.Open = {};
+    session_.global.Open = {};
     end_();
 }
 

@@ -20,7 +20,7 @@ class Windows;
 class frmMain final : public forms::Window {
   public:
     // `applicationFolder`: where the executable lies, without a separator behind it. `end` ends the program.
-    frmMain(Run& run, Windows& windows, std::string applicationFolder, std::function<void()> end);
+    frmMain(Session& session, Windows& windows, std::string applicationFolder, std::function<void()> end);
 
     // The load event, before the window is shown: sets Global::NL and AppPath, then makes the database with
     // Spent and Winnings where they are missing. May show boxes.
@@ -34,7 +34,7 @@ class frmMain final : public forms::Window {
     void Open(const Game& game);
     void cmdExit_Click();
 
-    Run& run_;
+    Session& session_;
     Windows& windows_;
     const std::string applicationFolder_;
     const std::function<void()> end_;

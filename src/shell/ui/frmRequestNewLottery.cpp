@@ -33,7 +33,8 @@ QHBoxLayout* Beside(int space, std::initializer_list<QWidget*> widgets) {
 
 }  // namespace
 
-frmRequestNewLottery::frmRequestNewLottery(Run& run) : Window("frmRequestNewLottery"), run_(run) {
+frmRequestNewLottery::frmRequestNewLottery(Session& session)
+    : Window("frmRequestNewLottery"), session_(session) {
     SetCaption("Request New Lottery");
     SetCloseButton(cmdExit);
     SetFirstFocus(txtNameOfLottery);
@@ -59,7 +60,7 @@ void frmRequestNewLottery::FilterKeys(forms::TextBox& field, bool (*accepts)(int
                                       std::string_view refusal) {
     field.OnKeyPress([this, &field, accepts, refusal](forms::KeyPress& key) {
         if (accepts(key.KeyAscii)) return;
-        run_.services.dialogs.MsgBox(refusal, BoxStyle::Exclamation, forms::KeyErrorTitle);
+        session_.services.dialogs.MsgBox(refusal, BoxStyle::Exclamation, forms::KeyErrorTitle);
         key.Swallow();
         field.SetCaret(static_cast<int>(field.text().size()));
         field.SetFocus();
@@ -79,7 +80,7 @@ void frmRequestNewLottery::cmdClear_Click() {
 }
 
 void frmRequestNewLottery::cmdPrint_Click() {
-    Printer& printer = run_.services.printer;
+    Printer& printer = session_.services.printer;
     if (Ignoring({ErrorNumber::DialogCancelled}, [&] { printer.ShowPrinter(); }))
         PrintRequestForm(printer, Filled());
 }

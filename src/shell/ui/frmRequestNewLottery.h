@@ -20,7 +20,7 @@ namespace sorvane {
 
 class frmRequestNewLottery final : public forms::Window {
   public:
-    explicit frmRequestNewLottery(Run& run);
+    explicit frmRequestNewLottery(Session& session);
 
   private:
     void LayOut();
@@ -35,7 +35,7 @@ class frmRequestNewLottery final : public forms::Window {
     void cmdPrint_Click();
     RequestForm Filled() const;
 
-    Run& run_;
+    Session& session_;
     QWidget form_;  // the container, before its contents
     forms::Label lblText1{"lblText1",
                           "To request a new lottery, please complete the information requested below, print "
