@@ -78,7 +78,7 @@ struct Filled : World {
     Filled(const Creator& creator, const char* table, int rows, const std::string& fields)
         : TableName(table) {
         WithDatabase();
-        creator(session, DbName(), TableName, PrimaryFieldName, DateFieldName);
+        creator(session, {DbName(), TableName}, PrimaryFieldName, DateFieldName);
         Add(rows, fields);
     }
     void Add(int rows, const std::string& fields) const {
@@ -208,7 +208,7 @@ Pair Tally(int size) {
     file->global.LottoFlag = "BC49";
     const auto ours = [file] {
         RecordingChart chart;
-        TallySixNumberFrequency(file->session, file->name, file->TableName, chart, ReportMode);
+        TallySixNumberFrequency(file->session, {file->name, file->TableName}, chart, ReportMode);
     };
     const auto floor = [file] {
         std::array<int, 50> counts{};
@@ -224,14 +224,15 @@ Pair Money(int size) {
     auto file = std::make_shared<Filled>(CreateSpentTable, "Spent", size / 2,
                                          "'BC49', 46000 - i % 3000, i % 977 * 0.25");
     file->TableName = "Winnings";
-    CreateWinningsTable(file->session, file->name, file->TableName, PrimaryFieldName, DateFieldName);
+    CreateWinningsTable(file->session, {file->name, file->TableName}, PrimaryFieldName, DateFieldName);
     file->Add(size / 2, "'BC49', 46000 - i % 3000, i % 977 * 0.25");
     file->global.LottoFlag = "BC49";
     const auto ours = [file] {
         RecordingChart chart;
         std::string TableName, text;
         Integer mode;
-        ReportMoney(file->session, ReportFacts::GameMoney, file->name, TableName, mode, chart, "BC/49", text);
+        ReportMoney(file->session, {ReportFacts::GameMoney, file->name, TableName, mode, chart}, "BC/49",
+                    text);
     };
     const auto floor = [file] {
         const auto text = [](sqlite3_stmt* row, int field) {

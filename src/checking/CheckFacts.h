@@ -62,8 +62,7 @@ inline constexpr PerFamily<bool>             HasFour        {{ yes,        yes, 
 inline constexpr PerFamily<bool>             HasEncoreBox   {{ yes,        yes,        yes,        yes,        no,         yes,        no         }};  // txtWinEncore
 inline constexpr PerFamily<bool>             HasEncoreList  {{ yes,        yes,        yes,        yes,        no,         yes,        yes        }};  // lstEncorePlayed
 
-// The guards of the winning boxes; a top of 0 is no guard.
-inline constexpr PerFamily<int>              Top            {{ 49,         49,         45,         70,         80,         0,          0          }};
+// The guards of the winning boxes, up to the highest number of the family; without a text there is none.
 inline constexpr PerFamily<std::string_view> RangeText      {{ Between49,  Between49,  From45,     Between70,  Between80,  "",         ""         }};
 inline constexpr PerFamily<EnterKey>         EnterInBox     {{ EnterKey::Refused, EnterKey::Refused, EnterKey::Moves, EnterKey::Refused, EnterKey::Refused, EnterKey::None, EnterKey::None }};
 inline constexpr PerFamily<int>              FourTop        {{ 99,         0,          45,         0,          0,          0,          0          }};  // frm749 lets any number stand: meant

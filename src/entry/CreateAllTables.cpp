@@ -91,8 +91,8 @@ const PerFamily<std::span<const TableStep>>& Steps() {
 void CreateAllTables(Session& session, Family family, WindowState& state) {
     state.DbName = DatabasePath(session.global.AppPath);
     const auto makeSure = [&](const Creator& creator) {
-        MakeSureOf(session, state.DbName, state.TableName,
-                   [&] { creator(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+        MakeSureOf(session, state.Table(),
+                   [&] { creator(session, state.Table(), PrimaryFieldName, DateFieldName); });
     };
     CheckDatabaseExists(session, state.DbName);
     state.TableName = "Spent";
@@ -110,7 +110,7 @@ void CreateAllTables(Session& session, Family family, WindowState& state) {
         }
         if (step.creator) makeSure(*step.creator);
         else
-            MakeSureOf(session, state.DbName, state.TableName, [&] {
+            MakeSureOf(session, state.Table(), [&] {
                 CreateTableByShape(session, state.DbName, state.TableName, state.NumbersPerTicket,
                                    PrimaryFieldName, DateFieldName, std::string(step.withWin));
             });

@@ -104,9 +104,9 @@ void BuildTempTable(Session& session, const std::string& DbName, std::string& Ta
 
 namespace {
 
-bool HasEnoughDraws(Session& session, const std::string& DbName, const std::string& TableName) {
+bool HasEnoughDraws(Session& session, const StoreTable& table) {
     constexpr int FewestDraws = 20;
-    if (CountDrawRows(session, DbName, TableName) >= FewestDraws) return true;
+    if (CountDrawRows(session, table) >= FewestDraws) return true;
     Global& g = session.global;
     g.Msg = "Not enough data to generate Hot Numbers. Please enter additional Winning Number history" + g.NL +
             "and try again";
@@ -122,9 +122,8 @@ void GenerateFrequencyWheel(Session& session, std::string_view order, const Whee
                             const WheelWindow& window, const Integer& wheelLength) {
     Global& g = session.global;
     const Integer& howMany = wheel.HowManyToWheel;
-    if (!HasEnoughDraws(session, wheel.DbName, wheel.TableName)) return;
-    TallyByGameShape(session, wheel.NumbersPerTicket, wheel.DbName, wheel.TableName, window.chart,
-                     wheel.mode);
+    if (!HasEnoughDraws(session, wheel.Table())) return;
+    TallyByGameShape(session, wheel.NumbersPerTicket, wheel.Table(), window.chart, wheel.mode);
     Array<Integer> pool;
     pool.Redim(howMany);
     BuildTempTable(session, wheel.DbName, wheel.TableName, g.BallFrequency.UBound(), g.BallFrequency);
@@ -137,7 +136,7 @@ void GenerateFrequencyWheel(Session& session, std::string_view order, const Whee
             Rs.MoveNext();
         }
     }
-    DeleteAllRows(session, wheel.DbName, wheel.TableName);
+    DeleteAllRows(session, wheel.Table());
     SortNumbers(g, pool);
     for (int i = 0; i < howMany; ++i) window.face.ShowFavourite(i, Str(pool(i)));
     WheelTickets(session, window, pool, wheelLength);

@@ -6,6 +6,7 @@
 #include "platform/Lines.h"
 #include "reports/ChartFace.h"
 #include "shell/Global.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane {
 
@@ -43,6 +44,8 @@ struct WheelRun {
     std::string& TableName;  // ends as "Temp" behind a hot or cold wheel
     Integer& mode;
     Array<std::string>& QuickPicks;
+
+    StoreTable Table() const { return {DbName, TableName}; }
 };
 
 // What cmdGenerate of frm645 does. Sets Generating for the run and mode to 1; a run that is refused for a

@@ -13,7 +13,7 @@ using namespace ReportFacts;
 void ChartDigits(Session& session, const ReportArgs& args, ChartFace& chart) {
     session.global.PositionCounts = {};
     args.mode = ChartMode;
-    if (FindDraws(session, args)) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
+    if (FindDraws(session, args)) Tally[args.family](session, args.Table(), chart, args.mode);
 }
 
 void ReportDigits(Session& session, const ReportArgs& args, ChartFace& chart,
@@ -22,7 +22,7 @@ void ReportDigits(Session& session, const ReportArgs& args, ChartFace& chart,
     args.mode = ReportMode;
     if (FindDraws(session, args)) {
         askType();
-        Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
+        Tally[args.family](session, args.Table(), chart, args.mode);
     } else {
         session.global.Numbers.Redim(NumbersUpper[args.family]);
     }

@@ -34,11 +34,10 @@ void ShowNoDraws(Session& session) {
 
 // Hands each row of the win table to `eachDraw`; `atEnd` follows when there was any.
 template <class EachDraw, class AtEnd>
-void ReadDraws(Session& session, const std::string& DbName, const std::string& TableName, EachDraw eachDraw,
-               AtEnd atEnd) {
-    StoreRoutine(session, Tails::Open, TableName, [&] {
-        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
-        Dao::Recordset Rs = Db.OpenTable(TableName);
+void ReadDraws(Session& session, const StoreTable& table, EachDraw eachDraw, AtEnd atEnd) {
+    StoreRoutine(session, Tails::Open, table.TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, session.global.Open);
+        Dao::Recordset Rs = Db.OpenTable(table.TableName);
         const int rows = Rs.RecordCount();
         if (rows < 1) return ShowNoDraws(session);
         Rs.MoveFirst();
@@ -52,14 +51,13 @@ void ReadDraws(Session& session, const std::string& DbName, const std::string& T
 
 // Counts the numbers 0 to `top`; an unknown game has no tally, and its first number is outside it.
 template <class AtEnd>
-void TallyNumbers(Session& session, const std::string& DbName, const std::string& TableName,
-                  DrawnFields fields, int top, AtEnd atEnd) {
+void TallyNumbers(Session& session, const StoreTable& table, DrawnFields fields, int top, AtEnd atEnd) {
     Array<Integer> tally;
     if (top > 0) tally.Redim(top);
     const auto count = [&](Dao::Recordset& Rs) {
         for (int i = 0; i < fields.count; ++i) ++tally(Rs[fields.first + i].ToInteger());
     };
-    ReadDraws(session, DbName, TableName, count, [&] { atEnd(tally); });
+    ReadDraws(session, table, count, [&] { atEnd(tally); });
 }
 
 void DrawFrequencies(const Array<Integer>& tally, ChartFace& chart) {
@@ -94,36 +92,34 @@ int TopKenoNumber(const std::string& LottoFlag) {
 
 }  // namespace
 
-void TallySixNumberFrequency(Session& session, const std::string& DbName, const std::string& TableName,
-                             ChartFace& chart, const Integer& mode) {
+void TallySixNumberFrequency(Session& session, const StoreTable& table, ChartFace& chart,
+                             const Integer& mode) {
     Global& g = session.global;
     const bool lottario = IsLottario(g);
     const int top = FamilyFacts::HighestNumber[lottario ? Family::frm645 : Family::frm649];
-    TallyNumbers(session, DbName, TableName, SixNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, table, SixNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) KeepSixNumberTally(g, tally, lottario);
         if (mode == ChartMode && !g.Generating) DrawFrequencies(tally, chart);
     });
 }
 
-void TallySevenNumberFrequency(Session& session, const std::string& DbName, const std::string& TableName,
-                               ChartFace& chart, const Integer& mode) {
+void TallySevenNumberFrequency(Session& session, const StoreTable& table, ChartFace& chart,
+                               const Integer& mode) {
     Global& g = session.global;
     const int top = FamilyFacts::HighestNumber[Family::frm749];
     if (FindKey(Family::frm749, g.LottoFlag)) g.Numbers.Redim(top);
-    TallyNumbers(session, DbName, TableName, SevenNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, table, SevenNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) CopyShifted(tally, g.Numbers);
         if (mode == ChartMode) DrawFrequencies(tally, chart);
     });
 }
 
-void TallyKenoFrequency(Session& session, const std::string& DbName, const std::string& TableName,
-                        ChartFace& chart, const Integer& mode) {
+void TallyKenoFrequency(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
     Global& g = session.global;
-    TallyNumbers(session, DbName, TableName, KenoNumbers, TopKenoNumber(g.LottoFlag),
-                 [&](const Array<Integer>& tally) {
-                     if (mode == ReportMode) CopyShifted(tally, g.Numbers);
-                     if (mode == ChartMode) DrawFrequencies(tally, chart);
-                 });
+    TallyNumbers(session, table, KenoNumbers, TopKenoNumber(g.LottoFlag), [&](const Array<Integer>& tally) {
+        if (mode == ReportMode) CopyShifted(tally, g.Numbers);
+        if (mode == ChartMode) DrawFrequencies(tally, chart);
+    });
 }
 
 namespace {
@@ -172,8 +168,8 @@ void StartCombos(Array<std::string>& counts) {
     for (int slot = 0; slot <= LastSlot; ++slot) counts(slot) = "0";
 }
 
-void TallyDigits(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-                 const Integer& mode, int digits) {
+void TallyDigits(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode,
+                 int digits) {
     Global& g = session.global;
     const bool chartAsked = mode == ChartMode;
     const bool reportAsked = mode == ReportMode;
@@ -185,34 +181,32 @@ void TallyDigits(Session& session, const std::string& DbName, const std::string&
         for (const DigitGroup& group : DigitGroups)
             if (g.ReportType == group.type) CountGroup(g, Rs, group, digits);
     };
-    ReadDraws(session, DbName, TableName, countDraw, [&] {
+    ReadDraws(session, table, countDraw, [&] {
         if (chartAsked) DrawPositions(g, chart, digits);
     });
 }
 
 }  // namespace
 
-void TallyPick3Digits(Session& session, const std::string& DbName, const std::string& TableName,
-                      ChartFace& chart, const Integer& mode) {
-    TallyDigits(session, DbName, TableName, chart, mode, 3);
+void TallyPick3Digits(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
+    TallyDigits(session, table, chart, mode, 3);
 }
 
-void TallyPick4Digits(Session& session, const std::string& DbName, const std::string& TableName,
-                      ChartFace& chart, const Integer& mode) {
-    TallyDigits(session, DbName, TableName, chart, mode, 4);
+void TallyPick4Digits(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
+    TallyDigits(session, table, chart, mode, 4);
 }
 
-void TallyByGameShape(Session& session, const Integer& NumbersPerTicket, const std::string& DbName,
-                      const std::string& TableName, ChartFace& chart, const Integer& mode) {
+void TallyByGameShape(Session& session, const Integer& NumbersPerTicket, const StoreTable& table,
+                      ChartFace& chart, const Integer& mode) {
     switch (NumbersPerTicket) {
         case 5:
             return;
         case 6:
-            return TallySixNumberFrequency(session, DbName, TableName, chart, mode);
+            return TallySixNumberFrequency(session, table, chart, mode);
         case 7:
-            return TallySevenNumberFrequency(session, DbName, TableName, chart, mode);
+            return TallySevenNumberFrequency(session, table, chart, mode);
         case 20:
-            return TallyKenoFrequency(session, DbName, TableName, chart, mode);
+            return TallyKenoFrequency(session, table, chart, mode);
         default:
             session.global.Msg =
                 "An Unexpected Error Occured. The LottoFlag has not been set. Please try again";
@@ -220,11 +214,11 @@ void TallyByGameShape(Session& session, const Integer& NumbersPerTicket, const s
     }
 }
 
-Integer CountDrawRows(Session& session, const std::string& DbName, const std::string& TableName) {
+Integer CountDrawRows(Session& session, const StoreTable& table) {
     Integer rows;
-    StoreRoutine(session, Tails::Open, TableName, [&] {
-        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
-        rows = Db.OpenTable(TableName).RecordCount();
+    StoreRoutine(session, Tails::Open, table.TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, session.global.Open);
+        rows = Db.OpenTable(table.TableName).RecordCount();
     });
     return rows;
 }
@@ -344,12 +338,12 @@ Currency SumOf(Dao::Recordset& Rs, int rows) {
     return sum;
 }
 
-void ReadLedger(Session& session, const Ledger& ledger, const std::string& DbName,
-                const std::string& TableName, ChartFace& chart, const Integer& mode) {
+void ReadLedger(Session& session, const Ledger& ledger, const StoreTable& table, ChartFace& chart,
+                const Integer& mode) {
     Global& g = session.global;
-    StoreRoutine(session, Tails::Open, TableName, [&] {
-        Dao::Database Db = session.services.engine.OpenDatabase(DbName, g.Open);
-        Dao::Recordset Rs = OpenLedger(Db, ledger, g.LottoFlag, TableName);
+    StoreRoutine(session, Tails::Open, table.TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, g.Open);
+        Dao::Recordset Rs = OpenLedger(Db, ledger, g.LottoFlag, table.TableName);
         const Integer rows = g.*ledger.rows = Rs.RecordCount();
         if (rows < 1) {
             if (ledger.saysWhenEmpty) ShowNoTickets(session);
@@ -364,14 +358,12 @@ void ReadLedger(Session& session, const Ledger& ledger, const std::string& DbNam
 
 }  // namespace
 
-void SumSpent(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-              const Integer& mode) {
-    ReadLedger(session, SpentLedger, DbName, TableName, chart, mode);
+void SumSpent(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
+    ReadLedger(session, SpentLedger, table, chart, mode);
 }
 
-void SumWon(Session& session, const std::string& DbName, const std::string& TableName, ChartFace& chart,
-            const Integer& mode) {
-    ReadLedger(session, WonLedger, DbName, TableName, chart, mode);
+void SumWon(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
+    ReadLedger(session, WonLedger, table, chart, mode);
 }
 
 }  // namespace sorvane

@@ -9,7 +9,7 @@ using namespace ReportFacts;
 void ChartFrequency(Session& session, const ReportArgs& args, ChartFace& chart) {
     if (!Tally[args.family]) return;
     args.mode = ChartMode;
-    if (FindDraws(session, args)) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
+    if (FindDraws(session, args)) Tally[args.family](session, args.Table(), chart, args.mode);
 }
 
 void ReportFrequency(Session& session, const ReportArgs& args, ChartFace& chart, std::string_view caption,
@@ -19,7 +19,7 @@ void ReportFrequency(Session& session, const ReportArgs& args, ChartFace& chart,
     const bool found = FindDraws(session, args);
     // In frm749 the tally alone sizes Numbers, so without a table the report shows what was left there.
     if (NumbersUpper[args.family] != NotSized) session.global.Numbers.Redim(NumbersUpper[args.family]);
-    if (found) Tally[args.family](session, args.DbName, args.TableName, chart, args.mode);
+    if (found) Tally[args.family](session, args.Table(), chart, args.mode);
     WriteFrequencyReport(session, args.family, caption, text);
 }
 

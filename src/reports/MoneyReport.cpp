@@ -12,23 +12,22 @@ namespace {
 
 constexpr std::string_view TotalPicture = "###,###,##0.00";
 
-bool Probe(Session& session, const std::string& DbName, std::string& TableName, const char* name) {
-    TableName = name;
+bool Probe(Session& session, const MoneyArgs& args, const char* name) {
+    args.TableName = name;
     session.global.TableOpened = Off;
-    ProbeTable(session, DbName, TableName);
+    ProbeTable(session, args.Table());
     return session.global.TableOpened != Off;
 }
 
-void ReadLedgers(Session& session, const MoneyWindow& window, const std::string& DbName,
-                 std::string& TableName, const Integer& mode, ChartFace& chart) {
-    const bool won = Probe(session, DbName, TableName, "Winnings");
-    const bool spent = Probe(session, DbName, TableName, "Spent");
-    if (window.eitherLedgerCounts && won) session.global.TableOpened = On;
+void ReadLedgers(Session& session, const MoneyArgs& args) {
+    const bool won = Probe(session, args, "Winnings");
+    const bool spent = Probe(session, args, "Spent");
+    if (args.window.eitherLedgerCounts && won) session.global.TableOpened = On;
     if (!spent && session.global.TableOpened == Off) return;
-    TableName = "Winnings";
-    SumWon(session, DbName, TableName, chart, mode);
-    TableName = "Spent";
-    SumSpent(session, DbName, TableName, chart, mode);
+    args.TableName = "Winnings";
+    SumWon(session, args.Table(), args.chart, args.mode);
+    args.TableName = "Spent";
+    SumSpent(session, args.Table(), args.chart, args.mode);
 }
 
 // One half of the report, from its heading to the blank line behind its rows.
@@ -63,19 +62,16 @@ std::string Difference(Currency difference) {
 
 }  // namespace
 
-void ChartMoney(Session& session, const MoneyWindow& window, const std::string& DbName,
-                std::string& TableName, Integer& mode, ChartFace& chart) {
-    mode = ChartMode;
-    ReadLedgers(session, window, DbName, TableName, mode, chart);
+void ChartMoney(Session& session, const MoneyArgs& args) {
+    args.mode = ChartMode;
+    ReadLedgers(session, args);
 }
 
-void ReportMoney(Session& session, const MoneyWindow& window, const std::string& DbName,
-                 std::string& TableName, Integer& mode, ChartFace& chart, std::string_view caption,
-                 std::string& text) {
-    if (window.resetsTotals) session.global.TotalWon = session.global.TotalSpent = Currency();
-    mode = ReportMode;
-    ReadLedgers(session, window, DbName, TableName, mode, chart);
-    WriteMoneyReport(session, window, caption, text);
+void ReportMoney(Session& session, const MoneyArgs& args, std::string_view caption, std::string& text) {
+    if (args.window.resetsTotals) session.global.TotalWon = session.global.TotalSpent = Currency();
+    args.mode = ReportMode;
+    ReadLedgers(session, args);
+    WriteMoneyReport(session, args.window, caption, text);
 }
 
 void WriteMoneyReport(Session& session, const MoneyWindow& window, std::string_view caption,

@@ -9,11 +9,12 @@
 
 #include "reports/DisplayData.h"
 #include "shell/Family.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane::ReportFacts {
 
-using TallyRoutine = void (*)(Session& session, const std::string& DbName, const std::string& TableName,
-                              ChartFace& chart, const Integer& mode);
+using TallyRoutine = void (*)(Session& session, const StoreTable& table, ChartFace& chart,
+                              const Integer& mode);
 
 inline constexpr std::array<std::string_view, 1> FrequencySeries{"Frequency"};
 inline constexpr std::array<std::string_view, 4> PositionSeries{"Ball 1", "Ball 2", "Ball 3", "Ball 4"};

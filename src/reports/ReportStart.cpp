@@ -9,7 +9,7 @@ namespace sorvane {
 bool FindDraws(Session& session, const ReportArgs& args) {
     Global& g = session.global;
     if (const auto name = WinTable(args.family, g.LottoFlag)) args.TableName = *name;
-    ProbeTable(session, args.DbName, args.TableName);
+    ProbeTable(session, args.Table());
     if (g.TableOpened != Off) return true;
     g.Msg = "No Winning Numbers entered yet. Please enter some Winning Numbers" + g.NL + "try again." + g.NL;
     session.services.dialogs.MsgBox(g.Msg, BoxStyle::Ok, ErrorTitle);

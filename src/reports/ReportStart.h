@@ -6,6 +6,7 @@
 
 #include "shell/Family.h"
 #include "shell/Global.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane {
 
@@ -16,6 +17,8 @@ struct ReportArgs {
     const std::string& DbName;
     std::string& TableName;
     Integer& mode;
+
+    StoreTable Table() const { return {DbName, TableName}; }
 };
 
 // Names the win table and probes for it, which sets TableOpened. A missing one shows "No Winning Numbers

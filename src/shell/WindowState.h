@@ -6,6 +6,7 @@
 #include "platform/Array.h"
 #include "platform/Date.h"
 #include "platform/Integer.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane {
 
@@ -29,6 +30,8 @@ struct WindowState {
     Integer HowManyToWheel;
     Integer mode;  // 0 chart, 1 text report
     Array<std::string> QuickPicks;
+
+    StoreTable Table() const { return {DbName, TableName}; }
 };
 
 }  // namespace sorvane

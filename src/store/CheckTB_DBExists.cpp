@@ -45,10 +45,10 @@ void CheckDatabaseExists(Session& session, const std::string& DbName) {
     });
 }
 
-void ProbeTable(Session& session, const std::string& DbName, const std::string& TableName) {
-    const int error = StoreRoutine(session, Tails::Probe, TableName, [&] {
-        Dao::Database Db = session.services.engine.OpenDatabase(DbName, session.global.Open);
-        Dao::Recordset ProbeRs = Db.OpenTable(TableName);
+void ProbeTable(Session& session, const StoreTable& table) {
+    const int error = StoreRoutine(session, Tails::Probe, table.TableName, [&] {
+        Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, session.global.Open);
+        Dao::Recordset ProbeRs = Db.OpenTable(table.TableName);
         session.global.TableOpened = On;
     });
     if (error != 0) session.global.TableOpened = Off;

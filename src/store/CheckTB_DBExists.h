@@ -4,6 +4,7 @@
 #include <string>
 
 #include "shell/Global.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane {
 
@@ -14,16 +15,16 @@ void CheckDatabaseExists(Session& session, const std::string& DbName);
 
 // Sets Global::TableOpened to 1 when the table can be opened, else to 0. A missing table shows nothing; any
 // other error shows its box.
-void ProbeTable(Session& session, const std::string& DbName, const std::string& TableName);
+void ProbeTable(Session& session, const StoreTable& table);
 
 // Probes the table and calls the creator while it is missing, until TableOpened is 1. There is no limit: a
 // table that can't be made gives its box again and again, for as long as the cause lasts. The creator may
 // change TableName.
 template <class Creator>
-void MakeSureOf(Session& session, const std::string& DbName, std::string& TableName, Creator creator) {
+void MakeSureOf(Session& session, const StoreTable& table, Creator creator) {
     session.global.TableOpened = Off;
     do {
-        ProbeTable(session, DbName, TableName);
+        ProbeTable(session, table);
         if (session.global.TableOpened == Off) creator();
     } while (session.global.TableOpened != On);
 }

@@ -89,7 +89,7 @@ std::optional<std::string> Pick3Win(const Global& global) {
 }
 
 std::optional<std::string> Pick4Played(const Global& global) {
-    if (global.ExtraFlag == "Extra") return "PlayedExtra";
+    if (const AddOn& addOn = AddOnOf(global.ExtraFlag); addOn.FourNumbers) return std::string(addOn.Played);
     const GameKey* key = CreatedBy(Family::frmPick4, global.ExtraFlag);
     if (!key) return {};
     return std::string(key->Played);
@@ -99,7 +99,7 @@ std::optional<std::string> Pick4Win(const Global& global) {
     // Florida's key is misspelt here and never matches; frmPick4 makes WinFLAPlay4 by itself.
     if (global.ExtraFlag == "FLAPLay4") return "WinFLAPlay4";
     if (global.ExtraFlag == "FLAPlay4") return {};
-    if (global.ExtraFlag == "Extra") return "WinExtra";
+    if (const AddOn& addOn = AddOnOf(global.ExtraFlag); addOn.FourNumbers) return std::string(addOn.Win);
     const GameKey* key = CreatedBy(Family::frmPick4, global.ExtraFlag);
     if (!key) return {};
     return std::string(key->Win);
@@ -189,9 +189,9 @@ void Make(Session& session, const std::string& DbName, const NewTable& table, co
 
 }  // namespace
 
-void Creator::operator()(Session& session, const std::string& DbName, const std::string& TableName,
-                         const std::string& PrimaryField, const std::string& SecondField) const {
-    Make(session, DbName, {*this, TableName}, nullptr, {PrimaryField, SecondField});
+void Creator::operator()(Session& session, const StoreTable& table, const std::string& PrimaryField,
+                         const std::string& SecondField) const {
+    Make(session, table.DbName, {*this, table.TableName}, nullptr, {PrimaryField, SecondField});
 }
 
 void CreateTableByShape(Session& session, const std::string& DbName, std::string& TableName,
@@ -207,7 +207,7 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
         };
         if (pair.code == FourDigits) {
             if (const auto name = Pick4Played(session.global)) TableName = *name;
-            MakeSureOf(session, DbName, TableName, [&] {
+            MakeSureOf(session, {DbName, TableName}, [&] {
                 ShapeCode = FourDigits;
                 createPair();
             });
@@ -215,8 +215,9 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
             createPair();
         }
         if (winName) TableName = *winName;
-        MakeSureOf(session, DbName, TableName,
-                   [&] { pair.win(session, DbName, TableName, PrimaryField, SecondField); });
+        MakeSureOf(session, {DbName, TableName}, [&] {
+            pair.win(session, {DbName, TableName}, PrimaryField, SecondField);
+        });
         return;
     }
 }

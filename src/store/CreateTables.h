@@ -26,8 +26,8 @@ struct Creator {
     std::span<const ShapeField> fields;
     ErrorTail tail = Tails::Create;
     bool indexed = true;
-    void operator()(Session& session, const std::string& DbName, const std::string& TableName,
-                    const std::string& PrimaryField, const std::string& SecondField) const;
+    void operator()(Session& session, const StoreTable& table, const std::string& PrimaryField,
+                    const std::string& SecondField) const;
 };
 
 extern const Creator CreateSpentTable;

@@ -19,10 +19,9 @@ void DeleteFromHere(Dao::Recordset& Rs, Date DrawDate) {
 
 }  // namespace
 
-void DeleteRowsForDate(Session& session, const std::string& DbName, const std::string& TableName,
-                       Date DrawDate) {
-    WritingRoutine(session, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
-        Dao::Recordset Rs = file.Db().OpenTable(TableName);
+void DeleteRowsForDate(Session& session, const StoreTable& table, Date DrawDate) {
+    WritingRoutine(session, Tails::Open, table, [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(table.TableName);
         const Integer rows = Rs.RecordCount();
         if (rows <= 0) return;
         Rs.Index(DateField);
@@ -32,9 +31,9 @@ void DeleteRowsForDate(Session& session, const std::string& DbName, const std::s
     });
 }
 
-void DeleteAllRows(Session& session, const std::string& DbName, const std::string& TableName) {
-    WritingRoutine(session, Tails::Open, {DbName, TableName}, [&](OwnFile& file) {
-        Dao::Recordset Rs = file.Db().OpenTable(TableName);
+void DeleteAllRows(Session& session, const StoreTable& table) {
+    WritingRoutine(session, Tails::Open, table, [&](OwnFile& file) {
+        Dao::Recordset Rs = file.Db().OpenTable(table.TableName);
         DeleteAllRows(Rs);
     });
 }

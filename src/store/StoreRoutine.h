@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "shell/Global.h"
+#include "shell/StoreTable.h"
 
 namespace sorvane {
 
@@ -52,12 +53,6 @@ int StoreRoutine(Session& session, const ErrorTail& tail, const std::string& Tab
     if (number != 0) ShowStoreError(session, tail, number, TableName);
     return number;
 }
-
-// A table, and the file it stands in.
-struct StoreTable {
-    const std::string& DbName;
-    const std::string& TableName;
-};
 
 // What the reading and writing routines are told by their caller. TableName may be changed where a routine
 // says so.

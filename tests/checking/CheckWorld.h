@@ -79,7 +79,7 @@ struct StoreTest : ::testing::Test, World {
     StoreTest() { WithDatabase(); }
 
     void Make(const Creator& creator, const std::string& table) {
-        creator(session, DbName(), table, PrimaryFieldName, DateFieldName);
+        creator(session, {DbName(), table}, PrimaryFieldName, DateFieldName);
     }
     // Adds rows of SQL values.
     void Add(const std::string& table, const Texts& rows) {

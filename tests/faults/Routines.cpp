@@ -79,9 +79,9 @@ void AmendsWinnings(Desk& desk) {
 }
 
 void DeletesDate(Desk& desk) {
-    DeleteRowsForDate(desk.session, desk.DbName, desk.state.TableName, desk.state.WindowDate);
+    DeleteRowsForDate(desk.session, {desk.DbName, desk.state.TableName}, desk.state.WindowDate);
 }
-void EmptiesTemp(Desk& desk) { DeleteAllRows(desk.session, desk.DbName, desk.state.TableName); }
+void EmptiesTemp(Desk& desk) { DeleteAllRows(desk.session, {desk.DbName, desk.state.TableName}); }
 
 void BuildsTemp(Desk& desk) {
     Array<Integer> frequencies;
@@ -91,13 +91,14 @@ void BuildsTemp(Desk& desk) {
 }
 
 void ChartsMoney(Desk& desk) {
-    ChartMoney(desk.session, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
-               desk.chart);
+    ChartMoney(desk.session,
+               {ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode, desk.chart});
 }
 void ReportsMoney(Desk& desk) {
     std::string text;
-    ReportMoney(desk.session, ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode,
-                desk.chart, "Lotto", text);
+    ReportMoney(desk.session,
+                {ReportFacts::GameMoney, desk.DbName, desk.state.TableName, desk.state.mode, desk.chart},
+                "Lotto", text);
     desk.list.AddItem(text);
 }
 void ReportsFrequency(Desk& desk) {

@@ -53,7 +53,7 @@ class Program final : public Dialogs {
     }
     void CleanUp(const char* table, int day) {
         const StoreArgs at = At(table, day);
-        DeleteRowsForDate(session_, at.DbName, at.TableName, at.WindowDate);
+        DeleteRowsForDate(session_, at.Table(), at.WindowDate);
     }
     // All seven numbers are `first` and the six behind it.
     void Check(int day, int first) {

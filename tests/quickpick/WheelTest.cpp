@@ -53,8 +53,8 @@ struct WheelWorld : World {
         HowManyToWheel = howMany;
         global.WheelSize = size;
         global.NoOfTickets = tickets;
-        CreateTempTable(session, db, "Temp", PrimaryFieldName, DateFieldName);
-        CreateWin6Table(session, db, "WinLottario", PrimaryFieldName, DateFieldName);
+        CreateTempTable(session, {db, "Temp"}, PrimaryFieldName, DateFieldName);
+        CreateWin6Table(session, {db, "WinLottario"}, PrimaryFieldName, DateFieldName);
     }
     void AddDraws(int draws, const std::string& numbers) {
         const int first = std::stoi(Plain().One("SELECT count(*) + 1 FROM WinLottario"));

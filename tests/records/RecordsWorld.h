@@ -63,7 +63,7 @@ class RecordsWorld : public ::testing::Test {
         if (!std::filesystem::exists(File())) world.WithDatabase();
         const Records::Table* known = Records::FindTable(table);
         ASSERT_NE(known, nullptr) << table;
-        (*known->creator)(world.run, world.DbName(), known->name, PrimaryFieldName, DateFieldName);
+        (*known->creator)(world.session, {world.DbName(), known->name}, PrimaryFieldName, DateFieldName);
     }
     // Every row of every table, as plain SQLite tells them.
     std::vector<std::string> AllRows() const {

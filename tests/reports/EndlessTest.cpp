@@ -119,16 +119,16 @@ TEST(EndlessPaddingTest, ANetLossOfAMillionFits) { Write("1000000", "0"); }
 TEST(EndlessPaddingTest, ARowInParenthesesNeverEndsFromTenMillionUpwards) {
     ReportWorld world("BC49");
     world.Spent({{"BC49", "2026-01-02", "-9999999.99"}});
-    SumSpent(world.session, world.DbName(), "Spent", world.chart, ReportMode);
+    SumSpent(world.session, {world.DbName(), "Spent"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.SpentLines(0), "2026-01-02              $(9,999,999.99)\r\n");
     world.Plain().Do("UPDATE Spent SET Spent = -10000000");
-    EXPECT_NEVER_ENDS(SumSpent(world.session, world.DbName(), "Spent", world.chart, ReportMode));
+    EXPECT_NEVER_ENDS(SumSpent(world.session, {world.DbName(), "Spent"}, world.chart, ReportMode));
 }
 
 TEST(EndlessPaddingTest, ASumOnTheChartNeverEndsEither) {
     ReportWorld world("BC49");
     world.Winnings({{"BC49", "2026-01-02", "1000000000"}});
-    EXPECT_NEVER_ENDS(SumWon(world.session, world.DbName(), "Winnings", world.chart, ChartMode));
+    EXPECT_NEVER_ENDS(SumWon(world.session, {world.DbName(), "Winnings"}, world.chart, ChartMode));
 }
 
 // Each way to the endless padding: rows and sums of one game, and of all games, whose winnings are read
@@ -142,8 +142,8 @@ TEST(EndlessPaddingTest, HoldsNoLockOnTheFileMeanwhile) {
                 world.Spent({{"BC49", "2026-01-02", "-1000000000"}});
                 world.Winnings({{"BC49", "2026-01-02", "-1000000000"}});
                 Apart apart([&] {
-                    if (won) SumWon(world.session, world.DbName(), "Winnings", world.chart, mode);
-                    else SumSpent(world.session, world.DbName(), "Spent", world.chart, mode);
+                    if (won) SumWon(world.session, {world.DbName(), "Winnings"}, world.chart, mode);
+                    else SumSpent(world.session, {world.DbName(), "Spent"}, world.chart, mode);
                 });
                 ASSERT_TRUE(apart.ComesToRest());
                 world.Plain().Do("BEGIN EXCLUSIVE; DELETE FROM Spent; COMMIT");

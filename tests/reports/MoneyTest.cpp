@@ -19,14 +19,14 @@ using testing::ReportWorld;
 struct MoneyWorld : ReportWorld {
     using ReportWorld::ReportWorld;
     void Report(const MoneyWindow& window, std::string_view caption = {}) {
-        ReportMoney(session, window, db, TableName, mode, chart, caption, text);
+        ReportMoney(session, {window, db, TableName, mode, chart}, caption, text);
     }
     std::string ReportOf(const char* key, std::string_view caption) {
         global.LottoFlag = key;
         Report(GameMoney, caption);
         return text;
     }
-    void Chart(const MoneyWindow& window) { ChartMoney(session, window, db, TableName, mode, chart); }
+    void Chart(const MoneyWindow& window) { ChartMoney(session, {window, db, TableName, mode, chart}); }
     // The line of the report that begins so, without its beginning.
     std::string LineAfter(const std::string& beginning) const {
         const std::size_t at = text.find(beginning);
@@ -243,7 +243,7 @@ TEST(SumTest, ARowThatCannotBeReadEndsTheReadingAndLeavesItsLineEmpty) {
 TEST(SumTest, EqualDatesKeepTheOrderOfEntry) {
     MoneyWorld world("");
     world.Spent({{"b", "2026-01-02", "1"}, {"a", "2026-01-02", "2"}, {"c", "2026-01-01", "3"}});
-    SumSpent(world.session, world.db, "Spent", world.chart, ReportMode);
+    SumSpent(world.session, {world.db, "Spent"}, world.chart, ReportMode);
     const auto& lines = world.global.AllSpentLines;
     EXPECT_EQ(lines(0), "2026-01-01              $          3.00     c\r\n");
     EXPECT_EQ(lines(1), "2026-01-02              $          1.00     b\r\n");
@@ -256,8 +256,8 @@ TEST(SumTest, EqualDatesKeepTheOrderOfEntry) {
 TEST(SumTest, AKeyOfNoGameTakesEveryRow) {
     MoneyWorld world("Atlantis");
     world.BothLedgers();
-    SumSpent(world.session, world.db, "Spent", world.chart, ReportMode);
-    SumWon(world.session, world.db, "Winnings", world.chart, ReportMode);
+    SumSpent(world.session, {world.db, "Spent"}, world.chart, ReportMode);
+    SumWon(world.session, {world.db, "Winnings"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.SpentRows, 7);
     EXPECT_EQ(world.global.WonRows, 5);
 }
@@ -275,8 +275,8 @@ TEST(SumTest, EachOfTheTwentyOneKeysTakesItsOwnRows) {
     world.Winnings(rows);
     for (std::size_t i = 0; i < keys.size(); ++i) {
         world.global.LottoFlag = keys[i];
-        SumSpent(world.session, world.db, "Spent", world.chart, ReportMode);
-        SumWon(world.session, world.db, "Winnings", world.chart, ReportMode);
+        SumSpent(world.session, {world.db, "Spent"}, world.chart, ReportMode);
+        SumWon(world.session, {world.db, "Winnings"}, world.chart, ReportMode);
         const Currency expected = Currency::FromInt(static_cast<std::int64_t>(i) + 1);
         EXPECT_EQ(world.global.TotalSpent, expected) << keys[i];
         EXPECT_EQ(world.global.TotalWon, expected) << keys[i];
@@ -287,10 +287,10 @@ TEST(SumTest, AllWinningsAreReadFromTheTableOfTheCallersName) {
     MoneyWorld world("");
     world.Winnings({});
     world.Ledger(CreateWinningsTable, "Elsewhere", {{"BC49", "2026-01-01", "8"}});
-    SumWon(world.session, world.db, "Elsewhere", world.chart, ReportMode);
+    SumWon(world.session, {world.db, "Elsewhere"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.TotalWon, Currency::FromInt(8));
     world.global.LottoFlag = "BC49";
-    SumWon(world.session, world.db, "Elsewhere", world.chart, ReportMode);
+    SumWon(world.session, {world.db, "Elsewhere"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.WonRows, 0);
 }
 
@@ -310,12 +310,12 @@ TEST(SumTest, MoreThan32767RowsOfALedgerAreAnOverflow) {
         const std::string insert = "INSERT INTO " + std::string(ledger.table);
         world.Plain().Do("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 32767) " +
                          insert + " SELECT i, 'BC49', 46000, 1 FROM n");
-        ledger.sum(world.session, world.db, ledger.table, world.chart, ReportMode);
+        ledger.sum(world.session, {world.db, ledger.table}, world.chart, ReportMode);
         EXPECT_EQ(ledger.rows, 32'767);
         EXPECT_EQ(ledger.total, Currency::FromInt(32'767));
         world.Plain().Do(insert + " VALUES (32768, 'BC49', 46000, 1)");
         world.ExpectUnexpected(6);
-        ledger.sum(world.session, world.db, ledger.table, world.chart, ReportMode);
+        ledger.sum(world.session, {world.db, ledger.table}, world.chart, ReportMode);
         EXPECT_EQ(ledger.rows, 32'767);
         world.ExpectAllClosed();
     }
@@ -391,7 +391,7 @@ TEST(MoneyChartTest, AReportWithRowsDrawsNothing) {
 TEST(MoneyChartTest, AnyOtherModeCountsTheRowsAndDoesNoMore) {
     MoneyWorld world("Lotto649");
     world.BothLedgers();
-    SumSpent(world.session, world.db, "Spent", world.chart, 2);
+    SumSpent(world.session, {world.db, "Spent"}, world.chart, 2);
     EXPECT_EQ(world.global.SpentRows, 3);
     EXPECT_FALSE(world.global.SpentLines.Sized());
     EXPECT_TRUE(world.chart.calls.empty());

@@ -38,7 +38,7 @@ struct ReportWorld : World {
     }
 
     void Make(const Creator& creator, const std::string& table) {
-        creator(session, DbName(), table, PrimaryFieldName, DateFieldName);
+        creator(session, {DbName(), table}, PrimaryFieldName, DateFieldName);
     }
     // Adds draws to a win table; `head` is what stands between the key and the numbers: the date, or with the
     // game's key before or behind it.

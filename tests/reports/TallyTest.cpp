@@ -32,7 +32,7 @@ Draw FirstNumbers(int count) {
 TEST(SixNumberTallyTest, TheChartGetsARowForEachNumberOfTheGame) {
     ReportWorld world("Lotto649");
     world.SixDraws("WinLotto649", TwoSixDraws);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ChartMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ChartMode);
     ASSERT_EQ(world.chart.cells.size(), 49U);
     EXPECT_EQ((world.chart.cells[{1, 1}]), "2");
     EXPECT_EQ((world.chart.cells[{2, 1}]), "1");
@@ -47,7 +47,7 @@ TEST(SixNumberTallyTest, TheChartGetsARowForEachNumberOfTheGame) {
 TEST(SixNumberTallyTest, TheReportFillsNumbersAndFavouritesWithASpareSlot) {
     ReportWorld world("Lotto649");
     world.SixDraws("WinLotto649", TwoSixDraws);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
     Global& g = world.global;
     ASSERT_EQ(g.Numbers.UBound(), 49);
     ASSERT_EQ(g.Favourites.UBound(), 49);
@@ -61,7 +61,7 @@ TEST(SixNumberTallyTest, TheReportFillsNumbersAndFavouritesWithASpareSlot) {
 TEST(SixNumberTallyTest, ABonusNumberCountsLikeTheOthersSoThatADrawCountsSeven) {
     ReportWorld world("Lotto649");
     world.SixDraws("WinLotto649", {TwoSixDraws.front()});
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
     const std::vector<int> counts = world.Counted();
     EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), 7);
     EXPECT_EQ(world.global.Numbers(48), 1);
@@ -70,12 +70,12 @@ TEST(SixNumberTallyTest, ABonusNumberCountsLikeTheOthersSoThatADrawCountsSeven) 
 TEST(SixNumberTallyTest, LottarioHasFortyFiveNumbersAndNoSpareSlot) {
     ReportWorld world("Lottario");
     world.SixDraws("WinLottario", TwoLottarioDraws);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.Numbers.UBound(), 44);
     EXPECT_EQ(world.global.Favourites.UBound(), 44);
     EXPECT_EQ(world.global.Numbers(44), 2);
     EXPECT_FALSE(world.global.BallFrequency.Sized());
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ChartMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ChartMode);
     EXPECT_EQ(world.chart.cells.size(), 45U);
 }
 
@@ -83,10 +83,10 @@ TEST(SixNumberTallyTest, WhileGeneratingTheWheelOfLottarioGetsItsFrequenciesAndN
     ReportWorld world("Lottario");
     world.SixDraws("WinLottario", TwoLottarioDraws);
     world.global.Generating = true;
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ChartMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ChartMode);
     EXPECT_TRUE(world.chart.calls.empty());
     EXPECT_FALSE(world.global.BallFrequency.Sized());
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ReportMode);
     ASSERT_EQ(world.global.BallFrequency.UBound(), 44);
     EXPECT_EQ(world.global.BallFrequency(0), 2);
     EXPECT_EQ(world.global.BallFrequency(6), 0);
@@ -96,7 +96,7 @@ TEST(SixNumberTallyTest, WhileGeneratingAnotherGameFillsNoFrequenciesForAWheel) 
     ReportWorld world("BC49");
     world.SixDraws("WinBC49", TwoSixDraws);
     world.global.Generating = true;
-    TallySixNumberFrequency(world.session, world.DbName(), "WinBC49", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinBC49"}, world.chart, ReportMode);
     EXPECT_FALSE(world.global.BallFrequency.Sized());
     EXPECT_EQ(world.global.Numbers(0), 2);
 }
@@ -104,7 +104,7 @@ TEST(SixNumberTallyTest, WhileGeneratingAnotherGameFillsNoFrequenciesForAWheel) 
 TEST(SixNumberTallyTest, AZeroInADrawCountsInASlotThatNobodySees) {
     ReportWorld world("Lotto649");
     world.SixDraws("WinLotto649", {{0, 2, 3, 4, 5, 6, 7}});
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
     const std::vector<int> counts = world.Counted();
     EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), 6);
 }
@@ -114,7 +114,7 @@ TEST(TallyTest, ATableWithoutDrawsSaysSoAndLeavesChartAndArraysAlone) {
         ReportWorld world("Lotto649");
         world.SixDraws("WinLotto649", {});
         world.ExpectBox(NoDrawsText);
-        TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, mode);
+        TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, mode);
         EXPECT_TRUE(world.chart.calls.empty());
         EXPECT_FALSE(world.global.Numbers.Sized());
         world.ExpectAllClosed();
@@ -124,7 +124,7 @@ TEST(TallyTest, ATableWithoutDrawsSaysSoAndLeavesChartAndArraysAlone) {
 TEST(TallyTest, AMissingTableIsNamedInTheBox) {
     ReportWorld world("ONTKeno");
     world.ExpectStoreError(3011, "Unable to open WinONTKeno table. Please advise error number to support.");
-    TallyKenoFrequency(world.session, world.DbName(), "WinONTKeno", world.chart, ChartMode);
+    TallyKenoFrequency(world.session, {world.DbName(), "WinONTKeno"}, world.chart, ChartMode);
     world.ExpectAllClosed();
 }
 
@@ -133,7 +133,7 @@ TEST(TallyTest, ANumberBeyondTheGameEndsTheTallyWithItsBox) {
         ReportWorld world("Lottario");
         world.SixDraws("WinLottario", {{1, 2, 3, 4, 5, 6, number}, {1, 2, 3, 4, 5, 6, 7}});
         world.ExpectUnexpected(9);
-        TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ReportMode);
+        TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ReportMode);
         EXPECT_FALSE(world.global.Numbers.Sized());
         world.ExpectAllClosed();
     }
@@ -144,14 +144,14 @@ TEST(TallyTest, AFieldNeverWrittenIsAnError) {
     world.SixDraws("WinLottario", {});
     world.Plain().Do("INSERT INTO WinLottario (ID1, Date) VALUES (1, 46000)");
     world.ExpectUnexpected(94);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLottario", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLottario"}, world.chart, ReportMode);
     world.ExpectAllClosed();
 }
 
 TEST(TallyTest, AnyOtherModeGivesNothing) {
     ReportWorld world("Lotto649");
     world.SixDraws("WinLotto649", TwoSixDraws);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, OtherMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, OtherMode);
     EXPECT_TRUE(world.chart.calls.empty());
     EXPECT_FALSE(world.global.Numbers.Sized());
 }
@@ -164,18 +164,18 @@ TEST(TallyTest, MoreThan32767RowsAreCountedButOneNumberSoOftenIsAnOverflow) {
         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 40000) "
         "INSERT INTO WinLotto649 SELECT i, 46000, i % 7 + 1, i % 7 + 8, i % 7 + 15, i % 7 + 22, i % 7 + 29, "
         "i % 7 + 36, i % 7 + 43 FROM n");
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
     const std::vector<int> counts = world.Counted();
     EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), 280'000);
     world.Plain().Do("UPDATE WinLotto649 SET Ball_1 = 1 WHERE ID1 <= 32768");
     world.ExpectUnexpected(6);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
 }
 
 TEST(SevenNumberTallyTest, EightFieldsCountAndFortyNineNumbersAreKept) {
     ReportWorld world("Super 7");
     world.SevenDraws(TwoSevenDraws);
-    TallySevenNumberFrequency(world.session, world.DbName(), "WinSuper7", world.chart, ReportMode);
+    TallySevenNumberFrequency(world.session, {world.DbName(), "WinSuper7"}, world.chart, ReportMode);
     ASSERT_EQ(world.global.Numbers.UBound(), 49);
     const std::vector<int> counts = world.Counted();
     EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), 16);
@@ -183,7 +183,7 @@ TEST(SevenNumberTallyTest, EightFieldsCountAndFortyNineNumbersAreKept) {
     EXPECT_EQ(counts[47], 1);
     EXPECT_EQ(counts[48], 1);
     EXPECT_FALSE(world.global.Favourites.Sized());
-    TallySevenNumberFrequency(world.session, world.DbName(), "WinSuper7", world.chart, ChartMode);
+    TallySevenNumberFrequency(world.session, {world.DbName(), "WinSuper7"}, world.chart, ChartMode);
     EXPECT_EQ(world.chart.cells.size(), 49U);
 }
 
@@ -192,7 +192,7 @@ TEST(SevenNumberTallyTest, NumbersIsSizedBeforeAnythingElse) {
         ReportWorld world("Super 7");
         world.ExpectStoreError(3011,
                                "Unable to open WinSuper7 table. Please advise error number to support.");
-        TallySevenNumberFrequency(world.session, world.DbName(), "WinSuper7", world.chart, mode);
+        TallySevenNumberFrequency(world.session, {world.DbName(), "WinSuper7"}, world.chart, mode);
         EXPECT_EQ(world.global.Numbers.UBound(), 49);
     }
 }
@@ -201,7 +201,7 @@ TEST(SevenNumberTallyTest, ForAnotherKeyNumbersIsNotSized) {
     ReportWorld world("super 7");
     world.SevenDraws(TwoSevenDraws);
     world.ExpectUnexpected(9);
-    TallySevenNumberFrequency(world.session, world.DbName(), "WinSuper7", world.chart, ReportMode);
+    TallySevenNumberFrequency(world.session, {world.DbName(), "WinSuper7"}, world.chart, ReportMode);
     EXPECT_FALSE(world.global.Numbers.Sized());
 }
 
@@ -220,15 +220,15 @@ TEST(KenoTallyTest, TwentyNumbersCountWithinTheRangeOfTheGame) {
         draw.back() = game.top;
         world.KenoDraws(game.table, {draw});
         world.global.Numbers.Redim(game.top);
-        TallyKenoFrequency(world.session, world.DbName(), game.table, world.chart, ReportMode);
+        TallyKenoFrequency(world.session, {world.DbName(), game.table}, world.chart, ReportMode);
         const std::vector<int> counts = world.Counted();
         EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), 0), 20);
         EXPECT_EQ(world.global.Numbers(game.top - 1), 1);
-        TallyKenoFrequency(world.session, world.DbName(), game.table, world.chart, ChartMode);
+        TallyKenoFrequency(world.session, {world.DbName(), game.table}, world.chart, ChartMode);
         EXPECT_EQ(static_cast<int>(world.chart.cells.size()), game.top);
         world.AddDraws(game.table, "46001, 'key'", {Draw(20, game.top + 1)});
         world.ExpectUnexpected(9);
-        TallyKenoFrequency(world.session, world.DbName(), game.table, world.chart, ChartMode);
+        TallyKenoFrequency(world.session, {world.DbName(), game.table}, world.chart, ChartMode);
     }
 }
 
@@ -236,14 +236,14 @@ TEST(KenoTallyTest, TheReportNeedsNumbersSizedByItsButton) {
     ReportWorld world("ONTKeno");
     world.KenoDraws("WinONTKeno", {FirstNumbers(20)});
     world.ExpectUnexpected(9);
-    TallyKenoFrequency(world.session, world.DbName(), "WinONTKeno", world.chart, ReportMode);
+    TallyKenoFrequency(world.session, {world.DbName(), "WinONTKeno"}, world.chart, ReportMode);
 }
 
 TEST(KenoTallyTest, AnUnknownGameHasNoTally) {
     ReportWorld world("Lotto649");
     world.KenoDraws("WinONTKeno", {FirstNumbers(20)});
     world.ExpectUnexpected(9);
-    TallyKenoFrequency(world.session, world.DbName(), "WinONTKeno", world.chart, ChartMode);
+    TallyKenoFrequency(world.session, {world.DbName(), "WinONTKeno"}, world.chart, ChartMode);
     EXPECT_TRUE(world.chart.calls.empty());
 }
 
@@ -275,20 +275,20 @@ TEST_F(RecountTest, SixSevenAndTwentyNumbersAreCountedAsAPlainLoopCountsThem) {
     ReportWorld world("Lotto649");
     const auto six = RandomDraws(1000, 7, 1, 49);
     world.SixDraws("WinLotto649", six);
-    TallySixNumberFrequency(world.session, world.DbName(), "WinLotto649", world.chart, ReportMode);
+    TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ReportMode);
     EXPECT_EQ(world.Counted(), Recount(six, 49, 50)) << "seed " << Seed;
 
     world.global.LottoFlag = "Super 7";
     const auto seven = RandomDraws(1000, 8, 1, 49);
     world.SevenDraws(seven);
-    TallySevenNumberFrequency(world.session, world.DbName(), "WinSuper7", world.chart, ReportMode);
+    TallySevenNumberFrequency(world.session, {world.DbName(), "WinSuper7"}, world.chart, ReportMode);
     EXPECT_EQ(world.Counted(), Recount(seven, 49, 50)) << "seed " << Seed;
 
     world.global.LottoFlag = "BCClubKeno";
     const auto keno = RandomDraws(500, 20, 1, 80);
     world.KenoDraws("WinBCClubKeno", keno);
     world.global.Numbers.Redim(79);
-    TallyKenoFrequency(world.session, world.DbName(), "WinBCClubKeno", world.chart, ReportMode);
+    TallyKenoFrequency(world.session, {world.DbName(), "WinBCClubKeno"}, world.chart, ReportMode);
     EXPECT_EQ(world.Counted(), Recount(keno, 80, 80)) << "seed " << Seed;
 }
 
@@ -303,7 +303,7 @@ TEST_F(RecountTest, DigitsByPositionAndGroupsAreCountedAsAPlainLoopCountsThem) {
             for (const int digit : draw) draws.back() += static_cast<char>('0' + digit);
         }
         world.DigitDraws(table, draws);
-        tally(world.session, world.DbName(), table, world.chart, ChartMode);
+        tally(world.session, {world.DbName(), table}, world.chart, ChartMode);
         for (int digit = 0; digit <= 9; ++digit)
             for (std::size_t position = 0; position < digits; ++position) {
                 const auto expected = std::count_if(draws.begin(), draws.end(), [&](const std::string& draw) {
@@ -321,7 +321,7 @@ TEST_F(RecountTest, DigitsByPositionAndGroupsAreCountedAsAPlainLoopCountsThem) {
              {Group{ReportTypes::TripleMatch, 0, 3}, Group{ReportTypes::FrontPairs, 0, 2},
               Group{ReportTypes::BackPairs, digits - 2, 2}}) {
             world.global.ReportType = group.type;
-            tally(world.session, world.DbName(), table, world.chart, ReportMode);
+            tally(world.session, {world.DbName(), table}, world.chart, ReportMode);
             std::vector<int> expected(1000);
             for (const std::string& draw : draws)
                 ++expected[static_cast<std::size_t>(std::stoi(draw.substr(group.from, group.count)))];
@@ -335,7 +335,7 @@ TEST_F(RecountTest, DigitsByPositionAndGroupsAreCountedAsAPlainLoopCountsThem) {
 TEST(DigitTallyTest, TheChartSetsRowColumnAndDataForEachDigitAndPosition) {
     ReportWorld world("ONTPick3");
     world.DigitDraws("WinONTPick3", {"012", "909"});
-    TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ChartMode);
+    TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ChartMode);
     ASSERT_EQ(world.chart.cells.size(), 30U);
     EXPECT_EQ((world.chart.cells[{1, 1}]), "1");
     EXPECT_EQ((world.chart.cells[{1, 2}]), "1");
@@ -350,7 +350,7 @@ TEST(DigitTallyTest, CountsByPositionGoOnWhereTheyStoodUntilTheButtonZeroesThem)
     ReportWorld world("ONTPick3");
     world.DigitDraws("WinONTPick3", {"012"});
     for (int i = 0; i < 2; ++i)
-        TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ChartMode);
+        TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ChartMode);
     EXPECT_EQ(world.global.PositionCounts(0)(0), 2);
 }
 
@@ -360,12 +360,12 @@ TEST(DigitTallyTest, GroupCountsStartAnewAsTextsAndAPairHasTwoCharacters) {
     Global& g = world.global;
     g.ReportType = ReportTypes::BackPairs;
     for (int i = 0; i < 2; ++i)
-        TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ReportMode);
+        TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ReportMode);
     EXPECT_EQ(g.ComboCounts(12), " 3");
     EXPECT_EQ(g.ComboCounts(0), "0");
     EXPECT_EQ(g.ComboCounts(999), "0");
     g.ReportType = ReportTypes::TripleMatch;
-    TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ReportMode);
+    TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ReportMode);
     EXPECT_EQ(g.ComboCounts(12), "2");
     EXPECT_EQ(g.ComboCounts(912), "1");
     EXPECT_EQ(g.PositionCounts(0)(0), 0);
@@ -374,7 +374,7 @@ TEST(DigitTallyTest, GroupCountsStartAnewAsTextsAndAPairHasTwoCharacters) {
 TEST(DigitTallyTest, WithoutATypeTheReportCountsNothing) {
     ReportWorld world("ONTPick3");
     world.DigitDraws("WinONTPick3", {"012"});
-    TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ReportMode);
+    TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ReportMode);
     EXPECT_EQ(world.global.ComboCounts(12), "0");
     EXPECT_EQ(world.global.PositionCounts(0)(0), 0);
     EXPECT_TRUE(world.chart.calls.empty());
@@ -384,7 +384,7 @@ TEST(DigitTallyTest, WithoutDrawsTheGroupsAreZeroAndTheBoxComes) {
     ReportWorld world("FLAPlay4");
     world.Make(CreateWinPick4Table, "WinFLAPlay4");
     world.ExpectBox(NoDrawsText);
-    TallyPick4Digits(world.session, world.DbName(), "WinFLAPlay4", world.chart, ChartMode);
+    TallyPick4Digits(world.session, {world.DbName(), "WinFLAPlay4"}, world.chart, ChartMode);
     EXPECT_EQ(world.global.ComboCounts(999), "0");
     EXPECT_TRUE(world.chart.calls.empty());
 }
@@ -393,11 +393,11 @@ TEST(DigitTallyTest, ADigitThatIsNoneIsPassedOverByPositionAndAnErrorInAGroup) {
     ReportWorld world("ONTPick3");
     world.DigitDraws("WinONTPick3", {});
     world.AddDraws("WinONTPick3", "'key', 46000", {{12, 0, 0}});
-    TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ChartMode);
+    TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ChartMode);
     EXPECT_EQ((world.chart.cells[{1, 2}]), "1");
     world.global.ReportType = ReportTypes::TripleMatch;
     world.ExpectUnexpected(9);
-    TallyPick3Digits(world.session, world.DbName(), "WinONTPick3", world.chart, ReportMode);
+    TallyPick3Digits(world.session, {world.DbName(), "WinONTPick3"}, world.chart, ReportMode);
     world.ExpectAllClosed();
 }
 
@@ -408,7 +408,7 @@ TEST(TallyByGameShapeTest, TheShapeChoosesTheTally) {
     world.KenoDraws("WinONTKeno", {FirstNumbers(20)});
     const auto charted = [&](int shape, const std::string& table) {
         world.chart = RecordingChart();
-        TallyByGameShape(world.session, shape, world.DbName(), table, world.chart, ChartMode);
+        TallyByGameShape(world.session, shape, {world.DbName(), table}, world.chart, ChartMode);
         return world.chart.cells.size();
     };
     EXPECT_EQ(charted(6, "WinLotto649"), 49U);
@@ -425,21 +425,21 @@ TEST(TallyByGameShapeTest, TheShapeChoosesTheTally) {
 TEST(CountDrawRowsTest, RowsAreCountedUpTo32767) {
     ReportWorld world("Lottario");
     world.SixDraws("WinLottario", TwoLottarioDraws);
-    EXPECT_EQ(CountDrawRows(world.session, world.DbName(), "WinLottario"), 2);
+    EXPECT_EQ(CountDrawRows(world.session, {world.DbName(), "WinLottario"}), 2);
     world.Plain().Do(
         "WITH RECURSIVE n(i) AS (SELECT 3 UNION ALL SELECT i + 1 FROM n WHERE i < 32767) "
         "INSERT INTO WinLottario (ID1, Date) SELECT i, 46000 FROM n");
-    EXPECT_EQ(CountDrawRows(world.session, world.DbName(), "WinLottario"), 32'767);
+    EXPECT_EQ(CountDrawRows(world.session, {world.DbName(), "WinLottario"}), 32'767);
     world.Plain().Do("INSERT INTO WinLottario (ID1, Date) VALUES (32768, 46000)");
     world.ExpectUnexpected(6);
-    EXPECT_EQ(CountDrawRows(world.session, world.DbName(), "WinLottario"), 0);
+    EXPECT_EQ(CountDrawRows(world.session, {world.DbName(), "WinLottario"}), 0);
     world.ExpectAllClosed();
 }
 
 TEST(CountDrawRowsTest, AMissingTableCountsNothingAndShowsItsBox) {
     ReportWorld world("Lottario");
     world.ExpectStoreError(3011, "Unable to open WinLottario table. Please advise error number to support.");
-    EXPECT_EQ(CountDrawRows(world.session, world.DbName(), "WinLottario"), 0);
+    EXPECT_EQ(CountDrawRows(world.session, {world.DbName(), "WinLottario"}), 0);
 }
 
 }  // namespace

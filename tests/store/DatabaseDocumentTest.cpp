@@ -94,7 +94,7 @@ class DatabaseDocument : public ::testing::Test {
             {"WinEncore", &CreateWinAddOnTable},
             {"Temp", &CreateTempTable},
         };
-        for (const auto& [name, create] : tables) (*create)(session, path(), name, "ID1", "Date");
+        for (const auto& [name, create] : tables) (*create)(session, {path(), name}, "ID1", "Date");
     }
     std::string path() const { return DatabasePath(global.AppPath); }
 

@@ -24,7 +24,7 @@ class LedgerTest : public ::testing::Test {
         g.LottoFlag = "Lotto649";
     }
     void Make(const Creator& creator, const std::string& table) {
-        creator(world.session, world.DbName(), table, PrimaryFieldName, DateFieldName);
+        creator(world.session, {world.DbName(), table}, PrimaryFieldName, DateFieldName);
     }
     void Record(std::string_view table, std::string_view amount) {
         std::string TableName(table);

@@ -22,7 +22,7 @@ using Names = std::vector<std::string>;
 constexpr std::string_view Unexpected = "Unexpected error occurred. Please advise error number to support.";
 
 void Make(World& world, const Creator& creator, const std::string& table) {
-    creator(world.session, world.DbName(), table, PrimaryFieldName, DateFieldName);
+    creator(world.session, {world.DbName(), table}, PrimaryFieldName, DateFieldName);
 }
 
 Names Columns(PlainFile& file, const std::string& table) {
@@ -85,10 +85,10 @@ TEST(ProbeTableTest, TellsWhetherATableIsThereAndIsSilentAboutAMissingOne) {
     World world;
     world.WithDatabase();
     world.global.TableOpened = On;
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     EXPECT_EQ(world.global.TableOpened, 0);
     Make(world, CreateSpentTable, "Spent");
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.global.Open.DbOpen, 0);
     EXPECT_EQ(world.global.Open.RsOpen, 0);
@@ -97,7 +97,7 @@ TEST(ProbeTableTest, TellsWhetherATableIsThereAndIsSilentAboutAMissingOne) {
 TEST(ProbeTableTest, AnyOtherErrorShowsTheGeneralBox) {
     World world;
     world.ExpectUnexpected(3024);
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     EXPECT_EQ(world.global.TableOpened, 0);
 }
 
@@ -107,10 +107,10 @@ TEST(ProbeTableTest, AFolderInThePlaceOfTheJournalIsADiskError) {
     Make(world, CreateSpentTable, "Spent");
     fs::create_directory(world.DbName() + "-journal");
     world.ExpectUnexpected(3043);
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     EXPECT_EQ(world.global.TableOpened, 0);
     fs::remove(world.DbName() + "-journal");
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     EXPECT_EQ(world.global.TableOpened, 1);
 }
 
@@ -119,7 +119,7 @@ TEST(ProbeTableTest, AFileOfOneByteIsNoDatabaseAndStaysAsItIs) {
     world.WithDatabase();
     { std::ofstream(world.DbName(), std::ios::trunc) << 'x'; }
     world.ExpectUnexpected(3343);
-    ProbeTable(world.session, world.DbName(), "Spent");
+    ProbeTable(world.session, {world.DbName(), "Spent"});
     CheckDatabaseExists(world.session, world.DbName());
     EXPECT_EQ(fs::file_size(world.DbName()), 1u);
 }
@@ -146,7 +146,7 @@ TEST(CheckDatabaseExistsTest, APathOfFiveHundredCharactersIsTakenAndALongerOneIs
         if (!taken) world.ExpectUnexpected(3051);
         CheckDatabaseExists(world.session, world.DbName());
         if (!taken) world.ExpectUnexpected(3024);
-        ProbeTable(world.session, world.DbName(), "Spent");
+        ProbeTable(world.session, {world.DbName(), "Spent"});
         EXPECT_EQ(fs::exists(world.DbName()), taken);
     }
 }
@@ -155,7 +155,7 @@ TEST(ProbingLoopTest, CreatesAMissingTableSilently) {
     World world;
     world.WithDatabase();
     std::string table = "Spent";
-    MakeSureOf(world.session, world.DbName(), table, [&] { Make(world, CreateSpentTable, table); });
+    MakeSureOf(world.session, {world.DbName(), table}, [&] { Make(world, CreateSpentTable, table); });
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
 }
@@ -176,7 +176,7 @@ TEST(ProbingLoopTest, ADamagedFileGivesBothBoxesOnceAPassUntilTheCauseIsGone) {
     }
     std::string table = "Spent";
     int passes = 0;
-    MakeSureOf(world.session, world.DbName(), table, [&] {
+    MakeSureOf(world.session, {world.DbName(), table}, [&] {
         ++passes;
         Make(world, CreateSpentTable, table);
     });
@@ -288,7 +288,7 @@ TEST(CreateIndexTest, HasOneSentenceForEveryErrorAndLeavesTheTableWithoutItsInde
     // A table without the second field: it stands, the loop that made it ends, its index is missing.
     world.ExpectStoreError(3265, " Unable to create index. Please advise error number to support.");
     world.global.TableOpened = Off;
-    CreateSpentTable(world.session, world.DbName(), "Spent", PrimaryFieldName, "Day");
+    CreateSpentTable(world.session, {world.DbName(), "Spent"}, PrimaryFieldName, "Day");
     EXPECT_EQ(world.global.TableOpened, 1);
     EXPECT_EQ(world.Plain().Tables(), Names{"Spent"});
 }
@@ -419,14 +419,14 @@ class DeletionTest : public ::testing::Test {
 };
 
 TEST_F(DeletionTest, AnEmptyTableStaysAsItIsWithoutAnError) {
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
-    DeleteAllRows(world.session, world.DbName(), "PlayedEncore");
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, monday);
+    DeleteAllRows(world.session, {world.DbName(), "PlayedEncore"});
     EXPECT_TRUE(Left().empty());
 }
 
 TEST_F(DeletionTest, ADateWithoutRowsDeletesNothing) {
     Put(1, "Lotto649", tuesday);
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, monday);
     EXPECT_EQ(Left(), Names{"1"});
 }
 
@@ -435,7 +435,7 @@ TEST_F(DeletionTest, AllRowsOfTheDateGoWhicheverGameTheyCarry) {
     Put(2, "Super 7", tuesday);
     Put(3, "Super 7", monday);
     Put(4, "Lottario", monday);
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, monday);
     EXPECT_EQ(Left(), Names{"2"});
 }
 
@@ -443,7 +443,7 @@ TEST_F(DeletionTest, TheLastRowsOfTheTableCanBelongToTheDate) {
     Put(1, "Lotto649", monday);
     Put(2, "Lotto649", tuesday);
     Put(3, "Lotto649", tuesday);
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", tuesday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, tuesday);
     EXPECT_EQ(Left(), Names{"1"});
     EXPECT_EQ(world.global.Open.RsOpen, 0);
     EXPECT_EQ(world.global.Open.DbOpen, 0);
@@ -451,16 +451,16 @@ TEST_F(DeletionTest, TheLastRowsOfTheTableCanBelongToTheDate) {
 
 TEST_F(DeletionTest, AllRowsGo) {
     for (int key = 1; key <= 5; ++key) Put(key, "Lotto649", key % 2 ? monday : tuesday);
-    DeleteAllRows(world.session, world.DbName(), "PlayedEncore");
+    DeleteAllRows(world.session, {world.DbName(), "PlayedEncore"});
     EXPECT_TRUE(Left().empty());
 }
 
 TEST_F(DeletionTest, AMissingTableIsNamed) {
     constexpr auto sentence = "Unable to open PlayedTag table. Please advise error number to support.";
     world.ExpectStoreError(3011, sentence);
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedTag", monday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedTag"}, monday);
     world.ExpectStoreError(3011, sentence);
-    DeleteAllRows(world.session, world.DbName(), "PlayedTag");
+    DeleteAllRows(world.session, {world.DbName(), "PlayedTag"});
 }
 
 TEST_F(DeletionTest, MoreRowsThanSixteenBitsHoldAreAnOverflowWhenADateIsCleaned) {
@@ -469,7 +469,7 @@ TEST_F(DeletionTest, MoreRowsThanSixteenBitsHoldAreAnOverflowWhenADateIsCleaned)
         "PlayedEncore (ID1, Lottoflag, Date) SELECT i, 'Lotto649', " +
         std::to_string(monday.Day()) + " FROM n");
     world.ExpectUnexpected(6);
-    DeleteRowsForDate(world.session, world.DbName(), "PlayedEncore", monday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, monday);
     EXPECT_EQ(Left().size(), 32768u);
 }
 

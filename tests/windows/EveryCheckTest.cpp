@@ -145,7 +145,7 @@ TEST_F(EveryCheck, WithoutATicketForTheDateNothingIsStored) {
     }
     Show(Family::frmKeno80, "PrairieKeno", "");
     std::string played = "PlayedPrairieKeno";
-    CreatePlayedKenoTable(session, Window().State.DbName, played, "ID1", "Date");
+    CreatePlayedKenoTable(session, {Window().State.DbName, played}, "ID1", "Date");
     Window().SSTab1.SetTab(Tab::Check);
     FillMain();
     ExpectMissing("No match for Draw Date selected. Please check the Draw Date and try again.");

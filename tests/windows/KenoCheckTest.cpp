@@ -63,7 +63,7 @@ TEST_F(KenoCheck, UpdateStatsOnlyEmptiesTheBoxesAndLeavesTheAddOnOpen) {
 TEST_F(KenoCheck, KenoEightyJudgesEvenUnderUpdateStatsOnlyAndBehindARefusal) {
     Show(Family::frmKeno80, "PrairieKeno", "");
     std::string table = "PlayedPrairieKeno";
-    CreatePlayedKenoTable(session, Window().State.DbName, table, "ID1", "Date");
+    CreatePlayedKenoTable(session, {Window().State.DbName, table}, "ID1", "Date");
     Do("INSERT INTO PlayedPrairieKeno (ID1, Date, Lottoflag, Ball_1, Ball_2, Wager, [# of Balls]) VALUES "
        "(1, " +
        Day() + ", 'PrairieKeno', 79, 80, 1, 2)");

@@ -101,7 +101,8 @@ bool CheckFlow::AddOnIsLongEnough() {
     if (StatOnly()) return true;
     if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
     if (ClearsEncoreListAtTest[family] && page_.lstEncorePlayed) page_.lstEncorePlayed->Clear();
-    if (FourTested[family] == FourTest::UnderExtra && g.ExtraFlag == "Extra") return FourAreFilled();
+    if (FourTested[family] == FourTest::UnderExtra && AddOnOf(g.ExtraFlag).FourNumbers)
+        return FourAreFilled();
     if (Len(page_.txtWinEncore->Text()) >= AddOnDigits(g.ExtraFlag)) return true;
     return Missing(TooShortText(family, g.ExtraFlag), TooShortTitle[family], *page_.txtWinEncore);
 }
@@ -119,9 +120,8 @@ void CheckFlow::StoreDraw() {
     Session& session = window_.session;
     if (const auto table = WinTable(window_.Which, session.global.LottoFlag)) state.TableName = *table;
     if (ProbesWin[window_.Which])
-        MakeSureOf(session, state.DbName, state.TableName, [&] {
-            CreateWinKenoTable(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
-        });
+        MakeSureOf(session, state.Table(),
+                   [&] { CreateWinKenoTable(session, state.Table(), PrimaryFieldName, DateFieldName); });
     Store[window_.Which](session, window_.At(), page_.Boxes());
 }
 
@@ -219,8 +219,8 @@ void CheckFlow::MakeSureOfTable() {
     WindowState& state = window_.State;
     const Creator& played = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayed6Table;
     const Creator& creator = state.TableName == "Winnings" ? CreateWinningsTable : played;
-    MakeSureOf(session, state.DbName, state.TableName,
-               [&] { creator(session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName); });
+    MakeSureOf(session, state.Table(),
+               [&] { creator(session, state.Table(), PrimaryFieldName, DateFieldName); });
 }
 
 }  // namespace sorvane

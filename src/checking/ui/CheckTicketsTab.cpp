@@ -9,6 +9,7 @@
 #include "forms/Keys.h"
 #include "forms/Look.h"
 #include "platform/Text.h"
+#include "shell/FamilyFacts.h"
 #include "shell/ui/GameFrame.h"
 
 namespace sorvane {
@@ -21,7 +22,7 @@ constexpr int BoxesARow = 10;
 
 // A value outside 1 to `top` shows `text`, empties the box and brings the focus back. An empty box passes.
 void GuardRange(GameFrame& window, forms::TextBox& box, int top, std::string_view text) {
-    if (top == 0 || box.Text().empty()) return;
+    if (text.empty() || box.Text().empty()) return;
     const double value = Val(box.Text());
     if (value >= 1 && value <= top) return;
     window.MsgBox(text, BoxStyle::Exclamation, RangeTitle);
@@ -37,8 +38,7 @@ void Follow(forms::ListBox& to, int row, forms::ListBox& other) {
 }
 
 bool IsWinner(std::string_view line) {
-    return line.starts_with("Congratulations") ||
-           (line.find(" won ") != std::string_view::npos && !line.starts_with("Sorry"));
+    return line.starts_with("Congratulations") || line.find(" won ") != std::string_view::npos;
 }
 
 // The last box of the lotto games, told from the others by a plus sign before it.
@@ -99,8 +99,9 @@ void CheckTicketsTab::MakeBoxes() {
 void CheckTicketsTab::AttachHandlers() {
     const Family family = window_.Which;
     txtWin.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin_KeyPress(Index, key); });
-    txtWin.OnLostFocus(
-        [this, family](int Index) { GuardRange(window_, txtWin(Index), Top[family], RangeText[family]); });
+    txtWin.OnLostFocus([this, family](int Index) {
+        GuardRange(window_, txtWin(Index), FamilyFacts::HighestNumber[family], RangeText[family]);
+    });
     txtWin4.OnKeyPress([this](int Index, forms::KeyPress& key) { txtWin4_KeyPress(Index, key); });
     txtWin4.OnLostFocus([this, family](int Index) {
         GuardRange(window_, txtWin4(Index), FourTop[family], FourRangeText[family]);

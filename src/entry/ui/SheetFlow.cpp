@@ -127,9 +127,8 @@ void SheetFlow::MakePlayedTable() {
     if (const auto table = PlayedTable(window_.Which, window_.session.global.LottoFlag))
         state.TableName = *table;
     const Creator& creator = IsKeno(window_.Which) ? CreatePlayedKenoTable : CreatePlayedPick4Table;
-    MakeSureOf(window_.session, state.DbName, state.TableName, [&] {
-        creator(window_.session, state.DbName, state.TableName, PrimaryFieldName, DateFieldName);
-    });
+    MakeSureOf(window_.session, state.Table(),
+               [&] { creator(window_.session, state.Table(), PrimaryFieldName, DateFieldName); });
 }
 
 void SheetFlow::NotSaved() {
@@ -216,11 +215,11 @@ void SheetFlow::OfferCleanUp(std::string_view title) {
             "in the Draw Date box above.)";
     if (window_.MsgBox(g.Msg, BoxStyle::YesNoCancel, title) != Answer::Yes) return;
     window_.NameTables();
-    DeleteRowsForDate(window_.session, state.DbName, state.TableName, state.SavedDate);
+    DeleteRowsForDate(window_.session, state.Table(), state.SavedDate);
     const AddOn* addOn = FindAddOn(g.ExtraFlag);
     if (addOn && Has(Cleans[window_.Which], g.ExtraFlag)) {
         state.TableName = addOn->Played;
-        DeleteRowsForDate(window_.session, state.DbName, state.TableName, state.SavedDate);
+        DeleteRowsForDate(window_.session, state.Table(), state.SavedDate);
     }
     window_.MsgBox("Database cleaned!", BoxStyle::Ok, "Database Cleaned");
 }

@@ -113,7 +113,7 @@ void ReportsTab::cmdProfitLoss_Click() {
     WindowState& state = window_.State;
     Show(mscProfitLoss);
     ChartCells cells(mscProfitLoss);
-    ChartMoney(window_.session, GameMoney, state.DbName, state.TableName, state.mode, cells);
+    ChartMoney(window_.session, {GameMoney, state.DbName, state.TableName, state.mode, cells});
     mscProfitLoss.SetHint(NoTicketsHint);
 }
 
@@ -123,7 +123,7 @@ void ReportsTab::cmdPLReport_Click() {
     Show(txtReport);
     ChartCells cells(mscProfitLoss);
     txtReport.Write([&](std::string& text) {
-        ReportMoney(window_.session, GameMoney, state.DbName, state.TableName, state.mode, cells,
+        ReportMoney(window_.session, {GameMoney, state.DbName, state.TableName, state.mode, cells},
                     window_.Caption(), text);
     });
 }

@@ -47,7 +47,7 @@ void frmReport::cmdProfitLoss_Click() {
     txtReport.SetVisible(false);
     mscProfitLoss.SetVisible(true);
     ChartCells cells(mscProfitLoss);
-    ChartMoney(session_, AllGamesMoney, DbName_, TableName_, mode_, cells);
+    ChartMoney(session_, {AllGamesMoney, DbName_, TableName_, mode_, cells});
     mscProfitLoss.SetHint(NoTicketsHint);
 }
 
@@ -56,7 +56,7 @@ void frmReport::cmdPLReport_Click() {
     txtReport.SetVisible(true);
     ChartCells cells(mscProfitLoss);
     txtReport.Write([&](std::string& text) {
-        ReportMoney(session_, AllGamesMoney, DbName_, TableName_, mode_, cells, Caption(), text);
+        ReportMoney(session_, {AllGamesMoney, DbName_, TableName_, mode_, cells}, Caption(), text);
     });
 }
 

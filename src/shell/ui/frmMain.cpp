@@ -111,8 +111,9 @@ void frmMain::Form_Load() {
     const std::string DbName = DatabasePath(session_.global.AppPath);
     CheckDatabaseExists(session_, DbName);
     const auto makeSureOf = [&](std::string TableName, auto create) {
-        MakeSureOf(session_, DbName, TableName,
-                   [&] { create(session_, DbName, TableName, PrimaryFieldName, DateFieldName); });
+        MakeSureOf(session_, {DbName, TableName}, [&] {
+            create(session_, {DbName, TableName}, PrimaryFieldName, DateFieldName);
+        });
     };
     makeSureOf("Spent", CreateSpentTable);
     makeSureOf("Winnings", CreateWinningsTable);

@@ -132,6 +132,8 @@ int DatabaseState::Write(Statement& statement) {
 }
 
 std::int64_t DatabaseState::DataVersion() {
+    constexpr std::int64_t VersionWhileAlone = -1;
+    if (Alone()) return VersionWhileAlone;
     if (!dataVersion_) dataVersion_ = Prepare("PRAGMA data_version");
     dataVersion_.Step();
     const std::int64_t version = dataVersion_.Int64(0);

@@ -89,6 +89,10 @@ class DatabaseState {
     int Write(Statement& statement);
     // Grows with every write through this connection, whatever came of it.
     std::int64_t Writes() const { return writes_; }
+    // Whether nobody else can write until the close.
+    bool Alone() const { return oneCommit_ && connection_.InTransaction(); }
+    // Number of the row added last.
+    std::int64_t AddedRow() const { return sqlite3_last_insert_rowid(connection_.Handle()); }
     // Another number after any other connection has committed.
     std::int64_t DataVersion();
 

@@ -182,7 +182,30 @@ void TableRecordset::MoveTo(Query end) {
 }
 
 void TableRecordset::MoveFirst() { MoveTo(Query::First); }
-void TableRecordset::MoveLast() { MoveTo(Query::Last); }
+
+void TableRecordset::MoveLast() {
+    if (MoveToAdded()) return;
+    end_.reset();
+    MoveTo(Query::Last);
+    NoteEnd();
+}
+
+// Sheets are saved row by row, with a move to the end before each. While nobody else can write, the end is
+// known from the row that was added last.
+bool TableRecordset::MoveToAdded() {
+    if (!end_ || end_->values.empty() || end_->writes != Database().Writes() || !Database().Alone())
+        return false;
+    pending_.reset();
+    Leave();
+    row_ = end_->row;
+    values_ = std::exchange(end_->values, {});
+    place_ = Place::Row;
+    return true;
+}
+
+void TableRecordset::NoteEnd() {
+    if (!Indexed() && Database().Alone()) end_ = End{row_, Database().Writes(), {}};
+}
 
 // Begins a walk behind the current row; with an index, among the rows of the same key.
 Statement& TableRecordset::Enter() {
@@ -268,9 +291,9 @@ void TableRecordset::Set(int ordinal, const Value& value) {
 
 void TableRecordset::AddNew() {
     Leave();
-    Pending pending{true, {}, std::vector<bool>(Columns().size(), true)};
-    for (const Column& column : Columns()) pending.values.push_back(Converted({}, column));
-    pending_ = std::move(pending);
+    if (blank_.empty())
+        for (const Column& column : Columns()) blank_.push_back(Converted({}, column));
+    pending_ = Pending{true, blank_, std::vector<bool>(Columns().size(), true)};
 }
 
 void TableRecordset::Edit() {
@@ -340,11 +363,20 @@ int TableRecordset::Write(Statement& statement, int added) {
     return changed;
 }
 
+// A new row is the last one when it has the number after that of the last, which may not be the largest there
+// is.
+void TableRecordset::Append() {
+    const bool behindEnd = end_ && end_->writes == Database().Writes() && Database().Alone();
+    Write(InsertOf(*pending_), 1);
+    if (!behindEnd || Database().AddedRow() != end_->row + 1) return end_.reset();
+    end_ = End{end_->row + 1, Database().Writes(), std::move(pending_->values)};
+}
+
 void TableRecordset::Update() {
     if (!pending_) Raise(ErrorNumber::UpdateWithoutEdit);
     RefuseNullKeys(*pending_);
     if (pending_->adding) {
-        Write(InsertOf(*pending_), 1);
+        Append();
     } else if (pending_->touched != std::vector<bool>(Columns().size(), false)) {
         Statement update = UpdateOf(*pending_);
         if (Write(update, 0) == 0) Raise(ErrorNumber::RecordDeleted);

@@ -65,6 +65,9 @@ class TableRecordset final : public RecordsetState {
     Statement UpdateOf(const Pending& pending);
     void RefuseNullKeys(const Pending& pending);
     int Write(Statement& statement, int added);
+    void NoteEnd();
+    void Append();
+    bool MoveToAdded();
 
     const std::string table_;
     std::string selected_;  // "SELECT rowid, fields FROM table"
@@ -83,6 +86,15 @@ class TableRecordset final : public RecordsetState {
     Statement* walk_ = nullptr;
     bool walksKey_ = false;  // through the rows of one key, or of a table without index
     std::optional<Pending> pending_;
+    std::vector<Value> blank_;  // the fields of a new row, once one was begun
+
+    // The last row of the table, as far as it is known without asking.
+    struct End {
+        std::int64_t row;
+        std::int64_t writes;        // of the database, when it was the last
+        std::vector<Value> values;  // of a row added here; else empty
+    };
+    std::optional<End> end_;
 
     std::optional<std::vector<int>> primary_;  // ordinals of the primary fields, once asked for
     std::optional<int> count_;
