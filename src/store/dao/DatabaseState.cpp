@@ -67,11 +67,22 @@ bool DatabaseState::Exists(std::string_view name) const {
 }
 
 std::vector<Column> DatabaseState::ColumnsOf(std::string_view table) const {
-    Statement list = Prepare("SELECT name, type FROM pragma_table_info(?1) ORDER BY cid");
-    list.Bind(1, std::string(table));
+    Statement list = Prepare("PRAGMA table_info(" + Quoted(table) + ")");
     std::vector<Column> columns;
-    while (list.Step()) columns.push_back(ColumnOf(list.Text(0), list.Text(1)));
+    while (list.Step()) columns.push_back(ColumnOf(list.Text(1), list.Text(2)));
     return columns;
+}
+
+std::vector<KeyIndex> DatabaseState::IndexesOf(std::string_view table) const {
+    Statement list = Prepare("PRAGMA index_list(" + Quoted(table) + ")");
+    std::vector<KeyIndex> indexes;
+    while (list.Step()) {
+        std::string name = list.Text(1);
+        Statement fields = Prepare("PRAGMA index_xinfo(" + Quoted(name) + ")");
+        fields.Step();
+        indexes.push_back({std::move(name), fields.Text(2), list.Int64(2) != 0, list.Int64(4) != 0});
+    }
+    return indexes;
 }
 
 int DatabaseState::CountOf(std::string_view table) const {

@@ -63,6 +63,14 @@ class RecordsetState {
     bool opened_ = false;
 };
 
+// An index of a table, as far as a recordset asks about it.
+struct KeyIndex {
+    std::string name;
+    std::string field;  // its first one; empty for an expression
+    bool unique;
+    bool partial;
+};
+
 class DatabaseState {
   public:
     DatabaseState(const std::string& path, const std::string& vfs, OpenFlags& flags);
@@ -79,6 +87,7 @@ class DatabaseState {
     // The table's name as it stands in the file. Views, virtual tables and SQLite's own don't exist.
     std::optional<std::string> FindTable(std::string_view name) const;
     std::vector<Column> ColumnsOf(std::string_view table) const;
+    std::vector<KeyIndex> IndexesOf(std::string_view table) const;
     int CountOf(std::string_view table) const;
     void Append(const TableDef& table);
     void AppendIndex(std::string_view table, std::string_view name, std::string_view field, bool primary);

@@ -178,14 +178,16 @@ void Connection::CheckCells(bool on) const noexcept {
 void Connection::CheckLength() {
     Statement schema = Prepare("SELECT count(*) FROM sqlite_schema");
     schema.Step();
-    Statement length = Prepare("SELECT page_count * page_size FROM pragma_page_count, pragma_page_size");
-    length.Step();
+    Statement pages = Prepare("PRAGMA page_count");
+    Statement bytesAPage = Prepare("PRAGMA page_size");
+    pages.Step();
+    bytesAPage.Step();
     sqlite3_file* file = nullptr;
     sqlite3_int64 bytes = 0;
     sqlite3_file_control(Handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
     const int result = file->pMethods->xFileSize(file, &bytes);
     if (result != SQLITE_OK) RaiseResult(result);
-    if (bytes < length.Int64(0)) Raise(ErrorNumber::NotADatabase);
+    if (bytes < pages.Int64(0) * bytesAPage.Int64(0)) Raise(ErrorNumber::NotADatabase);
 }
 
 }  // namespace sorvane::Dao

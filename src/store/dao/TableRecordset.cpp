@@ -1,5 +1,6 @@
 #include "store/dao/TableRecordset.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -142,18 +143,26 @@ bool TableRecordset::AtEOF() {
     return place_ == Place::Empty || place_ == Place::AtEnd;
 }
 
+// None for an expression, and for a field that is reckoned from others.
+std::optional<int> TableRecordset::FieldOf(const KeyIndex& index) const {
+    const auto at = std::find_if(Columns().begin(), Columns().end(),
+                                 [&](const Column& column) { return column.name == index.field; });
+    if (at == Columns().end()) return std::nullopt;
+    return static_cast<int>(at - Columns().begin());
+}
+
 void TableRecordset::Index(std::string_view name) {
     Leave();
     pending_.reset();
-    Statement find = Database().Prepare(
-        "SELECT i.name, t.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x, "
-        "pragma_table_info(?1) t "
-        "WHERE i.name = ?2 COLLATE NOCASE AND NOT i.partial AND x.seqno = 0 AND t.name = x.name");
-    find.Bind(1, table_);
-    find.Bind(2, IndexName(table_, name));
-    if (!find.Step()) Raise(ErrorNumber::IndexNotFound);
-    index_ = find.Text(0);
-    key_ = static_cast<int>(find.Int64(1));
+    const std::string wanted = IndexName(table_, name);
+    const auto indexes = Database().IndexesOf(table_);
+    const auto found = std::find_if(indexes.begin(), indexes.end(), [&](const KeyIndex& index) {
+        return sqlite3_stricmp(index.name.c_str(), wanted.c_str()) == 0 && !index.partial &&
+               FieldOf(index).has_value();
+    });
+    if (found == indexes.end()) Raise(ErrorNumber::IndexNotFound);
+    index_ = found->name;
+    key_ = *FieldOf(*found);
     statements_ = {};
     place_ = Place::Nowhere;
 }
@@ -339,13 +348,11 @@ Statement TableRecordset::UpdateOf(const Pending& pending) {
 void TableRecordset::RefuseNullKeys(const Pending& pending) {
     if (!primary_) {
         primary_.emplace();
-        Statement list = Database().Prepare(
-            "SELECT t.cid FROM pragma_index_list(?1) i, pragma_index_xinfo(i.name) x, "
-            "pragma_table_info(?1) t "
-            "WHERE i.\"unique\" AND substr(i.name, 1, length(?2)) = ?2 AND x.seqno = 0 AND t.name = x.name");
-        list.Bind(1, table_);
-        list.Bind(2, IndexName(table_, ""));
-        while (list.Step()) primary_->push_back(static_cast<int>(list.Int64(0)));
+        for (const KeyIndex& index : Database().IndexesOf(table_)) {
+            const auto field = FieldOf(index);
+            if (field && index.unique && index.name.starts_with(IndexName(table_, "")))
+                primary_->push_back(*field);
+        }
     }
     for (const int ordinal : *primary_) {
         if (pending.touched[At(ordinal)] && pending.values[At(ordinal)].IsNull())

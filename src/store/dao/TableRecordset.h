@@ -51,6 +51,7 @@ class TableRecordset final : public RecordsetState {
 
     bool Indexed() const { return key_ >= 0; }
     const Column& ColumnAt(int ordinal) const { return Columns()[static_cast<std::size_t>(ordinal)]; }
+    std::optional<int> FieldOf(const KeyIndex& index) const;
     void MoveTo(Query end);
     void Settle();
     void NeedRow();
