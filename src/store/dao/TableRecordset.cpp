@@ -163,6 +163,7 @@ void TableRecordset::Index(std::string_view name) {
     if (found == indexes.end()) Raise(ErrorNumber::IndexNotFound);
     index_ = found->name;
     key_ = *FieldOf(*found);
+    end_.reset();
     statements_ = {};
     place_ = Place::Nowhere;
 }
@@ -202,8 +203,7 @@ void TableRecordset::MoveLast() {
 // Sheets are saved row by row, with a move to the end before each. While nobody else can write, the end is
 // known from the row that was added last.
 bool TableRecordset::MoveToAdded() {
-    if (!end_ || end_->values.empty() || end_->writes != Database().Writes() || !Database().Alone())
-        return false;
+    if (!end_ || end_->values.empty() || end_->writes != Database().Writes()) return false;
     pending_.reset();
     Leave();
     row_ = end_->row;
@@ -373,9 +373,8 @@ int TableRecordset::Write(Statement& statement, int added) {
 // A new row is the last one when it has the number after that of the last, which may not be the largest there
 // is.
 void TableRecordset::Append() {
-    const bool behindEnd = end_ && end_->writes == Database().Writes() && Database().Alone();
     Write(InsertOf(*pending_), 1);
-    if (!behindEnd || Database().AddedRow() != end_->row + 1) return end_.reset();
+    if (!end_ || Database().AddedRow() != end_->row + 1) return end_.reset();
     end_ = End{end_->row + 1, Database().Writes(), std::move(pending_->values)};
 }
 

@@ -77,16 +77,23 @@ class Model {
     bool byDate_;
 };
 
-class Moves : public DaoWorld, public testing::WithParamInterface<bool> {
+struct Way {
+    std::string name;
+    bool byDate;
+    bool oneCommit;
+};
+
+class Moves : public DaoWorld, public testing::WithParamInterface<Way> {
   protected:
     static constexpr int Days = 6;  // few, so that many rows share one
 
     void SetUp() override {
         db_.emplace(CreateEvery());
-        rs_.emplace(db_->OpenTable("Every"));
-        if (GetParam()) rs_->Index("Date");
-        else ASSERT_TRUE(rs_->AtEOF());
         plain_.emplace(path_);
+        if (GetParam().oneCommit) db_->OneCommit();
+        rs_.emplace(db_->OpenTable("Every"));
+        if (GetParam().byDate) rs_->Index("Date");
+        else ASSERT_TRUE(rs_->AtEOF());
     }
 
     int Draw(int below) { return static_cast<int>(random_() % static_cast<unsigned>(below)); }
@@ -135,7 +142,7 @@ class Moves : public DaoWorld, public testing::WithParamInterface<bool> {
         Check(number);
     }
     void Seek() {
-        if (!GetParam()) return;
+        if (!GetParam().byDate) return;
         const int day = 1 + Draw(Days);
         rs_->Seek(day);
         model_.To(model_.WithDay(day), Model::Place::Nowhere);
@@ -183,26 +190,71 @@ class Moves : public DaoWorld, public testing::WithParamInterface<bool> {
         const int kind = Draw(3);
         if (kind == 0 || model_.rows.size() < 2 || which + 1 == model_.rows.size()) {
             const auto day = DrawDay();
-            plain_->Ask("INSERT INTO Every (ID1, Date) VALUES (" + std::to_string(++lastId_) + ", " +
-                        AsSql(day) + ")");
+            OtherInserts(++lastId_, day);
             model_.Insert(lastId_, day);
         } else if (kind == 1) {
-            plain_->Ask("DELETE FROM Every WHERE rowid = " + std::to_string(model_.rows[which].number));
+            OtherDeletes(model_.rows[which].id);
             model_.Erase(model_.rows[which].number);
         } else {
             model_.rows[which].day = DrawDay();
-            plain_->Ask("UPDATE Every SET Date = " + AsSql(model_.rows[which].day) +
-                        " WHERE rowid = " + std::to_string(model_.rows[which].number));
+            OtherUpdates(model_.rows[which].id, model_.rows[which].day);
         }
     }
 
+    // Somebody else is another program, or, while nobody else may write, another recordset of the same file.
+    void OtherInserts(int id, std::optional<int> day) {
+        if (!GetParam().oneCommit) {
+            plain_->Ask("INSERT INTO Every (ID1, Date) VALUES (" + std::to_string(id) + ", " + AsSql(day) +
+                        ")");
+            return;
+        }
+        Recordset other = db_->OpenTable("Every");
+        other.AddNew();
+        other[0] = id;
+        other[2] = AsValue(day);
+        other.Update();
+    }
+    void OtherDeletes(int id) {
+        if (GetParam().oneCommit) RowOf(id).Delete();
+        else plain_->Ask("DELETE FROM Every WHERE ID1 = " + std::to_string(id));
+    }
+    void OtherUpdates(int id, std::optional<int> day) {
+        if (!GetParam().oneCommit) {
+            plain_->Ask("UPDATE Every SET Date = " + AsSql(day) + " WHERE ID1 = " + std::to_string(id));
+            return;
+        }
+        Recordset other = RowOf(id);
+        other.Edit();
+        other[2] = AsValue(day);
+        other.Update();
+    }
+    Recordset RowOf(int id) {
+        Recordset other = db_->OpenTable("Every");
+        other.Index("ID1");
+        other.Seek(id);
+        return other;
+    }
+
     std::mt19937 random_{20261121};
-    Model model_{GetParam()};
+    Model model_{GetParam().byDate};
     std::optional<Database> db_;
     std::optional<Recordset> rs_;
     std::optional<PlainTool> plain_;
     int lastId_ = 0;
 };
+
+// As a sheet is saved.
+TEST_P(Moves, ToTheEndBeforeEachNewRowStayRight) {
+    for (int step = 0; step < 300 && !HasFailure(); ++step) {
+        SCOPED_TRACE("step " + std::to_string(step));
+        AddRow();
+        if (Draw(4) == 0) OtherWrites();
+        if (Draw(8) == 0) DeleteRow();
+        MoveToEnd(true);
+        if (Draw(4) == 0) EditRow();
+        EXPECT_EQ(rs_->RecordCount(), static_cast<int>(model_.rows.size()));
+    }
+}
 
 TEST_P(Moves, StayRightWhileRowsComeAndGo) {
     for (int step = 0; step < 6000 && !HasFailure(); ++step) {
@@ -241,8 +293,11 @@ TEST_P(Moves, StayRightWhileRowsComeAndGo) {
     EXPECT_GT(lastId_, 500);
 }
 
-INSTANTIATE_TEST_SUITE_P(WithAndWithoutIndex, Moves, testing::Bool(),
-                         [](const auto& test) { return test.param ? "ByDate" : "AsInserted"; });
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutIndex, Moves,
+                         testing::Values(Way{"AsInserted", false, false}, Way{"ByDate", true, false},
+                                         Way{"AsInsertedInOneCommit", false, true},
+                                         Way{"ByDateInOneCommit", true, true}),
+                         [](const auto& test) { return test.param.name; });
 
 }  // namespace
 }  // namespace sorvane::Dao

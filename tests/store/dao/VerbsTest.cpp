@@ -478,6 +478,32 @@ TEST_F(Verbs, OneCommitHoldsTheRowsBackUntilTheDatabaseCloses) {
     EXPECT_EQ(Plain().One("SELECT ID1 FROM Every"), "2");
 }
 
+TEST_F(Verbs, TheLastRowIsTheOneWithTheLargestNumberThoughARowWasAdded) {
+    CreateWithDays({10});
+    Plain().Ask("UPDATE Every SET rowid = 9223372036854775807");
+    Database db = Open();
+    db.OneCommit();
+    Recordset rs = db.OpenTable("Every");
+    for (int id = 2; id <= 4; ++id) {
+        rs.MoveLast();
+        Add(rs, id, 10);  // gets any free number
+        rs.MoveLast();
+        EXPECT_EQ(rs["ID1"].ToInt(), 1);
+    }
+}
+
+TEST_F(Verbs, AnIndexChosenBehindNewRowsDecidesWhichIsTheLast) {
+    CreateWithDays({30});
+    Database db = Open();
+    db.OneCommit();
+    Recordset rs = db.OpenTable("Every");
+    rs.MoveLast();
+    Add(rs, 2, 20);
+    rs.Index("Date");
+    rs.MoveLast();
+    EXPECT_EQ(rs["ID1"].ToInt(), 1);
+}
+
 TEST_F(Verbs, NobodyElseWritesFromOneCommitToTheClose) {
     CreateWithDays({10});
     PlainTool other(path_, 0);
