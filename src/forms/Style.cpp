@@ -212,6 +212,10 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
         element == CE_ShapedFrame && frame && frame->frameShape == QFrame::HLine)
         return painter->fillRect(QRect(frame->rect.left(), frame->rect.center().y(), frame->rect.width(), 1),
                                  Look::Separator(frame->palette));
+    if (const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        element == CE_MenuItem && entry && entry->menuItemType == QStyleOptionMenuItem::Separator)
+        return painter->fillRect(QRect(entry->rect.left(), entry->rect.center().y(), entry->rect.width(), 1),
+                                 Look::Separator(entry->palette));
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -25,6 +25,7 @@
 #include "forms/MultiLineBox.h"
 #include "forms/NumberBall.h"
 #include "forms/OptionButton.h"
+#include "forms/Rule.h"
 #include "forms/TabStrip.h"
 #include "forms/TextBox.h"
 #include "support/Palettes.h"
@@ -231,6 +232,19 @@ TEST_P(ContrastTest, OfMenusWithTheirDeadEntries) {
     EXPECT_LE(measured(dead).Contrast(), Paler * measured(live).Contrast());
     menu.setActiveAction(live);
     EXPECT_GE(measured(live).Contrast(), Text);
+}
+
+TEST_P(ContrastTest, OfTheLinesThatDivideAMenuAndADialog) {
+    QMenu menu;
+    menu.addAction("MMMMMM");
+    QAction* line = menu.addSeparator();
+    menu.addAction("MMMMMM");
+    menu.ensurePolished();
+    menu.resize(menu.sizeHint());
+    EXPECT_GE(Measured(menu, menu.actionGeometry(line).adjusted(3, 0, -3, 0)).Contrast(), Line);
+    Rule rule("linRule");
+    rule.resize(100, 9);
+    EXPECT_GE(Measured(rule, rule.rect()).Contrast(), Line);
 }
 
 // Whether each side of the rectangle has an outline that stands off the colour outside of it.

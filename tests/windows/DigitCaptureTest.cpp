@@ -479,6 +479,20 @@ TEST_F(DigitWindow, NoEmptiesTheWayWhileItsOptionStillLooksChosen) {
     EXPECT_EQ(Focus(), "txtNoOfTickets(0)");
 }
 
+TEST_F(DigitWindow, NoInTheEncorePhaseOpensTheListsAgain) {
+    Show("mnuCANONTPICK3");
+    OneSheet(1);
+    Put("txtNoOfExtra", "1");
+    PutDigits({1, 2, 3});
+    Click("cmdNext_Ticket");
+    person.Type("123456");
+    person.Tab();
+    EXPECT_FALSE(IsEnabled("cboNumber(0)"));
+    RefuseToSave();
+    for (const auto* list : {"cboNumber(0)", "cboNumber(1)", "cboNumber(2)"}) EXPECT_TRUE(IsEnabled(list));
+    EXPECT_EQ(CountOf("PlayedONTPick3"), "0");
+}
+
 TEST_F(DigitWindow, NoLeavesTheFourDigitWindowAsItIs) {
     Show("mnuUSFLAPlay4");
     OneSheet(1);

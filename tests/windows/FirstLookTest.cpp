@@ -123,6 +123,39 @@ TEST_F(FirstLook, ButtonsThatDoNothingSaySo) {
     }
 }
 
+TEST_F(FirstLook, TheReportButtonSaysThatAKenoOfEightyHasNoReport) {
+    Show(Family::frmKeno80, "PrairieKeno", "");
+    EXPECT_EQ(Find("cmdReport").toolTip(), "This button does nothing");
+    Show(Family::frmKeno70, "ONTKeno", "Encore");
+    EXPECT_EQ(Find("cmdReport").toolTip(), "");
+}
+
+TEST_F(FirstLook, TheEmptyListsOfACheckSayWhatComesIntoThem) {
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTSuper7", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
+        Show(menu);
+        person.ClickTab("&Check");
+        EXPECT_EQ(Find("lstEncorePlayed").accessibleDescription(), "Their add-on numbers") << menu;
+    }
+}
+
+// Who sees no colours tells the balls of the picture by their lightness.
+TEST(SplashPicture, BallsTwoAndFourDifferInLightness) {
+    QImage picture(":/pictures/splash.svg");
+    ASSERT_FALSE(picture.isNull());
+    const auto lightness = [&](QPoint ball) {
+        long sum = 0;
+        int pixels = 0;
+        for (int y = -28; y <= 28; ++y)
+            for (int x = -28; x <= 28; ++x)
+                if (x * x + y * y <= 28 * 28 && x * x + y * y >= 22 * 22) {
+                    sum += picture.pixelColor(ball + QPoint(x, y)).lightness();
+                    ++pixels;
+                }
+        return static_cast<double>(sum) / pixels;
+    };
+    EXPECT_GE(std::abs(lightness({390, 221}) - lightness({526, 192})), 20);
+}
+
 TEST_F(FirstLook, APlusSignStandsBeforeTheBonusBox) {
     const std::tuple<const char*, std::string, int> games[] = {{"mnuCANONTLotto649", "txtWin6", 6},
                                                                {"mnuCANONTSuper7", "txtWin7", 7},

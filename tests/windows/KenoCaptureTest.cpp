@@ -10,6 +10,17 @@ const std::string TicketRow =
 class KenoWindow : public SlipWorld {
   protected:
     void ShowKeno() { Show("mnuCANONTKENO"); }
+    void SaveOneOfTwoSheetsWithEncore() {
+        ShowKeno();
+        SeveralSheets(2, 2);
+        Put("txtNoOfExtra", "1");
+        PutChoices("2", "1.00");
+        Pick({1, 2});
+        Click("cmdNext_Ticket");
+        person.Type("123456");
+        person.Tab();
+        SaveSheet(false);
+    }
     void ShowKeno80() { Show(Family::frmKeno80, "PrairieKeno", "PrairieKeno"); }
     // The balls and the wager of the ticket in hand; the balls last, because leaving them opens the grid.
     void PutChoices(std::string_view balls, std::string_view wager) {
@@ -590,15 +601,7 @@ TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
 }
 
 TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
-    ShowKeno();
-    SeveralSheets(2, 2);
-    Put("txtNoOfExtra", "1");
-    PutChoices("2", "1.00");
-    Pick({1, 2});
-    Click("cmdNext_Ticket");
-    person.Type("123456");
-    person.Tab();
-    SaveSheet(false);
+    SaveOneOfTwoSheetsWithEncore();
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"1"});
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     ExpectCleanUp(Answer::Yes, "Cancelling before completion...");
@@ -607,6 +610,14 @@ TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"0"});
     EXPECT_EQ(global.TicketsSaved, 0);
     EXPECT_TRUE(Window().IsShown());
+}
+
+TEST_F(KenoWindow, EnterLeavesTheSavedSheetsOfAnEntryThatIsCancelled) {
+    SaveOneOfTwoSheetsWithEncore();
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+    person.ExpectKey("Cancelling before completion...", CleanUpText, Qt::Key_Return, BoxStyle::YesNoCancel);
+    Click("cmdCancel");
+    EXPECT_EQ(CountOf("PlayedONTKeno"), "1");
 }
 
 TEST_F(KenoWindow, AnAmountThatStartsWithAPointEndsAsZero) {

@@ -31,6 +31,32 @@ TEST_F(KenoCheck, BehindATicketWithoutAVerdictTheVerdictsLeadToTheWrongTickets) 
     EXPECT_EQ(Window().Check.lstNumbersPlayed.ListIndex(), 0);
 }
 
+TEST_F(KenoCheck, ACheckBehindOneThatAnErrorEndedGoesAsIfItWereTheFirst) {
+    constexpr std::string_view Before = "2006-03-10";
+    Open("mnuCANONTKENO");
+    int id = 0;
+    for (const std::string& day : {Day(), Day(Before)}) {
+        ++id;
+        Do("INSERT INTO PlayedONTKeno (ID1, Date, Lottoflag, Ball_1, Ball_2, Wager, [# of Balls]) VALUES (" +
+           std::to_string(id) + ", " + day + ", 'ONTKeno', 1, 2, 1, 2)");
+        Do("INSERT INTO PlayedEncore VALUES (" + std::to_string(id) + ", 'ONTKeno', " + day +
+           ", 1, 2, 3, 4, 5, 6, NULL)");
+    }
+    const auto check = [&](const std::string& encore) {
+        Draw("txtWin20", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
+        Type("txtWinEncore", encore);
+        Click("cmdCheck");
+    };
+    person.Expect("ERROR!",
+                  "ERROR #3421\r\nUnexpected error occurred. Please advise error number to support.",
+                  Answer::Ok, BoxStyle::Stop);
+    check("x23456");
+    EXPECT_EQ(global.EntryCounter, 0);
+    Window().dtpEnterTickets(2).SetValue(Date::FromText(Before));
+    check("123456");
+    EXPECT_EQ(ListOf("lstEncorePlayed"), Texts{"1, 2, 3, 4, 5, 6"});
+}
+
 // As an error in the middle of an earlier check leaves it.
 TEST_F(KenoCheck, ACountThatWasLeftIsNotAddedTo) {
     Open("mnuCANONTKENO");

@@ -414,6 +414,26 @@ TEST_F(Lottario, MarksAreWrittenBothWaysOnEveryTicket) {
     EXPECT_EQ(Rows("SELECT Ball_1, Regular, EarlyBird FROM PlayedLottario").at(2), "3|0|0");
 }
 
+TEST_F(Lottario, AFullEntryIsNoticedAtABoughtTicketAndNotAtABonusTicket) {
+    for (const bool bought : {true, false}) {
+        Open(1);
+        ASSERT_EQ(global.SheetTickets, 2);
+        global.TotalTickets = bought ? 2 : 1;  // a bonus ticket counts itself
+        if (!bought) {
+            Window().Enter.cmdNext_Ticket.SetCaption("Next &Bonus");
+            Window().State.BonusPhase = On;
+        }
+        PickFrom(1, 6);
+        EXPECT_EQ(global.TicketNo, 1);
+        EXPECT_EQ(global.TotalTickets, 2);
+        EXPECT_EQ(Next(), bought ? "&Next Ticket" : "Next &Bonus");
+        EXPECT_EQ(IsEnabled("cmdSave"), bought);
+        EXPECT_EQ(IsEnabled("cmdNext_Ticket"), !bought);
+        EXPECT_EQ(Window().State.BonusPhase, bought ? Off : On);
+        Window().Leave();
+    }
+}
+
 TEST_F(Lottario, TheGridEndsAtFortyFive) {
     Open(1);
     PickFrom(40, 6);

@@ -128,6 +128,20 @@ TEST_F(SixNumberCheck, ARefusedRecheckLeavesTheTicketsListedAndJudgesNone) {
     EXPECT_EQ(global.RecheckAccepted, True);
 }
 
+TEST_F(SixNumberCheck, EnterDoesNotRewriteTheRow) {
+    OpenOntario();
+    Ticket(1, "1, 2, 3, 4, 5, 6");
+    Draw("txtWin6", {1, 2, 3, 4, 5, 6, 7});
+    Click("cmdCheck");
+    Type("txtWin6(0)", "8");
+    person.ExpectKey("RECHECK?",
+                     "You have already performed a search on this Draw Date.\r\n"
+                     "Would you like to perform a re-check?",
+                     Qt::Key_Return, BoxStyle::YesNo);
+    Click("cmdCheck");
+    EXPECT_EQ(Rows("SELECT Ball_1 FROM WinLotto649"), Texts{"1"});
+}
+
 TEST_F(SixNumberCheck, TheSecondRegionsCheckAsksAboutTheSameRow) {
     OpenOntario();
     Ticket(1, "1, 2, 3, 4, 5, 6");

@@ -32,6 +32,7 @@ ReportsTab::ReportsTab(GameFrame& window)
     window.cmdExit.Load(3, "E&xit");
     cmdPrintReport.SetEnabled(false);
     if (!PrintsReport[window.Which]) cmdPrintReport.setToolTip(DoesNothing());
+    if (!Tally[window.Which]) cmdReport.setToolTip(DoesNothing());
     mscProfitLoss.SetVisible(false);
     CaptionNumberChart();
     ClearCharts();
