@@ -71,16 +71,20 @@ std::vector<Piece> PiecesOf(std::string_view text) {
     return pieces;
 }
 
+std::optional<Date> Existing(int year, int month, int day) {
+    Date date;
+    if (ErrorOf([&] { date = Date::FromYmd(year, month, day); }) != 0) return std::nullopt;
+    return date;
+}
+
 std::optional<Date> Made(const Piece& year, int month, const Piece& day) {
+    const bool possible = (year.Year() || year.text.size() == 2) && year.Figures() && day.Small();
+    if (!possible) return std::nullopt;
     // Two digits of a year.
     constexpr int Pivot = 30;
     int number = year.Number();
     if (!year.Year()) number += number < Pivot ? 2000 : 1900;
-    Date date;
-    const bool possible = (year.Year() || year.text.size() == 2) && year.Figures() && day.Small();
-    if (!possible || ErrorOf([&] { date = Date::FromYmd(number, month, day.Number()); }) != 0)
-        return std::nullopt;
-    return date;
+    return Existing(number, month, day.Number());
 }
 
 std::optional<Date> ReadPieces(const std::vector<Piece>& pieces, DateOrder order) {
@@ -111,10 +115,21 @@ std::string_view WithoutTime(std::string_view text) {
     return TrimBlanks(text.substr(0, gap));
 }
 
+// 2026-11-21, as most files have it; this is the quick way.
+bool IsShortForm(std::string_view text) {
+    constexpr std::string_view Form = "dddd-dd-dd";
+    return std::equal(text.begin(), text.end(), Form.begin(), Form.end(),
+                      [](char letter, char form) { return form == 'd' ? IsDigit(letter) : letter == form; });
+}
+
 }  // namespace
 
 std::optional<Date> ReadDate(std::string_view text, DateOrder order) {
     constexpr std::size_t Compact = 8;
+    const auto number = [&](std::size_t at, std::size_t size) {
+        return Piece{text.substr(at, size)}.Number();
+    };
+    if (IsShortForm(text)) return Existing(number(0, 4), number(5, 2), number(8, 2));
     text = WithoutTime(TrimBlanks(text));
     const Piece whole{text};
     if (text.size() == Compact && whole.Figures())

@@ -5,18 +5,17 @@
 #include <utility>
 
 #include "platform/RunTimeError.h"
+#include "platform/Text.h"
 
 namespace sorvane::Records {
 
 namespace {
 
-constexpr int End = -1;
 constexpr std::size_t BufferSize = 65'536;
 // More than any record has; what is longer has lost a quote.
 constexpr std::size_t MostInRecord = 65'536;
 constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
-
-bool IsContinuation(int byte) { return (byte & 0xC0) == 0x80; }
+constexpr const char* NoUtf8 = "this is no text in UTF-8";
 
 // The bytes that the character at the start takes; 0 when it is none.
 std::size_t LengthOfCharacter(std::string_view text) {
@@ -25,7 +24,7 @@ std::size_t LengthOfCharacter(std::string_view text) {
     const std::size_t length = byte(0) >= 0xF0 ? 4 : byte(0) >= 0xE0 ? 3 : 2;
     if (byte(0) < 0xC2 || byte(0) > 0xF4 || text.size() < length) return 0;
     for (std::size_t i = 1; i < length; ++i)
-        if (!IsContinuation(byte(i))) return 0;
+        if (BeginsCharacter(text[i])) return 0;
     // Longer than needed, halves of a pair, beyond the last character.
     const bool bad = (byte(0) == 0xE0 && byte(1) < 0xA0) || (byte(0) == 0xED && byte(1) > 0x9F) ||
                      (byte(0) == 0xF0 && byte(1) < 0x90) || (byte(0) == 0xF4 && byte(1) > 0x8F);
@@ -33,13 +32,14 @@ std::size_t LengthOfCharacter(std::string_view text) {
 }
 
 void TrimEnd(std::string& text) {
-    const std::size_t last = text.find_last_not_of(" \t");
-    text.erase(last == std::string::npos ? 0 : last + 1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.pop_back();
 }
 
 }  // namespace
 
 bool IsUtf8(std::string_view text) {
+    const auto isAscii = [](char letter) { return static_cast<unsigned char>(letter) < 0x80; };
+    if (std::all_of(text.begin(), text.end(), isAscii)) return true;
     while (!text.empty()) {
         const std::size_t length = LengthOfCharacter(text);
         if (length == 0) return false;
@@ -57,7 +57,7 @@ CsvReader::CsvReader(const fs::path& path) {
     if (!file_) Raise(ErrorNumber::NoPermission);
     const auto size = fs::file_size(path, none);
     size_ = none ? 0 : static_cast<double>(size);
-    Peek();
+    Fill();
     RefuseOtherEncodings();
     if (std::string_view(buffer_).starts_with(Utf8Mark)) at_ = Utf8Mark.size();
     FindSeparator();
@@ -77,34 +77,46 @@ void CsvReader::FindSeparator() {
         if (count(other) > count(separator_)) separator_ = other;
 }
 
-int CsvReader::Peek() {
-    if (at_ == buffer_.size()) {
-        buffer_.resize(BufferSize);
-        file_.read(buffer_.data(), static_cast<std::streamsize>(BufferSize));
-        buffer_.resize(static_cast<std::size_t>(file_.gcount()));
-        at_ = 0;
-    }
-    return buffer_.empty() ? End : static_cast<unsigned char>(buffer_[at_]);
+// False at the end of the file.
+bool CsvReader::Fill() {
+    before_ += at_;
+    at_ = 0;
+    buffer_.resize(BufferSize);
+    file_.read(buffer_.data(), static_cast<std::streamsize>(BufferSize));
+    buffer_.resize(static_cast<std::size_t>(file_.gcount()));
+    return !buffer_.empty();
 }
 
 int CsvReader::Get() {
     const int letter = Peek();
     if (letter == End) return End;
     ++at_;
-    ++done_;
-    if (!IsContinuation(letter)) ++column_;
+    if (BeginsCharacter(static_cast<char>(letter))) ++column_;
     return letter;
+}
+
+// The bytes before the next stop, as far as they are in the buffer; none at the end of the file.
+template <class IsStop>
+std::string_view CsvReader::GetUpTo(IsStop isStop) {
+    if (Peek() == End) return {};
+    const std::string_view rest = std::string_view(buffer_).substr(at_);
+    const std::string_view letters = rest.substr(
+        0, static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), isStop) - rest.begin()));
+    at_ += letters.size();
+    column_ += std::count_if(letters.begin(), letters.end(), BeginsCharacter);
+    return letters;
 }
 
 void CsvReader::Break(const CsvCell& cell, std::string what) const {
     throw Broken{cell.line, cell.column, std::move(what)};
 }
 
-void CsvReader::Take(CsvCell& cell, int letter) {
-    if (letter == 0) Break(cell, "this is no text in UTF-8");
-    if (++inRecord_ > MostInRecord)
+void CsvReader::Take(CsvCell& cell, std::string_view letters) {
+    if (letters.find('\0') != std::string_view::npos) Break(cell, NoUtf8);
+    inRecord_ += letters.size();
+    if (inRecord_ > MostInRecord)
         Break(cell, cell.quoted ? "the quote that opens here is not closed" : "this line is too long");
-    cell.text += static_cast<char>(letter);
+    cell.text += letters;
 }
 
 bool CsvReader::AtLineEnd() {
@@ -120,22 +132,37 @@ void CsvReader::EndLine() {
     column_ = 1;
 }
 
+void CsvReader::ReadPlain(CsvCell& cell) {
+    const auto isStop = [this](char letter) {
+        return letter == separator_ || letter == '\n' || letter == '\r';
+    };
+    while (!AtLineEnd() && Peek() != separator_) Take(cell, GetUpTo(isStop));
+    TrimEnd(cell.text);
+}
+
 void CsvReader::ReadQuoted(CsvCell& cell) {
     Get();
     cell.quoted = true;
+    const auto isStop = [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; };
     for (;;) {
-        if (Peek() == End) Break(cell, "the quote that opens here is not closed");
-        if (Peek() == '\r' || Peek() == '\n') {
-            EndLine();
-            Take(cell, '\n');
-            continue;
+        Take(cell, GetUpTo(isStop));
+        switch (Peek()) {
+            case End:
+                Break(cell, "the quote that opens here is not closed");
+            case '\n':
+            case '\r':
+                EndLine();
+                Take(cell, "\n");
+                break;
+            case '"':
+                Get();
+                if (Peek() != '"') return;
+                Get();
+                Take(cell, "\"");
+                break;
+            default:
+                break;  // the buffer ended
         }
-        const int letter = Get();
-        if (letter == '"') {
-            if (Peek() != '"') return;
-            Get();
-        }
-        Take(cell, letter);
     }
 }
 
@@ -151,10 +178,9 @@ void CsvReader::ReadCell(CsvCell& cell) {
             if (letter != ' ' && letter != '\t') Break(cell, "the quote that opens here closes too early");
         }
     } else {
-        while (!AtLineEnd() && Peek() != separator_) Take(cell, Get());
-        TrimEnd(cell.text);
+        ReadPlain(cell);
     }
-    if (!IsUtf8(cell.text)) Break(cell, "this is no text in UTF-8");
+    if (!IsUtf8(cell.text)) Break(cell, NoUtf8);
 }
 
 bool CsvReader::Next(std::vector<CsvCell>& record) {

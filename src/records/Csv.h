@@ -37,15 +37,22 @@ class CsvReader {
     // that are no UTF-8.
     bool Next(std::vector<CsvCell>& record);
 
-    double Done() const { return static_cast<double>(done_); }
+    // Bytes read, and bytes of the file.
+    double Done() const { return static_cast<double>(before_ + at_); }
     double InAll() const { return size_; }
 
   private:
-    int Peek();
+    static constexpr int End = -1;
+    // The next byte, or End.
+    int Peek() { return at_ < buffer_.size() || Fill() ? static_cast<unsigned char>(buffer_[at_]) : End; }
+    bool Fill();
     int Get();
+    template <class IsStop>
+    std::string_view GetUpTo(IsStop isStop);
     void ReadCell(CsvCell& cell);
+    void ReadPlain(CsvCell& cell);
     void ReadQuoted(CsvCell& cell);
-    void Take(CsvCell& cell, int letter);
+    void Take(CsvCell& cell, std::string_view letters);
     bool AtLineEnd();
     void EndLine();
     void FindSeparator();
@@ -54,8 +61,8 @@ class CsvReader {
 
     std::ifstream file_;
     std::string buffer_;
-    std::size_t at_ = 0;
-    std::size_t done_ = 0;
+    std::size_t at_ = 0;      // the next byte of the buffer
+    std::size_t before_ = 0;  // bytes of the file before those in the buffer
     double size_ = 0;
     char separator_ = ',';
     long line_ = 1;

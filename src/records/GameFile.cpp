@@ -1,7 +1,7 @@
 #include "records/GameFile.h"
 
 #include <algorithm>
-#include <set>
+#include <bitset>
 #include <sstream>
 #include <utility>
 
@@ -243,8 +243,12 @@ bool GameFile::Next(Entry& entry) {
 
 bool GameFile::ReadEntry(Entry& entry) {
     const long before = findings_.Count();
-    entry = {};
-    entry.spot = {record_.front().line, record_.front().column};
+    // A hundred thousand lines need no lists of their own.
+    entry.numbers.clear();
+    entry.addOn.clear();
+    entry = {.numbers = std::move(entry.numbers),
+             .addOn = std::move(entry.addOn),
+             .spot = {record_.front().line, record_.front().column}};
     if (record_.size() < columns_.size())
         Tell(record_.front(), "this line has " + Counted(static_cast<long>(record_.size()), "cell") +
                                   " instead of " + Str(static_cast<long>(columns_.size())));
@@ -296,7 +300,7 @@ void GameFile::ReadPart(Column column, const CsvCell& cell, Entry& entry) {
             ReadAddOn(cell, entry);
             break;
         case Part::AddOnNumber:
-            if (!cell.text.empty()) entry.addOn.push_back(ReadNumber(cell, cell.text, 1, 99));
+            if (!cell.text.empty()) entry.addOn.push_back(ReadNumber(cell, cell.text, 1, TopAddOnNumber));
             break;
         case Part::Way:
             ReadWay(cell, entry);
@@ -346,7 +350,8 @@ void GameFile::ReadAddOn(const CsvCell& cell, Entry& entry) {
     const std::vector<std::string_view> figures = FiguresIn(cell.text);
     const auto digits = static_cast<std::size_t>(game_.addOn->Digits);
     if (game_.addOn->FourNumbers) {
-        for (const std::string_view number : figures) entry.addOn.push_back(ReadNumber(cell, number, 1, 99));
+        for (const std::string_view number : figures)
+            entry.addOn.push_back(ReadNumber(cell, number, 1, TopAddOnNumber));
         return;
     }
     for (const std::string_view run : figures)
@@ -380,11 +385,14 @@ void GameFile::JudgeEntry(Entry& entry) {
         return Tell(line, Counted(static_cast<long>(entry.numbers.size()), "number") + " instead of " +
                               (keno ? "1 to " : "") + Str(static_cast<long>(all)));
     if (draws && numbers_.bonus && !entry.bonus) return Tell(line, "the bonus number is missing");
-    std::set<int> seen;
     if (!numbers_.digits) {
-        for (const int number : entry.numbers)
-            if (!seen.insert(number).second) return Tell(line, Str(number) + " stands there twice");
-        if (entry.bonus && seen.count(*entry.bonus) != 0)
+        std::bitset<MostNumbers> seen;
+        for (const int number : entry.numbers) {
+            const auto at = static_cast<std::size_t>(number);
+            if (seen[at]) return Tell(line, Str(number) + " stands there twice");
+            seen.set(at);
+        }
+        if (entry.bonus && seen[static_cast<std::size_t>(*entry.bonus)])
             return Tell(line, "the bonus number " + Str(*entry.bonus) + " is among the others");
     }
     if (!entry.addOn.empty() && game_.addOn->FourNumbers && entry.addOn.size() != 4)

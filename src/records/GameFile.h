@@ -31,16 +31,16 @@ enum class History { Draws, Tickets };
 
 // What a line states of a draw or ticket.
 struct Entry {
-    Date date;
-    std::vector<int> numbers;
-    std::optional<int> bonus;
-    std::vector<int> addOn;  // the digits, or the four numbers; empty: none
-    std::string way;
-    std::optional<Currency> wager;
-    std::optional<Currency> price;
+    Date date = {};
+    std::vector<int> numbers = {};
+    std::optional<int> bonus = {};
+    std::vector<int> addOn = {};  // the digits, or the four numbers; empty: none
+    std::string way = {};
+    std::optional<Currency> wager = {};
+    std::optional<Currency> price = {};
     bool regular = false;
     bool earlyBird = false;
-    Spot spot;  // of the line
+    Spot spot = {};  // of the line
 };
 
 // What the caller knows of the file.

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "entry/Amounts.h"
@@ -16,49 +18,60 @@ namespace {
 
 std::size_t Index(int at) { return static_cast<std::size_t>(at); }
 
-// A row as the program's writers leave it: what they don't write is nothing, a mark false.
-Row BlankRow(const Table& table, const GameKey& key, Date date) {
-    Row row(table.fields.size());
-    for (std::size_t i = 0; i < row.size(); ++i)
-        if (table.fields[i].means == Means::Mark) row[i] = false;
-    row[Index(table.DayAt())] = date;
-    if (table.GameAt() >= 0) row[Index(table.GameAt())] = std::string(key.LottoFlag);
-    return row;
-}
+// Makes the rows of a table for one game as the program's writers leave them: what they don't write is
+// nothing, a mark false.
+class RowMaker {
+  public:
+    RowMaker(const Table& table, const GameKey& key)
+        : day_(Index(table.DayAt())),
+          numbers_(Index(std::max(table.At("Ball_1"), table.At("Number 1")))),
+          blank_(table.fields.size()) {
+        for (std::size_t i = 0; i < blank_.size(); ++i)
+            if (table.fields[i].means == Means::Mark) blank_[i] = false;
+        if (table.GameAt() >= 0) blank_[Index(table.GameAt())] = std::string(key.LottoFlag);
+    }
 
-void PutNumbers(Row& row, const Table& table, const std::string& first, const std::vector<int>& numbers) {
-    const auto at = Index(table.At(first));
-    for (std::size_t i = 0; i < numbers.size(); ++i) row[at + i] = numbers[i];
-}
+    Row Of(Date date) const {
+        Row row = blank_;
+        row[day_] = date;
+        return row;
+    }
+    Row Of(Date date, const std::vector<int>& numbers) const {
+        Row row = Of(date);
+        for (std::size_t i = 0; i < numbers.size(); ++i) row[numbers_ + i] = numbers[i];
+        return row;
+    }
 
-void PutAddOn(Row& row, const Table& table, const std::vector<int>& numbers) {
-    PutNumbers(row, table, !table.addOn->FourNumbers ? "Number 1" : "Ball_1", numbers);
-}
+  private:
+    std::size_t day_;
+    std::size_t numbers_;  // the first of them
+    Row blank_;
+};
 
 // One draw a day into a Win table.
 class DrawSink {
   public:
-    DrawSink(Intake& intake, const Table& table, bool replace)
-        : table_(table), sink_(intake.Open(table)), replace_(replace) {}
+    DrawSink(Intake& intake, const Table& table, const GameKey& key, bool replace)
+        : table_(table), maker_(table, key), sink_(intake.Open(table)), replace_(replace) {}
 
     // False when this file has drawn the day already, and otherwise.
-    bool Put(const Row& row) {
-        const Date day = row[Index(table_.DayAt())].ToDate();
+    bool Put(Date day, const std::vector<int>& numbers) {
+        Row row = maker_.Of(day, numbers);
         const auto found = sink_.OfDay(day);
         const auto same = std::find_if(found.begin(), found.end(),
                                        [&](const TableSink::Found& one) { return BelongsTo(one.row, row); });
         if (same == found.end()) {
+            sink_.AddAlways(std::move(row));
             ++added_;
-            return sink_.Add(row) == TableSink::Outcome::Added;
+            return true;
         }
-        Row wanted = row;
-        wanted.front() = same->row.front();
-        if (SameRow(wanted, same->row)) ++there_;
+        row.front() = same->row.front();
+        if (SameRow(row, same->row)) ++there_;
         else if (same->added) return false;
         else if (!replace_) ++leftAlone_;
         else {
             ++replaced_;
-            sink_.Replace(same->number, wanted);
+            sink_.Replace(same->number, row);
         }
         return true;
     }
@@ -86,91 +99,22 @@ class DrawSink {
     }
 
     const Table& table_;
+    RowMaker maker_;
     TableSink sink_;
     bool replace_;
     long added_ = 0, there_ = 0, replaced_ = 0, leftAlone_ = 0;
 };
 
-Row DrawRow(const Table& table, const GameKey& key, const Entry& entry) {
-    Row row = BlankRow(table, key, entry.date);
-    PutNumbers(row, table, "Ball_1", entry.numbers);
-    if (entry.bonus) row[Index(table.At("Ball_B"))] = *entry.bonus;
-    return row;
-}
-
-GameFileWish FileWishOf(const HistoryWish& wish, bool needsPrice) {
-    return {wish.file, wish.columns, wish.dayFirst ? DateOrder::DayFirst : DateOrder::MonthFirst, needsPrice};
-}
-
-// Words that a run ends with: those of each table.
-void TellResult(Outside& outside, const std::vector<std::string>& lines) {
-    for (const std::string& line : lines)
-        if (!line.empty()) outside.words << line << '\n';
-}
-
-}  // namespace
-
-int ListGames(Outside& outside) {
-    for (const ChosenGame& game : ChosenGames()) {
-        outside.data << game.name << '\t' << game.key->LottoFlag;
-        if (game.addOn != nullptr) outside.data << '\t' << game.addOn->ExtraFlag;
-        outside.data << '\n';
-    }
-    return Done;
-}
-
-int Draws(Outside& outside, const Place& place, const HistoryWish& wish) {
-    const ChosenGame game = FindChosenGame(wish.game);
-    Progress progress(outside, "Importing");
-    Findings findings(outside, progress);
-    return Naming(wish.file, [&] {
-        GameFile file(game, History::Draws, FileWishOf(wish, false), findings);
-        return Naming(place.File(), [&] {
-            Intake intake(outside, place, wish.dryRun);
-            const Table& table = *FindTable(game.key->Win);
-            const Table* addOnTable = game.addOn ? FindTable(game.addOn->Win) : nullptr;
-            std::vector<std::string> told;
-            {
-                DrawSink draws(intake, table, wish.replace);
-                std::optional<DrawSink> addOns;
-                const Date today = outside.now().day;
-                const auto put = [&](DrawSink& sink, const Row& row, const Entry& entry) {
-                    if (!sink.Put(row))
-                        findings.Tell(
-                            wish.file, entry.spot,
-                            entry.date.ToText() + " is drawn twice in this file, with other numbers");
-                };
-                for (Entry entry; file.Next(entry); progress.Tell(file.Done(), file.InAll())) {
-                    if (entry.date > today) {
-                        findings.Tell(wish.file, entry.spot,
-                                      entry.date.ToText() + ": this draw hasn't taken place yet");
-                        continue;
-                    }
-                    put(draws, DrawRow(table, *game.key, entry), entry);
-                    if (entry.addOn.empty()) continue;
-                    if (!addOns) addOns.emplace(intake, *addOnTable, wish.replace);
-                    Row row = BlankRow(*addOnTable, *game.key, entry.date);
-                    PutAddOn(row, *addOnTable, entry.addOn);
-                    put(*addOns, row, entry);
-                }
-                told = {file.LeftAside(), draws.Told(), addOns ? addOns->Told() : ""};
-            }
-            progress.Wipe();
-            const int status = Conclude(outside, intake, findings, wish.dryRun);
-            if (status == Done) TellResult(outside, told);
-            return status;
-        });
-    });
-}
-
-namespace {
-
 // Tickets into a Played table.
 class TicketSink {
   public:
-    TicketSink(Intake& intake, const Table& table) : table_(table), sink_(intake.Open(table)) {}
-    bool Put(const Row& row) {
-        const bool added = sink_.Add(row) == TableSink::Outcome::Added;
+    TicketSink(Intake& intake, const Table& table, const GameKey& key)
+        : table_(table), maker_(table, key), sink_(intake.Open(table)) {}
+
+    const RowMaker& Rows() const { return maker_; }
+    // False when the ticket is there already.
+    bool Put(Row row) {
+        const bool added = sink_.Add(std::move(row)) == TableSink::Outcome::Added;
         ++(added ? added_ : there_);
         return added;
     }
@@ -181,25 +125,10 @@ class TicketSink {
 
   private:
     const Table& table_;
+    RowMaker maker_;
     TableSink sink_;
     long added_ = 0, there_ = 0;
 };
-
-Row TicketRow(const Table& table, const GameKey& key, const Entry& entry) {
-    Row row = BlankRow(table, key, entry.date);
-    std::vector<int> numbers = entry.numbers;
-    if (IsKeno(key.in)) {
-        row[Index(table.At("# of Balls"))] = static_cast<int>(numbers.size());
-        row[Index(table.At("Wager"))] =
-            static_cast<int>(entry.wager.value_or(Currency()).TenThousandths() / Currency::Scale);
-        numbers.resize(Index(Numbers(key.in).count), 0);
-    }
-    PutNumbers(row, table, "Ball_1", numbers);
-    if (IsPick(key.in)) row[Index(table.At("Way Played"))] = entry.way;
-    row[Index(table.At("Regular"))] = entry.regular;
-    if (key.HasEarlyBird) row[Index(table.At("EarlyBird"))] = entry.earlyBird;
-    return row;
-}
 
 // What was paid for the tickets of a day.
 struct Paid {
@@ -224,20 +153,6 @@ Currency AmountOf(const Paid& paid, const GameKey& key) {
     return paid.told + Currency::FromText(DefaultAmount(key.in, key.LottoFlag, bought));
 }
 
-std::string Book(Intake& intake, const GameKey& key, const std::map<long, Paid>& days) {
-    const Table& table = *FindTable("Spent");
-    TableSink sink = intake.Open(table);
-    Currency sum;
-    for (const auto& [day, paid] : days) {
-        Row row = BlankRow(table, key, Date::FromDays(static_cast<double>(day)));
-        row[Index(table.At("Spent"))] = AmountOf(paid, key);
-        sink.AddAlways(row);
-        sum += AmountOf(paid, key);
-    }
-    return "Spent: " + Format(sum, "###,###,##0.00") + " booked for " +
-           Counted(static_cast<long>(days.size()), "date");
-}
-
 // What is wrong with the money of a line; empty when nothing is.
 std::string JudgeMoney(const Entry& entry, const GameKey& key, bool booked) {
     const std::int64_t wager = entry.wager.value_or(Currency()).TenThousandths();
@@ -248,46 +163,155 @@ std::string JudgeMoney(const Entry& entry, const GameKey& key, bool booked) {
     return {};
 }
 
-}  // namespace
+// Draws of a game, and of its add-on where the file has that.
+class DrawHistory {
+  public:
+    static constexpr History Kind = History::Draws;
 
-int Tickets(Outside& outside, const Place& place, const HistoryWish& wish) {
+    DrawHistory(Intake& intake, const ChosenGame& game, const HistoryWish& wish, Date today)
+        : intake_(intake),
+          game_(game),
+          replace_(wish.replace),
+          today_(today),
+          draws_(intake, *FindTable(game.key->Win), *game.key, replace_) {}
+
+    // Gives what is wrong with the entry; empty when it has been taken.
+    std::string Put(Entry& entry) {
+        if (entry.date > today_) return entry.date.ToText() + ": this draw hasn't taken place yet";
+        // In the row the bonus number stands behind the others.
+        if (entry.bonus) entry.numbers.push_back(*entry.bonus);
+        if (draws_.Put(entry.date, entry.numbers) && PutAddOn(entry)) return {};
+        return entry.date.ToText() + " is drawn twice in this file, with other numbers";
+    }
+    std::vector<std::string> Told() const { return {draws_.Told(), addOns_ ? addOns_->Told() : ""}; }
+
+  private:
+    bool PutAddOn(const Entry& entry) {
+        if (entry.addOn.empty()) return true;
+        if (!addOns_) addOns_.emplace(intake_, *FindTable(game_.addOn->Win), *game_.key, replace_);
+        return addOns_->Put(entry.date, entry.addOn);
+    }
+
+    Intake& intake_;
+    const ChosenGame& game_;
+    bool replace_;
+    Date today_;
+    DrawSink draws_;
+    std::optional<DrawSink> addOns_;
+};
+
+// Tickets of a game, with their add-on, and what they cost.
+class TicketHistory {
+  public:
+    static constexpr History Kind = History::Tickets;
+
+    TicketHistory(Intake& intake, const ChosenGame& game, const HistoryWish& wish, Date)
+        : intake_(intake),
+          game_(game),
+          table_(*FindTable(game.key->Played)),
+          spent_(wish.spent),
+          tickets_(intake, table_, *game.key) {}
+
+    std::string Put(Entry& entry) {
+        if (std::string wrong = JudgeMoney(entry, *game_.key, spent_); !wrong.empty()) return wrong;
+        if (tickets_.Put(TicketRow(entry))) Count(days_[entry.date.Day()], entry, *game_.key);
+        if (entry.addOn.empty()) return {};
+        if (!addOns_) addOns_.emplace(intake_, *FindTable(game_.addOn->Played), *game_.key);
+        addOns_->Put(addOns_->Rows().Of(entry.date, entry.addOn));
+        return {};
+    }
+    // Books the money first.
+    std::vector<std::string> Told() {
+        return {tickets_.Told(), addOns_ ? addOns_->Told() : "", spent_ && !days_.empty() ? Book() : ""};
+    }
+
+  private:
+    Row TicketRow(const Entry& entry) const {
+        Row row = tickets_.Rows().Of(entry.date, entry.numbers);
+        const GameKey& key = *game_.key;
+        if (IsKeno(key.in)) {
+            for (std::size_t i = entry.numbers.size(); i < Index(Numbers(key.in).count); ++i)
+                row[Index(table_.At("Ball_1")) + i] = 0;
+            row[Index(table_.At("# of Balls"))] = static_cast<int>(entry.numbers.size());
+            row[Index(table_.At("Wager"))] =
+                static_cast<int>(entry.wager.value_or(Currency()).TenThousandths() / Currency::Scale);
+        }
+        if (IsPick(key.in)) row[Index(table_.At("Way Played"))] = entry.way;
+        row[Index(table_.At("Regular"))] = entry.regular;
+        if (key.HasEarlyBird) row[Index(table_.At("EarlyBird"))] = entry.earlyBird;
+        return row;
+    }
+
+    std::string Book() {
+        const Table& table = *FindTable("Spent");
+        const RowMaker rows(table, *game_.key);
+        TableSink sink = intake_.Open(table);
+        Currency sum;
+        for (const auto& [day, paid] : days_) {
+            const Currency amount = AmountOf(paid, *game_.key);
+            Row row = rows.Of(Date::FromDays(static_cast<double>(day)));
+            row[Index(table.At("Spent"))] = amount;
+            sink.AddAlways(std::move(row));
+            sum += amount;
+        }
+        return "Spent: " + Format(sum, "###,###,##0.00") + " booked for " +
+               Counted(static_cast<long>(days_.size()), "date");
+    }
+
+    Intake& intake_;
+    const ChosenGame& game_;
+    const Table& table_;
+    bool spent_;
+    TicketSink tickets_;
+    std::optional<TicketSink> addOns_;
+    std::map<long, Paid> days_;
+};
+
+template <class Into>
+int TakeIn(Outside& outside, const Place& place, const HistoryWish& wish) {
     const ChosenGame game = FindChosenGame(wish.game);
+    const DateOrder order = wish.dayFirst ? DateOrder::DayFirst : DateOrder::MonthFirst;
     Progress progress(outside, "Importing");
     Findings findings(outside, progress);
     return Naming(wish.file, [&] {
-        GameFile file(game, History::Tickets, FileWishOf(wish, wish.spent), findings);
+        GameFile file(game, Into::Kind, {wish.file, wish.columns, order, wish.spent}, findings);
         return Naming(place.File(), [&] {
             Intake intake(outside, place, wish.dryRun);
-            const Table& table = *FindTable(game.key->Played);
-            const Table* addOnTable = game.addOn ? FindTable(game.addOn->Played) : nullptr;
             std::vector<std::string> told;
-            std::map<long, Paid> days;
             {
-                TicketSink tickets(intake, table);
-                std::optional<TicketSink> addOns;
-                for (Entry entry; file.Next(entry); progress.Tell(file.Done(), file.InAll())) {
-                    const std::string wrong = JudgeMoney(entry, *game.key, wish.spent);
-                    if (!wrong.empty()) {
+                Into into(intake, game, wish, outside.now().day);
+                for (Entry entry; file.Next(entry); progress.Tell(file.Done(), file.InAll()))
+                    if (const std::string wrong = into.Put(entry); !wrong.empty())
                         findings.Tell(wish.file, entry.spot, wrong);
-                        continue;
-                    }
-                    if (tickets.Put(TicketRow(table, *game.key, entry)))
-                        Count(days[entry.date.Day()], entry, *game.key);
-                    if (entry.addOn.empty()) continue;
-                    if (!addOns) addOns.emplace(intake, *addOnTable);
-                    Row row = BlankRow(*addOnTable, *game.key, entry.date);
-                    PutAddOn(row, *addOnTable, entry.addOn);
-                    addOns->Put(row);
-                }
-                told = {file.LeftAside(), tickets.Told(), addOns ? addOns->Told() : ""};
+                told = into.Told();
             }
-            if (wish.spent && !days.empty()) told.push_back(Book(intake, *game.key, days));
+            told.insert(told.begin(), file.LeftAside());
             progress.Wipe();
             const int status = Conclude(outside, intake, findings, wish.dryRun);
-            if (status == Done) TellResult(outside, told);
+            for (const std::string& line : told)
+                if (status == Done && !line.empty()) outside.words << line << '\n';
             return status;
         });
     });
+}
+
+}  // namespace
+
+int ListGames(Outside& outside) {
+    for (const ChosenGame& game : ChosenGames()) {
+        outside.data << game.name << '\t' << game.key->LottoFlag;
+        if (game.addOn != nullptr) outside.data << '\t' << game.addOn->ExtraFlag;
+        outside.data << '\n';
+    }
+    return Done;
+}
+
+int Draws(Outside& outside, const Place& place, const HistoryWish& wish) {
+    return TakeIn<DrawHistory>(outside, place, wish);
+}
+
+int Tickets(Outside& outside, const Place& place, const HistoryWish& wish) {
+    return TakeIn<TicketHistory>(outside, place, wish);
 }
 
 }  // namespace sorvane::Records

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/Text.h"
@@ -84,8 +85,8 @@ class TableImport {
                                                      Counted(static_cast<long>(record_.size()), "cell") +
                                                      " instead of " + Str(static_cast<long>(columns_)));
         const long before = findings_.Count();
-        Row row;
-        for (std::size_t i = 0; i < table_.fields.size(); ++i) row.push_back(ReadField(i));
+        Row row(table_.fields.size());
+        for (std::size_t i = 0; i < row.size(); ++i) row[i] = ReadField(i);
         if (findings_.Count() != before) return;
         const bool counted = row.front().IsNull();
         if (counted) row.front() = 1;  // some key, to be judged with the rest
@@ -95,7 +96,7 @@ class TableImport {
         });
         if (findings_.Count() != before) return;
         if (counted) row.front() = {};
-        Put(sink, row);
+        Put(sink, std::move(row));
     }
 
     Spot Place(std::size_t field) const {
@@ -117,8 +118,8 @@ class TableImport {
         return value.value_or(Dao::Value());
     }
 
-    void Put(TableSink& sink, const Row& row) {
-        switch (sink.Add(row)) {
+    void Put(TableSink& sink, Row row) {
+        switch (sink.Add(std::move(row))) {
             case TableSink::Outcome::Added:
                 ++added_;
                 break;

@@ -29,9 +29,13 @@ std::string TextOf(const Row& row) {
 }  // namespace
 
 TableSink::TableSink(Dao::RecordFile& file, const Table& table)
-    : table_(table), shape_(AsInFile(table)), file_(file), writer_(file.Writer(shape_)) {
+    : table_(table),
+      dayAt_(table.DayAt()),
+      shape_(AsInFile(table)),
+      file_(file),
+      writer_(file.Writer(shape_)) {
     byKey_.emplace(file.RowsWhere(shape_, PrimaryFieldName));
-    if (table.DayAt() >= 0) byDay_.emplace(file.RowsWhere(shape_, DateFieldName));
+    if (dayAt_ >= 0) byDay_.emplace(file.RowsWhere(shape_, DateFieldName));
     before_ = file.CountRows(shape_);
     days_.resize(Slot(Date::FromDays(Date::LastDay)) + 1);
     ReadWhatIsThere();
@@ -49,8 +53,8 @@ void TableSink::ReadWhatIsThere() {
         const Dao::Value key = rows.At(KeyAt);
         if (const auto* number = std::get_if<std::int64_t>(&key.Get()))
             nextKey_ = std::max(nextKey_, *number + 1);
-        if (table_.DayAt() < 0) continue;
-        const Dao::Value day = rows.At(table_.DayAt());
+        if (dayAt_ < 0) continue;
+        const Dao::Value day = rows.At(dayAt_);
         if (const auto* date = std::get_if<Date>(&day.Get())) days_[Slot(*date)] = true;
     }
 }
@@ -71,8 +75,8 @@ std::vector<TableSink::Found> TableSink::OfDay(Date day) {
 
 // A row without a key, and an equal one that was there before and was not met yet.
 bool TableSink::TakeEqual(const Row& row) {
-    const Date day = row[static_cast<std::size_t>(table_.DayAt())].ToDate();
-    if (!Had(day)) return false;
+    const Date day = DayOf(row);
+    if (before_ == 0 || !days_[Slot(day)]) return false;
     if (cachedDay_ != day.Day()) {
         cachedDay_ = day.Day();
         unmet_.clear();
@@ -95,28 +99,24 @@ TableSink::Outcome TableSink::Compare(const Row& row) {
     return same ? Outcome::ThereAlready : Outcome::KeyTaken;
 }
 
-TableSink::Outcome TableSink::Add(const Row& row) {
+TableSink::Outcome TableSink::Add(Row row) {
     const bool keyed = !row[KeyAt].IsNull();
-    if (!keyed && table_.DayAt() >= 0 && TakeEqual(row)) return Outcome::ThereAlready;
+    if (!keyed && dayAt_ >= 0 && TakeEqual(row)) return Outcome::ThereAlready;
     // No index looks after the keys of the scratch table.
     if (keyed && !table_.creator->indexed && before_ > 0 && Compare(row) == Outcome::ThereAlready)
         return Outcome::ThereAlready;
-    return AddAlways(row);
+    return AddAlways(std::move(row));
 }
 
-TableSink::Outcome TableSink::AddAlways(const Row& row) {
-    if (!row[KeyAt].IsNull()) {
-        if (!writer_.Add(row)) return Compare(row);
-        nextKey_ = std::max(nextKey_, std::get<std::int64_t>(row[KeyAt].Get()) + 1);
-    } else {
-        constexpr std::int64_t LastKey = 2'147'483'647;
-        Row counted = row;
-        counted[KeyAt] = static_cast<long long>(nextKey_);
-        if (nextKey_ > LastKey || !writer_.Add(counted)) return Outcome::KeyTaken;
-        ++nextKey_;
-    }
-    const int day = table_.DayAt();
-    if (day >= 0) days_[Slot(row[static_cast<std::size_t>(day)].ToDate())] = true;
+TableSink::Outcome TableSink::AddAlways(Row row) {
+    constexpr std::int64_t LastKey = 2'147'483'647;
+    const bool keyed = !row[KeyAt].IsNull();
+    if (!keyed && nextKey_ > LastKey)
+        throw Refusal(table_.name + ": no key is left; \"sorvane-records renumber\" makes room");
+    if (!keyed) row[KeyAt] = static_cast<long long>(nextKey_);
+    if (!writer_.Add(row)) return Compare(row);
+    nextKey_ = std::max(nextKey_, std::get<std::int64_t>(row[KeyAt].Get()) + 1);
+    if (dayAt_ >= 0) days_[Slot(DayOf(row))] = true;
     return Outcome::Added;
 }
 

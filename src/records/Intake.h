@@ -45,9 +45,9 @@ class TableSink {
     // Adds a row unless the table had it before this sink opened: under its key, or, where it has none and is
     // to get the next one, with the same values. A row that the table had once is there already once: what a
     // file holds twice is two rows.
-    Outcome Add(const Row& row);
+    Outcome Add(Row row);
     // Adds it whatever is there.
-    Outcome AddAlways(const Row& row);
+    Outcome AddAlways(Row row);
 
     // The rows of a day, in insertion order.
     struct Found {
@@ -63,11 +63,12 @@ class TableSink {
     void ReadWhatIsThere();
     bool TakeEqual(const Row& row);
     Outcome Compare(const Row& row);
-    bool Had(Date day) const { return before_ > 0 && days_[Slot(day)]; }
+    Date DayOf(const Row& row) const { return row[static_cast<std::size_t>(dayAt_)].ToDate(); }
     static std::size_t Slot(Date day);
     Found Read(const Dao::Rows& rows) const;
 
     const Table& table_;
+    int dayAt_;  // -1 where there is none
     Dao::FileTable shape_;
     Dao::RecordFile& file_;
     Dao::RowWriter writer_;

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "platform/Text.h"
+#include "shell/FamilyFacts.h"
 #include "shell/Global.h"
 
 namespace sorvane::Records {
@@ -12,37 +13,23 @@ namespace {
 
 using Type = Dao::FieldType;
 
-// clang-format off
-//                                       count low top drawn top  bonus  digits
-constexpr PerFamily<NumbersOf> NumberTable{{
-    /* 649 */                           { 6,   1,  49, 6,    49,  true,  false },
-    /* 749: its slip lacks 48 and 49 */ { 7,   1,  47, 7,    49,  true,  false },
-    /* 645 */                           { 6,   1,  45, 6,    45,  true,  false },
-    /* K70 */                           { 10,  1,  70, 20,   70,  false, false },
-    /* K80 */                           { 10,  1,  80, 20,   80,  false, false },
-    /* P3  */                           { 3,   0,  9,  3,    9,   false, true  },
-    /* P4  */                           { 4,   0,  9,  4,    9,   false, true  },
-}};
-// clang-format on
+// What differs from the numbers of the family.
+constexpr int MostBallsOfKeno = 10;
+constexpr int HighestOnSuper7Slip = 47;  // it lacks the last two boxes
 
-struct Shapes {
-    const Creator* played;
-    const Creator* win;
-};
-
-Shapes ShapesOf(Family family) {
-    const PerFamily<Shapes> shapes{{{&CreatePlayed6Table, &CreateWin6Table},
-                                    {&CreatePlayed7Table, &CreateWin7Table},
-                                    {&CreatePlayed6Table, &CreateWin6Table},
-                                    {&CreatePlayedKenoTable, &CreateWinKenoTable},
-                                    {&CreatePlayedKenoTable, &CreateWinKenoTable},
-                                    {&CreatePlayedPick3Table, &CreateWinPick3Table},
-                                    {&CreatePlayedPick4Table, &CreateWinPick4Table}}};
-    return shapes[family];
+constexpr NumbersOf NumbersIn(Family family) {
+    const int drawn = FamilyFacts::NumbersPerTicket[family];
+    const int highest = FamilyFacts::HighestNumber[family];
+    return {.count = IsKeno(family) ? MostBallsOfKeno : drawn,
+            .low = FamilyFacts::LowestNumber[family],
+            .top = family == Family::frm749 ? HighestOnSuper7Slip : highest,
+            .drawn = drawn,
+            .drawnTop = highest,
+            .bonus = !IsKeno(family) && !IsPick(family),
+            .digits = IsPick(family)};
 }
 
-constexpr int TopAddOnNumber = 99;
-constexpr int TopEarlyBird = 45;
+constexpr int TopEarlyBird = FamilyFacts::HighestNumber[Family::frm645];
 
 bool StartsWith(std::string_view text, std::string_view start) { return text.starts_with(start); }
 
@@ -81,8 +68,6 @@ Means MeaningOf(const Field& field, const Table& table) {
 }
 
 void FinishField(Field& field, const Table& table) {
-    constexpr int TextSize = 30;
-    if (field.type == Type::Text) field.size = TextSize;
     field.means = MeaningOf(field, table);
     if (field.means == Means::Number) SetRange(field, table);
     if (field.means == Means::Digit) {
@@ -95,35 +80,30 @@ void FinishField(Field& field, const Table& table) {
 }
 
 void AddFields(Table& table) {
-    for (const ShapeField& shape : table.creator->fields)
-        for (int i = 1; i <= shape.count; ++i) {
-            Field field{std::string(shape.name) + (shape.count > 1 ? Str(i) : ""), shape.type};
-            FinishField(field, table);
-            table.fields.push_back(std::move(field));
-        }
+    const Dao::TableDef made = Define(table);
+    for (const auto& [name, type, size] : made.Fields()) {
+        Field field{name, type, size};
+        FinishField(field, table);
+        table.fields.push_back(std::move(field));
+    }
 }
 
 std::vector<Table> AllTables() {
     std::vector<Table> tables{{"Spent", Use::Spent, &CreateSpentTable},
                               {"Winnings", Use::Winnings, &CreateWinningsTable}};
-    const auto add = [&](std::string_view name, Use use, const Creator* creator, const GameKey* game,
-                         const AddOn* addOn, std::string_view pair) {
-        tables.push_back({std::string(name), use, creator, game, addOn, pair});
-    };
     for (const GameKey& key : GameKeys()) {
-        const Shapes shapes = ShapesOf(key.in);
-        add(key.Played, Use::Played, shapes.played, &key, nullptr, key.Win);
-        add(key.Win, Use::Win, shapes.win, &key, nullptr, key.Played);
+        const CreatorPair make = CreatorsOf(FamilyFacts::NumbersPerTicket[key.in]);
+        tables.push_back({std::string(key.Played), Use::Played, &make.played, &key, nullptr, key.Win});
+        tables.push_back({std::string(key.Win), Use::Win, &make.win, &key, nullptr, key.Played});
     }
     for (const AddOn& addOn : AddOns()) {
-        const bool digits = !addOn.FourNumbers;
-        add(addOn.Played, Use::AddOnPlayed, digits ? &CreatePlayedAddOnTable : &CreatePlayedPick4Table,
-            nullptr, &addOn, addOn.Win);
-        add(addOn.Win, Use::AddOnWin, digits ? &CreateWinAddOnTable : &CreateWinPick4Table, nullptr, &addOn,
-            addOn.Played);
+        const CreatorPair make = CreatorsOf(addOn.ShapeCode());
+        tables.push_back(
+            {std::string(addOn.Played), Use::AddOnPlayed, &make.played, nullptr, &addOn, addOn.Win});
+        tables.push_back({std::string(addOn.Win), Use::AddOnWin, &make.win, nullptr, &addOn, addOn.Played});
     }
-    add("WinEarlyBird", Use::EarlyBird, &CreateWinPick4Table, nullptr, nullptr, {});
-    add("Temp", Use::Scratch, &CreateTempTable, nullptr, nullptr, {});
+    tables.push_back({"WinEarlyBird", Use::EarlyBird, &CreateWinPick4Table});
+    tables.push_back({"Temp", Use::Scratch, &CreateTempTable});
     for (Table& table : tables) AddFields(table);
     return tables;
 }
@@ -258,11 +238,7 @@ const Table* FindTable(std::string_view name) {
     return at == tables.end() ? nullptr : &*at;
 }
 
-Dao::TableDef Define(const Table& table) {
-    Dao::TableDef made(table.name);
-    for (const Field& field : table.fields) made.AppendField(field.name, field.type, field.size);
-    return made;
-}
+Dao::TableDef Define(const Table& table) { return table.creator->Define(table.name); }
 
 Dao::FileTable AsInFile(const Table& table) {
     Dao::FileTable made{table.name, {}, {}};
@@ -291,7 +267,11 @@ bool HasIndex(const Dao::FileTable& table, const Dao::FileIndex& due) {
 }
 
 const NumbersOf& Numbers(Family family) {
-    static constexpr PerFamily<NumbersOf> numbers = NumberTable;
+    static constexpr auto numbers = [] {
+        PerFamily<NumbersOf> all{};
+        for (const Family one : AllFamilies) all.of[static_cast<std::size_t>(one)] = NumbersIn(one);
+        return all;
+    }();
     return numbers[family];
 }
 

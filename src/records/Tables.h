@@ -78,6 +78,10 @@ struct NumbersOf {
     bool digits;  // in their order, and one may come twice
 };
 const NumbersOf& Numbers(Family family);
+// More than the highest number of any game.
+inline constexpr std::size_t MostNumbers = 100;
+// Of the four numbers of an add-on.
+inline constexpr int TopAddOnNumber = 99;
 
 using Row = std::vector<Dao::Value>;
 

@@ -1,5 +1,6 @@
 #include "store/CreateTables.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -47,23 +48,10 @@ constexpr auto WinKenoFields = std::to_array({ID1, DrawDay, Lottoflag, Balls(20)
 constexpr auto TempFields =
     std::to_array({ID1, ShapeField{"Ball_#", Type::Integer}, ShapeField{"Ball_Freq", Type::Integer}});
 
-Dao::TableDef Define(const std::string& TableName, std::span<const ShapeField> fields) {
-    Dao::TableDef Td(TableName);
-    for (const ShapeField& field : fields) {
-        const int size = field.type == Type::Text ? TextSize : 0;
-        if (field.count == 1) Td.AppendField(std::string(field.name), field.type, size);
-        else
-            for (int i = 1; i <= field.count; ++i)
-                Td.AppendField(std::string(field.name) + Str(i), field.type, size);
-    }
-    return Td;
-}
-
 // What a shape code stands for: the creators of the pair, and which key names the Win table.
 struct ShapePair {
     int code;
-    const Creator& played;
-    const Creator& win;
+    CreatorPair make;
     std::optional<std::string> (*WinName)(const Global& global);
 };
 
@@ -114,12 +102,12 @@ std::optional<std::string> MainWin(const Global& global) {
 
 const std::array<ShapePair, 6>& ShapePairs() {
     static const std::array<ShapePair, 6> pairs{{
-        {1, CreatePlayedAddOnTable, CreateWinAddOnTable, AddOnWin},
-        {3, CreatePlayedPick3Table, CreateWinPick3Table, Pick3Win},
-        {4, CreatePlayedPick4Table, CreateWinPick4Table, Pick4Win},
-        {6, CreatePlayed6Table, CreateWin6Table, MainWin<Family::frm649, Family::frm645>},
-        {7, CreatePlayed7Table, CreateWin7Table, MainWin<Family::frm749>},
-        {20, CreatePlayedKenoTable, CreateWinKenoTable, MainWin<Family::frmKeno70, Family::frmKeno80>},
+        {1, {CreatePlayedAddOnTable, CreateWinAddOnTable}, AddOnWin},
+        {3, {CreatePlayedPick3Table, CreateWinPick3Table}, Pick3Win},
+        {4, {CreatePlayedPick4Table, CreateWinPick4Table}, Pick4Win},
+        {6, {CreatePlayed6Table, CreateWin6Table}, MainWin<Family::frm649, Family::frm645>},
+        {7, {CreatePlayed7Table, CreateWin7Table}, MainWin<Family::frm749>},
+        {20, {CreatePlayedKenoTable, CreateWinKenoTable}, MainWin<Family::frmKeno70, Family::frmKeno80>},
     }};
     return pairs;
 }
@@ -160,7 +148,7 @@ struct IndexFields {
 // Appends the table and its indexes. When only the indexes fail, the table stands and their error is
 // returned; any other error is raised.
 int Append(Dao::Database& Db, const NewTable& table, const IndexFields& index) {
-    Db.Append(Define(table.name, table.creator.fields));
+    Db.Append(table.creator.Define(table.name));
     if (!table.creator.indexed) return 0;
     const int error = ErrorOf([&] { CreateIndex(Db, table.name, index.primary, index.second); });
     if (error != 0 && !Db.HasTable(table.name)) Raise(error);
@@ -189,9 +177,28 @@ void Make(Session& session, const std::string& DbName, const NewTable& table, co
 
 }  // namespace
 
+Dao::TableDef Creator::Define(const std::string& TableName) const {
+    Dao::TableDef Td(TableName);
+    for (const ShapeField& field : fields) {
+        const int size = field.type == Type::Text ? TextSize : 0;
+        if (field.count == 1) Td.AppendField(std::string(field.name), field.type, size);
+        else
+            for (int i = 1; i <= field.count; ++i)
+                Td.AppendField(std::string(field.name) + Str(i), field.type, size);
+    }
+    return Td;
+}
+
 void Creator::operator()(Session& session, const StoreTable& table, const std::string& PrimaryField,
                          const std::string& SecondField) const {
     Make(session, table.DbName, {*this, table.TableName}, nullptr, {PrimaryField, SecondField});
+}
+
+CreatorPair CreatorsOf(int ShapeCode) {
+    const auto& pairs = ShapePairs();
+    return std::find_if(pairs.begin(), pairs.end(),
+                        [&](const ShapePair& pair) { return pair.code == ShapeCode; })
+        ->make;
 }
 
 void CreateTableByShape(Session& session, const std::string& DbName, std::string& TableName,
@@ -201,9 +208,9 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
     for (const ShapePair& pair : ShapePairs()) {
         if (pair.code != ShapeCode) continue;
         const auto winName = pair.WinName(session.global);
-        const NewTable win{pair.win, winName.value_or(WinOtherwise)};
+        const NewTable win{pair.make.win, winName.value_or(WinOtherwise)};
         const auto createPair = [&] {
-            Make(session, DbName, {pair.played, TableName}, win.name.empty() ? nullptr : &win, index);
+            Make(session, DbName, {pair.make.played, TableName}, win.name.empty() ? nullptr : &win, index);
         };
         if (pair.code == FourDigits) {
             if (const auto name = Pick4Played(session.global)) TableName = *name;
@@ -216,7 +223,7 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
         }
         if (winName) TableName = *winName;
         MakeSureOf(session, {DbName, TableName}, [&] {
-            pair.win(session, {DbName, TableName}, PrimaryField, SecondField);
+            pair.make.win(session, {DbName, TableName}, PrimaryField, SecondField);
         });
         return;
     }

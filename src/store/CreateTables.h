@@ -28,6 +28,8 @@ struct Creator {
     bool indexed = true;
     void operator()(Session& session, const StoreTable& table, const std::string& PrimaryField,
                     const std::string& SecondField) const;
+    // The table's fields under this name.
+    Dao::TableDef Define(const std::string& TableName) const;
 };
 
 extern const Creator CreateSpentTable;
@@ -45,6 +47,13 @@ extern const Creator CreateWinAddOnTable;
 extern const Creator CreatePlayedKenoTable;
 extern const Creator CreateWinKenoTable;
 extern const Creator CreateTempTable;
+
+// The creators of a shape code's pair; the codes are told at CreateTableByShape.
+struct CreatorPair {
+    const Creator& played;
+    const Creator& win;
+};
+CreatorPair CreatorsOf(int ShapeCode);
 
 // Names of the two index fields, which are also the indexes' names.
 inline const std::string PrimaryFieldName = "ID1";

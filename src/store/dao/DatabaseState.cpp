@@ -102,12 +102,7 @@ int DatabaseState::CountOf(std::string_view table) const {
 
 void DatabaseState::Append(const TableDef& table) {
     if (Exists(table.Name())) Raise(ErrorNumber::TableExists);
-    std::string fields;
-    for (const TableDef::FieldDef& field : table.Fields()) {
-        if (!fields.empty()) fields += ", ";
-        fields += Quoted(field.name) + " " + DeclaredType(field.type, field.size);
-    }
-    Statement create = Prepare("CREATE TABLE " + Quoted(table.Name()) + " (" + fields + ")");
+    Statement create = Prepare(TableSql(table));
     Write(create);
 }
 
@@ -115,14 +110,12 @@ void DatabaseState::AppendIndex(std::string_view table, std::string_view name, s
                                 bool primary) {
     const auto found = FindTable(table);
     if (!found) Raise(ErrorNumber::TableNotFound);
-    const std::string index = IndexName(*found, name);
-    if (Exists(index)) Raise(ErrorNumber::TableExists);
+    if (Exists(IndexName(*found, name))) Raise(ErrorNumber::TableExists);
     const std::vector<Column> columns = ColumnsOf(*found);
-    const std::string key = Quoted(columns[static_cast<std::size_t>(OrdinalOf(columns, field))].name);
-    if (primary && Prepare("SELECT 1 FROM " + Quoted(*found) + " WHERE " + key + " IS NULL").Step())
+    const std::string& key = columns[static_cast<std::size_t>(OrdinalOf(columns, field))].name;
+    if (primary && Prepare("SELECT 1 FROM " + Quoted(*found) + " WHERE " + Quoted(key) + " IS NULL").Step())
         Raise(ErrorNumber::NullInKey);
-    Statement create = Prepare(std::string("CREATE ") + (primary ? "UNIQUE " : "") + "INDEX " +
-                               Quoted(index) + " ON " + Quoted(*found) + " (" + key + ")");
+    Statement create = Prepare(IndexSql(*found, name, key, primary));
     Write(create);
 }
 
@@ -158,6 +151,20 @@ void DatabaseState::LeaveAll() {
 
 std::string IndexName(std::string_view table, std::string_view index) {
     return std::string(table) + "." + std::string(index);
+}
+
+std::string TableSql(const TableDef& table) {
+    std::string fields;
+    for (const TableDef::FieldDef& field : table.Fields()) {
+        if (!fields.empty()) fields += ", ";
+        fields += Quoted(field.name) + " " + DeclaredType(field.type, field.size);
+    }
+    return "CREATE TABLE " + Quoted(table.Name()) + " (" + fields + ")";
+}
+
+std::string IndexSql(std::string_view table, std::string_view index, std::string_view field, bool unique) {
+    return std::string("CREATE ") + (unique ? "UNIQUE " : "") + "INDEX " + Quoted(IndexName(table, index)) +
+           " ON " + Quoted(table) + " (" + Quoted(field) + ")";
 }
 
 }  // namespace sorvane::Dao

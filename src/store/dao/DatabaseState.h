@@ -120,5 +120,8 @@ class DatabaseState {
 
 // Name of an index in the file: "PlayedBC49.Date".
 std::string IndexName(std::string_view table, std::string_view index);
+// The statements that make a table, and an index of that name over one field of it.
+std::string TableSql(const TableDef& table);
+std::string IndexSql(std::string_view table, std::string_view index, std::string_view field, bool unique);
 
 }  // namespace sorvane::Dao

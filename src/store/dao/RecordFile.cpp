@@ -220,20 +220,10 @@ void RecordFile::Rollback() {
 }
 
 void RecordFile::Append(const TableDef& table, bool indexed) {
-    std::string fields;
-    for (const TableDef::FieldDef& field : table.Fields()) {
-        if (!fields.empty()) fields += ", ";
-        fields += Quoted(field.name) + " " + DeclaredType(field.type, field.size);
-    }
-    const std::string& name = table.Name();
-    connection_->Execute("CREATE TABLE " + Quoted(name) + " (" + fields + ")");
+    connection_->Execute(TableSql(table));
     if (!indexed) return;
-    const auto index = [&](const std::string& kind, const std::string& field) {
-        connection_->Execute("CREATE " + kind + Quoted(IndexName(name, field)) + " ON " + Quoted(name) +
-                             " (" + Quoted(field) + ")");
-    };
-    index("UNIQUE INDEX ", "ID1");
-    index("INDEX ", "Date");
+    connection_->Execute(IndexSql(table.Name(), "ID1", "ID1", true));
+    connection_->Execute(IndexSql(table.Name(), "Date", "Date", false));
 }
 
 Rows RecordFile::AllRows(const FileTable& table, Order order) const {
