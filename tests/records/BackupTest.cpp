@@ -2,30 +2,24 @@
 #include "support/FaultVfs.h"
 #include "support/OtherProgram.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-namespace fs = std::filesystem;
-using testing::BytesOf;
-using testing::LinesOf;
-using testing::Tells;
-using Names = std::vector<std::string>;
-
-class Backup : public testing::RecordsWorld {
+class Backup : public RecordsWorld {
   public:
     void SetUp() override {
         Make("WinBC49");
         Sql("INSERT INTO WinBC49 VALUES (1, 46347, 1,2,3,4,5,6,7)");
     }
-    Names In(std::string_view folder) const {
-        Names names;
+    Texts In(std::string_view folder) const {
+        Texts names;
         for (const auto& entry : fs::directory_iterator(Path(folder)))
             names.push_back(entry.path().filename().string());
         std::sort(names.begin(), names.end());
         return names;
     }
     static std::string DrawsIn(const std::string& path) {
-        return testing::PlainFile(path).One("SELECT count(*) FROM WinBC49");
+        return PlainFile(path).One("SELECT count(*) FROM WinBC49");
     }
 };
 using Restore = Backup;
@@ -34,13 +28,13 @@ using Renumber = Backup;
 TEST_F(Backup, IsAWholeCopyUnderANameWithDateAndTime) {
     const Answer answer = Do({"backup"});
     EXPECT_EQ(answer.data, Path("data/backups/sorvane-2026-11-21-201500.mdb") + "\n");
-    EXPECT_EQ(In("data/backups"), Names{"sorvane-2026-11-21-201500.mdb"});
+    EXPECT_EQ(In("data/backups"), Texts{"sorvane-2026-11-21-201500.mdb"});
     EXPECT_EQ(BytesOf(Path("data/backups/sorvane-2026-11-21-201500.mdb")).size(), BytesOf(File()).size());
     EXPECT_EQ(DrawsIn(Path("data/backups/sorvane-2026-11-21-201500.mdb")), "1");
     // A second one in the same second.
     Do({"backup"});
     EXPECT_EQ(In("data/backups"),
-              (Names{"sorvane-2026-11-21-201500-2.mdb", "sorvane-2026-11-21-201500.mdb"}));
+              (Texts{"sorvane-2026-11-21-201500-2.mdb", "sorvane-2026-11-21-201500.mdb"}));
 }
 
 TEST_F(Backup, GoesWhereItIsToldAndNeverOverAFileUnlessForced) {
@@ -53,7 +47,7 @@ TEST_F(Backup, GoesWhereItIsToldAndNeverOverAFileUnlessForced) {
     EXPECT_EQ(DrawsIn(Path("usb/mine.mdb")), "1");
     Do({"backup", Path("usb/mine.mdb"), "--force"});
     EXPECT_EQ(DrawsIn(Path("usb/mine.mdb")), "0");
-    EXPECT_EQ(In("usb"), Names{"mine.mdb"});
+    EXPECT_EQ(In("usb"), Texts{"mine.mdb"});
     EXPECT_TRUE(Tells(Run({"backup", File().string(), "--force"}).words, "this is the file itself"));
 }
 
@@ -64,7 +58,7 @@ TEST_F(Backup, KeepsTheNewestOfItsOwnMakingAndNothingElseIsRemoved) {
                              "sorvane-2024-01-01.mdb", "sorvane-2024-01-01-000000-x.mdb"})
         Write(std::string("data/backups/") + name, "x");
     const Answer answer = Do({"backup", "--keep", "3"});
-    EXPECT_EQ(In("data/backups"), (Names{"mine.mdb", "sorvane-2024-01-01-000000-x.mdb",
+    EXPECT_EQ(In("data/backups"), (Texts{"mine.mdb", "sorvane-2024-01-01-000000-x.mdb",
                                          "sorvane-2024-01-01.mdb", "sorvane-2025-01-01-000000-10.mdb",
                                          "sorvane-2025-06-01-000000.mdb", "sorvane-2026-11-21-201500.mdb"}));
     EXPECT_EQ(LinesOf(answer.words).size(), 2U) << answer.words;
@@ -79,7 +73,7 @@ TEST_F(Backup, OfAFileThatIsNotWholeIsRefusedAndLeavesNothing) {
     const Answer answer = Run({"backup"});
     EXPECT_EQ(answer.status, 1);
     EXPECT_TRUE(Tells(answer.words, "is not whole")) << answer.words;
-    EXPECT_EQ(In("data/backups"), Names());
+    EXPECT_EQ(In("data/backups"), Texts());
 }
 
 TEST_F(Backup, OfNoFileSaysSoAndMakesNoFolder) {
@@ -109,7 +103,7 @@ TEST_F(Backup, ADiskThatFailsLeavesNoCopyAndTheFileAsItIs) {
             if (disk.Failures() == 0) break;
             ++failures;
             EXPECT_EQ(answer.status, 1) << n;
-            EXPECT_EQ(In("usb"), Names()) << n;
+            EXPECT_EQ(In("usb"), Texts()) << n;
             EXPECT_EQ(BytesOf(File()), before);
         }
         EXPECT_GT(failures, 2);
@@ -123,7 +117,7 @@ TEST_F(Restore, PutsTheCopyBackAndKeepsWhatStoodThere) {
     Sql("INSERT INTO WinBC49 VALUES (2, 46348, 1,2,3,4,5,6,7)");
     const Answer answer = Do({"restore", Path("b.mdb")});
     EXPECT_EQ(DrawsIn(File().string()), "1");
-    EXPECT_EQ(In("data"), (Names{"sorvane-before-restore-2026-11-21-201500.mdb", "sorvane.mdb"}));
+    EXPECT_EQ(In("data"), (Texts{"sorvane-before-restore-2026-11-21-201500.mdb", "sorvane.mdb"}));
     EXPECT_EQ(DrawsIn(Path("data/sorvane-before-restore-2026-11-21-201500.mdb")), "2");
     EXPECT_TRUE(
         Tells(answer.words, "is kept as " + Path("data/sorvane-before-restore-2026-11-21-201500.mdb")));
@@ -139,13 +133,13 @@ TEST_F(Restore, WorksWhereThereIsNoFileAndWhereItIsDamaged) {
     fs::remove_all(Path("data"));
     Do({"restore", Path("b.mdb")});
     EXPECT_EQ(DrawsIn(File().string()), "1");
-    EXPECT_EQ(In("data"), Names{"sorvane.mdb"});
+    EXPECT_EQ(In("data"), Texts{"sorvane.mdb"});
     const std::string damaged(5000, 'x');
     Write("data/sorvane.mdb", damaged);
     Write("data/sorvane.mdb-shm", "old");
     Do({"restore", Path("b.mdb")});
     EXPECT_EQ(DrawsIn(File().string()), "1");
-    EXPECT_EQ(In("data"), (Names{"sorvane-before-restore-2026-11-21-201500.mdb",
+    EXPECT_EQ(In("data"), (Texts{"sorvane-before-restore-2026-11-21-201500.mdb",
                                  "sorvane-before-restore-2026-11-21-201500.mdb-shm", "sorvane.mdb"}));
     EXPECT_EQ(BytesOf(Path("data/sorvane-before-restore-2026-11-21-201500.mdb")), damaged);
 }
@@ -154,12 +148,12 @@ TEST_F(Restore, RefusesWhatCheckWouldNotAccept) {
     Do({"backup", Path("b.mdb")});
     const std::string before = BytesOf(File());
     const auto refused = [&](const std::string& sql, const std::string& why) {
-        testing::PlainFile(Path("b.mdb")).Do(sql);
+        PlainFile(Path("b.mdb")).Do(sql);
         const Answer answer = Run({"restore", Path("b.mdb")});
         EXPECT_EQ(answer.status, 1);
         EXPECT_TRUE(Tells(answer.words, why)) << answer.words;
         EXPECT_EQ(BytesOf(File()), before);
-        EXPECT_EQ(In("data"), Names{"sorvane.mdb"});
+        EXPECT_EQ(In("data"), Texts{"sorvane.mdb"});
     };
     refused("UPDATE WinBC49 SET Ball_1 = 50", "WinBC49 ID1 1: Ball_1 \"50\" is not from 1 to 49\n");
     Do({"restore", Path("b.mdb"), "--force"});
@@ -174,7 +168,7 @@ TEST_F(Restore, RefusesWhatCheckWouldNotAccept) {
     EXPECT_TRUE(Tells(Run({"restore", File().string()}).words, "this is the file itself"));
     EXPECT_EQ(Run({"restore"}).status, 2);
     EXPECT_EQ(BytesOf(File()), before);
-    EXPECT_EQ(In("data"), Names{"sorvane.mdb"});
+    EXPECT_EQ(In("data"), Texts{"sorvane.mdb"});
 }
 
 TEST_F(Restore, IsRefusedWhileAnotherProgramHoldsTheFile) {
@@ -185,7 +179,7 @@ TEST_F(Restore, IsRefusedWhileAnotherProgramHoldsTheFile) {
         const Answer answer = Run({"restore", Path("b.mdb")});
         EXPECT_EQ(answer.status, 1) << hold;
         EXPECT_TRUE(Tells(answer.words, "another program holds the file")) << answer.words;
-        EXPECT_EQ(In("data"), Names{"sorvane.mdb"});
+        EXPECT_EQ(In("data"), Texts{"sorvane.mdb"});
         other.Do("ROLLBACK");
     }
     Do({"restore", Path("b.mdb")});
@@ -209,10 +203,10 @@ TEST_F(Renumber, GivesTheKeysOneToNInTheirOrderAfterABackup) {
         "INSERT INTO PlayedBC49 VALUES (1, 46347, 1,2,3,4,5,6, 0,0)");
     const Answer answer = Do({"renumber"});
     EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49 ORDER BY rowid"),
-              (Names{"4|45991", "2|45998", "1|46003", "3|45995"}));
+              (Texts{"4|45991", "2|45998", "1|46003", "3|45995"}));
     EXPECT_EQ(answer.words, "a backup is in " + Path("data/backups/sorvane-2026-11-21-201500.mdb") +
                                 "\nWinBC49: 3 keys counted anew\n");
-    EXPECT_EQ(testing::PlainFile(Path("data/backups/sorvane-2026-11-21-201500.mdb"))
+    EXPECT_EQ(PlainFile(Path("data/backups/sorvane-2026-11-21-201500.mdb"))
                   .One("SELECT group_concat(ID1) FROM WinBC49"),
               "-3,2,5,9");
 }
@@ -239,7 +233,7 @@ TEST_F(Renumber, ChangesNothingWhenTheDiskFailsInTheMiddle) {
         EXPECT_EQ(BytesOf(File()), before) << n;
     }
     EXPECT_GT(failures, 5);
-    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49"), Names{"1"});
+    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49"), Texts{"1"});
 }
 
 TEST_F(Renumber, SavingWorksAgainAfterACleanUpLeftAHole) {
@@ -248,8 +242,8 @@ TEST_F(Renumber, SavingWorksAgainAfterACleanUpLeftAHole) {
     EXPECT_EQ(Run({"check"}).status, 1);
     Do({"renumber"});
     EXPECT_EQ(Run({"check"}).status, 0);
-    EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49 ORDER BY ID1"), (Names{"1|46347", "2|46349"}));
+    EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49 ORDER BY ID1"), (Texts{"1|46347", "2|46349"}));
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -1,12 +1,9 @@
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-using testing::LinesOf;
-using testing::Tells;
-
-class Check : public testing::RecordsWorld {
+class Check : public RecordsWorld {
   public:
     // The findings and notes, with the status that goes with them.
     std::vector<std::string> Findings(int status) {
@@ -21,8 +18,6 @@ class Check : public testing::RecordsWorld {
     }
 };
 
-using Lines = std::vector<std::string>;
-
 TEST_F(Check, FindsNothingInAFileOfEveryTable) {
     for (const Records::Table& table : Records::Tables()) Make(table.name);
     const Answer answer = Do({"check"});
@@ -33,12 +28,12 @@ TEST_F(Check, FindsNothingInAFileOfEveryTable) {
 TEST_F(Check, FindsNumbersThatTheGameLacks) {
     Make("PlayedSuper7");
     Sql("INSERT INTO PlayedSuper7 VALUES (1, 46347, 1,2,3,4,5,6,48, 0)");
-    const Lines findings = Findings(1);
+    const Texts findings = Findings(1);
     EXPECT_EQ(findings[0], "PlayedSuper7 ID1 1: Ball_7 \"48\" is not from 1 to 47");
     Sql("DELETE FROM PlayedSuper7");
     Make("WinSuper7");
     Sql("INSERT INTO WinSuper7 VALUES (1, 46347, 1,2,3,4,5,6,48, 49)");
-    EXPECT_EQ(Findings(0), Lines());
+    EXPECT_EQ(Findings(0), Texts());
 }
 
 TEST_F(Check, FindsATicketWithANumberTwice) {
@@ -58,7 +53,7 @@ TEST_F(Check, TakesAnAddOnThatWasNotPlayedButNotInPart) {
     Make("PlayedEncore");
     Sql("INSERT INTO PlayedEncore VALUES (1, 'Lotto649', 46347, 99,99,99,99,99,99, NULL),"
         "(2, 'Lotto649', 46347, 99,99,99,99,99,1, NULL), (3, 'Lotto649', 46347, 0,1,2,3,4,10, NULL)");
-    EXPECT_EQ(Findings(1), Lines({"PlayedEncore ID1 2: Number 6 belongs to a number that is played in part",
+    EXPECT_EQ(Findings(1), Texts({"PlayedEncore ID1 2: Number 6 belongs to a number that is played in part",
                                   "PlayedEncore ID1 3: Number 6 \"10\" is not from 0 to 9"}));
 }
 
@@ -71,9 +66,9 @@ TEST_F(Check, WesternExtraNeedsItsSeventhDigit) {
 TEST_F(Check, KnowsTheOddPlaceOfTheEarlyBirdDraw) {
     Make("WinEarlyBird");
     Sql("INSERT INTO WinEarlyBird VALUES (1, '2006-03-11', 7, 8, 9, 45, NULL)");
-    EXPECT_EQ(Findings(0), Lines());
+    EXPECT_EQ(Findings(0), Texts());
     Sql("UPDATE WinEarlyBird SET Date = 46, Lottoflag = 'Lottario'");
-    EXPECT_EQ(Findings(1), Lines({"WinEarlyBird ID1 1: Lottoflag \"Lottario\" is no date",
+    EXPECT_EQ(Findings(1), Texts({"WinEarlyBird ID1 1: Lottoflag \"Lottario\" is no date",
                                   "WinEarlyBird ID1 1: Date holds no number from 1 to 45"}));
 }
 
@@ -82,8 +77,8 @@ TEST_F(Check, FindsWaysDatesAmountsMarksAndGamesThatAreNone) {
     Make("Spent");
     Sql("INSERT INTO PlayedONTPick3 VALUES (1, 'Quote3', 'soon', 0,1,2, 'Sideways', 'maybe')");
     Sql("INSERT INTO Spent VALUES (1, 'Bingo', 46347, 'much'), (2, NULL, 1e9, 1)");
-    const Lines findings = Findings(1);
-    EXPECT_EQ(findings, Lines({"PlayedONTPick3 ID1 1: Lottoflag \"Quote3\" is not \"ONTPick3\"",
+    const Texts findings = Findings(1);
+    EXPECT_EQ(findings, Texts({"PlayedONTPick3 ID1 1: Lottoflag \"Quote3\" is not \"ONTPick3\"",
                                "PlayedONTPick3 ID1 1: Date \"soon\" is no date",
                                "PlayedONTPick3 ID1 1: Way Played \"Sideways\" is no way of playing",
                                "PlayedONTPick3 ID1 1: Regular \"maybe\" is neither true nor false",
@@ -108,7 +103,7 @@ TEST_F(Check, FindsKeysThatAreNoneAndKeysThatTwoRowsHave) {
     Sql("INSERT INTO WinBC49 VALUES (NULL,46000,1,2,3,4,5,6,7), (1,46001,1,2,3,4,5,6,7),"
         "(1,46002,1,2,3,4,5,6,7), ('x',46003,1,2,3,4,5,6,7)");
     EXPECT_EQ(Findings(1),
-              Lines({"WinBC49: the index over ID1 is missing or another", "WinBC49 row 1: ID1 is empty",
+              Texts({"WinBC49: the index over ID1 is missing or another", "WinBC49 row 1: ID1 is empty",
                      "WinBC49 ID1 1: two rows have it", "WinBC49 row 4: ID1 \"x\" is no whole number"}));
 }
 
@@ -119,7 +114,7 @@ TEST_F(Check, FindsTablesThatAreNotAsTheProgramMakesThem) {
         "CREATE TABLE Mine (a); CREATE VIEW Seen AS SELECT * FROM Mine;"
         "CREATE TRIGGER t AFTER INSERT ON Mine BEGIN SELECT 1; END");
     EXPECT_EQ(Findings(1),
-              Lines({"Spent: field 4 Spent is of the type VARCHAR instead of CURRENCY",
+              Texts({"Spent: field 4 Spent is of the type VARCHAR instead of CURRENCY",
                      "Spent: the field Extra is none of the program's",
                      "Winnings: field 2 is Date instead of Lottoflag", "Winnings: the field Date is missing",
                      "Winnings: the field Winnings is missing",
@@ -142,7 +137,7 @@ TEST_F(Check, NotesWhatIsOddButCanBeRead) {
         "INSERT INTO Winnings VALUES (1, 'BC49', 46349, 1)");
     const Answer answer = Do({"check"});
     EXPECT_EQ(LinesOf(answer.data),
-              Lines({"note: WinBC49 ID1 1: Date has a time of day", "note: WinBC49 ID1 1: 1 is drawn twice",
+              Texts({"note: WinBC49 ID1 1: Date has a time of day", "note: WinBC49 ID1 1: 1 is drawn twice",
                      "note: BC49 2026-11-21: tickets, but no row in Spent",
                      "note: BC49 2026-11-22: a row in Spent, but no tickets",
                      "note: BC49 2026-11-23: a row in Winnings, but no tickets"}));
@@ -157,7 +152,7 @@ TEST_F(Check, FindsAFileThatIsNotWhole) {
     Sql("PRAGMA writable_schema = ON;"
         "UPDATE sqlite_schema SET sql = 'CREATE INDEX \"WinBC49.Date\" ON \"WinBC49\" (\"Ball_1\")' "
         "WHERE name = 'WinBC49.Date'");
-    const Lines findings = Findings(1);
+    const Texts findings = Findings(1);
     ASSERT_GE(findings.size(), 2U);
     EXPECT_TRUE(Tells(findings.front(), "WinBC49.Date")) << findings.front();
 }
@@ -177,4 +172,4 @@ TEST_F(Check, ShowsABarOnATerminalOnceASecondHasPassed) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

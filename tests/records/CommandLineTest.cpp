@@ -1,10 +1,9 @@
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-using CommandLine = testing::RecordsWorld;
-using testing::Tells;
+using CommandLine = RecordsWorld;
 
 TEST_F(CommandLine, WrongUseIsToldInWordsWithTheStatusTwo) {
     const std::vector<std::vector<std::string>> wrong = {{},
@@ -36,4 +35,4 @@ TEST_F(CommandLine, EveryCommandHasHelp) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

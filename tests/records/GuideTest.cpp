@@ -1,10 +1,8 @@
 // The worked examples of the player's guide, done as they stand.
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
-
-namespace fs = std::filesystem;
 
 // A fenced block: what stands behind the fence, and its lines.
 struct Block {
@@ -41,7 +39,7 @@ std::vector<std::string> WordsOf(const std::string& command) {
     return words;
 }
 
-class Guide : public testing::RecordsWorld {
+class Guide : public RecordsWorld {
   public:
     Guide() : home_(fs::current_path()) { fs::current_path(world.folder.Path()); }
     ~Guide() override { fs::current_path(home_); }
@@ -88,14 +86,14 @@ TEST_F(Guide, EveryExampleDoesWhatIsToldOfIt) {
 
 // Every command and each of its options is in the manual page, and every command has an example there.
 TEST_F(Guide, TheManualPageTellsEveryCommandAndOption) {
-    const std::string page = testing::BytesOf(SORVANE_SOURCE_FOLDER "/docs/sorvane-records.1");
+    const std::string page = BytesOf(SORVANE_SOURCE_FOLDER "/docs/sorvane-records.1");
     std::string plain;
     for (std::size_t i = 0; i < page.size(); ++i)
         if (page[i] != '\\') plain += page[i];
     for (const char* command :
          {"show", "check", "backup", "restore", "renumber", "export", "import", "draws", "tickets"}) {
-        EXPECT_TRUE(testing::Tells(plain, "\n.SS " + std::string(command))) << command;
-        EXPECT_TRUE(testing::Tells(plain, "\nsorvane-records " + std::string(command))) << command;
+        EXPECT_TRUE(Tells(plain, "\n.SS " + std::string(command))) << command;
+        EXPECT_TRUE(Tells(plain, "\nsorvane-records " + std::string(command))) << command;
         std::istringstream help(Do({command, "--help"}).data);
         const std::size_t section = plain.find("\n.SS " + std::string(command));
         const std::string told = plain.substr(section, plain.find("\n.S", section + 1) - section);
@@ -103,10 +101,10 @@ TEST_F(Guide, TheManualPageTellsEveryCommandAndOption) {
             if (const std::size_t end = word.find(','); end != std::string::npos) word = word.substr(end + 1);
             if (word.rfind("--", 0) != 0 || word == "--help" || word == "--data" || word == "--list\"")
                 continue;
-            EXPECT_TRUE(testing::Tells(told, word)) << command << " " << word;
+            EXPECT_TRUE(Tells(told, word)) << command << " " << word;
         }
     }
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -1,26 +1,20 @@
 #include "records/GameFile.h"
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-namespace fs = std::filesystem;
-using testing::BytesOf;
-using testing::LinesOf;
-using testing::Tells;
-using Lines = std::vector<std::string>;
-
-class Draws : public testing::RecordsWorld {
+class Draws : public RecordsWorld {
   public:
     // The findings without the file's name and the last line, which counts them; the file stays as it was.
-    Lines Findings(std::vector<std::string> arguments) {
+    Texts Findings(std::vector<std::string> arguments) {
         const bool there = fs::exists(File());
         const std::string before = there ? BytesOf(File()) : "";
         const Answer answer = Run(arguments);
         EXPECT_EQ(answer.status, 1) << answer.words;
         EXPECT_EQ(there ? BytesOf(File()) : "", before);
         EXPECT_EQ(fs::exists(File()), there);
-        Lines lines = LinesOf(answer.words);
+        Texts lines = LinesOf(answer.words);
         if (!lines.empty()) lines.pop_back();
         for (std::string& line : lines)
             if (line.rfind(Path(""), 0) == 0) line.erase(0, Path("").size());
@@ -30,7 +24,7 @@ class Draws : public testing::RecordsWorld {
 using Tickets = Draws;
 
 TEST_F(Draws, ListNamesEveryGameWithItsRegionKeyAndAddOn) {
-    const Lines lines = LinesOf(Do({"draws", "--list"}).data);
+    const Texts lines = LinesOf(Do({"draws", "--list"}).data);
     EXPECT_EQ(lines.size(), 22U);
     EXPECT_EQ(lines.front(), "British Columbia/Lotto 6/49\tLotto649\tExtra");
     EXPECT_EQ(lines[3], "British Columbia/Daily 3\tBCDaily3");
@@ -43,8 +37,8 @@ TEST_F(Draws, GoIntoTheWinTableAsTheCheckPageStoresThem) {
                                    "Draw Date,Number 1,Number 2,Number 3,Number 4,Number 5,Number 6,Bonus\n"
                                    "2026-11-14,40,2,3,4,5,6,7\n11/18/2026,1,2,3,4,5,6,49\n");
     EXPECT_EQ(Do({"draws", "Ontario/Lotto 6/49", file}).words, "WinLotto649: 2 draws added\n");
-    EXPECT_EQ(Ask("SELECT * FROM WinLotto649"), (Lines{"1|46340|40|2|3|4|5|6|7", "2|46344|1|2|3|4|5|6|49"}));
-    EXPECT_EQ(world.Plain().Tables(), (Lines{"PlayedLotto649", "WinLotto649"}));
+    EXPECT_EQ(Ask("SELECT * FROM WinLotto649"), (Texts{"1|46340|40|2|3|4|5|6|7", "2|46344|1|2|3|4|5|6|49"}));
+    EXPECT_EQ(world.Plain().Tables(), (Texts{"PlayedLotto649", "WinLotto649"}));
     EXPECT_EQ(Run({"check"}).status, 0);
 }
 
@@ -63,20 +57,20 @@ TEST_F(Draws, TakeColumnsInAnyOrderByHeaderOrByNames) {
         "date,numbers,bonus"});
     Do({"draws", "BC49", Write("c.csv", "Tag,Zahlen\n\"Wed, Nov 18, 2026\",\"1,2,3,4,5,6 + 7\"\n"),
         "--columns", "date,numbers"});
-    EXPECT_EQ(Ask("SELECT * FROM WinBC49"), (Lines{"1|46340|1|2|3|4|5|46|7", "2|46342|1|2|3|4|5|6|49",
+    EXPECT_EQ(Ask("SELECT * FROM WinBC49"), (Texts{"1|46340|1|2|3|4|5|46|7", "2|46342|1|2|3|4|5|6|49",
                                                    "3|46347|1|2|3|4|5|6|7", "4|46344|1|2|3|4|5|6|7"}));
 }
 
 TEST_F(Draws, WithDigitsAndKenoFollowTheirTables) {
     Do({"draws", "Ontario/Pick 3", Write("p.csv", "date,numbers,encore\n2026-11-21,482,012345\n")});
-    EXPECT_EQ(Ask("SELECT * FROM WinONTPick3"), Lines{"1|ONTPick3|46347|4|8|2"});
-    EXPECT_EQ(Ask("SELECT * FROM WinEncore"), Lines{"1|ONTPick3|46347|0|1|2|3|4|5|NULL"});
+    EXPECT_EQ(Ask("SELECT * FROM WinONTPick3"), Texts{"1|ONTPick3|46347|4|8|2"});
+    EXPECT_EQ(Ask("SELECT * FROM WinEncore"), Texts{"1|ONTPick3|46347|0|1|2|3|4|5|NULL"});
     Do({"draws", "Play 4", Write("f.csv", "date,1,2,3,4\n2026-11-21,9,9,0,9\n")});
-    EXPECT_EQ(Ask("SELECT * FROM WinFLAPlay4"), Lines{"1|FLAPlay4|46347|9|9|0|9"});
+    EXPECT_EQ(Ask("SELECT * FROM WinFLAPlay4"), Texts{"1|FLAPlay4|46347|9|9|0|9"});
     Do({"draws", "Daily Keno",
         Write("k.csv", "date,numbers\n2026-11-21,1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 70\n")});
     EXPECT_EQ(Ask("SELECT * FROM WinONTKeno"),
-              Lines{"1|46347|ONTKeno|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|70"});
+              Texts{"1|46347|ONTKeno|1|2|3|4|5|6|7|8|9|10|11|12|13|14|15|16|17|18|19|70"});
     EXPECT_EQ(Run({"check"}).status, 0);
 }
 
@@ -85,16 +79,16 @@ TEST_F(Draws, BringTheAddOnOfTheirRegion) {
         Write(
             "b.csv",
             "date,numbers,bonus,extra\n2026-11-14,1 2 3 4 5 6,7,10-20-30-99\n2026-11-21,1 2 3 4 5 6,7,\n")});
-    EXPECT_EQ(Ask("SELECT * FROM WinExtra"), Lines{"1|BC49|46340|10|20|30|99"});
+    EXPECT_EQ(Ask("SELECT * FROM WinExtra"), Texts{"1|BC49|46340|10|20|30|99"});
     // Another game of the region has its own four numbers on the same day.
     Do({"draws", "British Columbia/Super 7",
         Write("s.csv",
               "date,numbers,bonus,extra1,extra2,extra3,extra4\n2026-11-14,1 2 3 4 5 6 48,7,1,2,3,4\n")});
-    EXPECT_EQ(Ask("SELECT * FROM WinExtra"), (Lines{"1|BC49|46340|10|20|30|99", "2|Super 7|46340|1|2|3|4"}));
+    EXPECT_EQ(Ask("SELECT * FROM WinExtra"), (Texts{"1|BC49|46340|10|20|30|99", "2|Super 7|46340|1|2|3|4"}));
     Do({"draws", "Western Canada/Super 7",
         Write("w.csv", "date,numbers,bonus,Western Extra\n2026-11-15,1 2 3 4 5 6 7,8,1234567\n"), "--columns",
         "date,numbers,bonus,WESTExtra"});
-    EXPECT_EQ(Ask("SELECT * FROM WinWESTExtra"), Lines{"1|Super 7|46341|1|2|3|4|5|6|7"});
+    EXPECT_EQ(Ask("SELECT * FROM WinWESTExtra"), Texts{"1|Super 7|46341|1|2|3|4|5|6|7"});
     // Without a region there is no add-on; the column is told of.
     EXPECT_TRUE(Tells(Do({"draws", "Lotto649",
                           Write("l.csv", "date,numbers,bonus,encore\n2026-11-14,1 2 3 4 5 6,7,123456\n")})
@@ -111,10 +105,10 @@ TEST_F(Draws, OfADateThatIsThereAreLeftAloneOrReplaced) {
     EXPECT_EQ(Do({"draws", "BC49", file}).words,
               "WinBC49: 1 draw added, 2 there already, 1 with other numbers left alone (--replace takes the "
               "file's)\n");
-    EXPECT_EQ(Ask("SELECT Ball_B FROM WinBC49 ORDER BY ID1"), (Lines{"7", "7", "7"}));
+    EXPECT_EQ(Ask("SELECT Ball_B FROM WinBC49 ORDER BY ID1"), (Texts{"7", "7", "7"}));
     EXPECT_EQ(Do({"draws", "BC49", file, "--replace"}).words,
               "WinBC49: 0 draws added, 3 there already, 1 replaced\n");
-    EXPECT_EQ(Ask("SELECT ID1, Ball_B FROM WinBC49 ORDER BY ID1"), (Lines{"1|7", "2|8", "3|7"}));
+    EXPECT_EQ(Ask("SELECT ID1, Ball_B FROM WinBC49 ORDER BY ID1"), (Texts{"1|7", "2|8", "3|7"}));
 }
 
 TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
@@ -126,7 +120,7 @@ TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
               "2026-11-18,1,2,3,4,5,x,7\n2026-11-19,1,2,3,4,5,6,7\n"
               "2026-11-19,1,2,3,4,5,6,8\n2026-11-22,1,2,3,4,5,6,7\n2026-11-20,1,2,3,4,5,6,\"7");
     EXPECT_EQ(Findings({"draws", "BC49", file}),
-              (Lines{"d.csv:2:22: 50 is not from 1 to 49", "d.csv:3:1: \"soon\" is no date",
+              (Texts{"d.csv:2:22: 50 is not from 1 to 49", "d.csv:3:1: \"soon\" is no date",
                      "d.csv:4:1: 5 stands there twice", "d.csv:5:1: the bonus number 6 is among the others",
                      "d.csv:6:1: this line has 4 cells instead of 8", "d.csv:7:22: \"x\" is no whole number",
                      "d.csv:9:1: 2026-11-19 is drawn twice in this file, with other numbers",
@@ -137,18 +131,18 @@ TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
 TEST_F(Draws, OfLottarioEndAt45AndOfSuper7At49) {
     const std::string row = "date,numbers,bonus\n2026-11-14,1 2 3 4 5 46,7\n";
     EXPECT_EQ(Findings({"draws", "Lottario", Write("l.csv", row)}),
-              Lines{"l.csv:2:12: 46 is not from 1 to 45"});
+              Texts{"l.csv:2:12: 46 is not from 1 to 45"});
     Do({"draws", "Super 7", Write("s.csv", "date,numbers,bonus\n2026-11-14,1 2 3 4 5 48 49,7\n")});
 }
 
 TEST_F(Draws, WithoutTheColumnsTheyNeedAreRefused) {
     EXPECT_EQ(Findings({"draws", "BC49", Write("d.csv", "day,1,2,3\n")}),
-              (Lines{"d.csv:1:1: the column \"date\" is missing",
+              (Texts{"d.csv:1:1: the column \"date\" is missing",
                      "d.csv:1:1: the column \"numbers\", or one of \"1\" to \"6\", is missing",
                      "d.csv:1:1: the column \"bonus\" is missing"}));
     EXPECT_EQ(Findings({"draws", "BC49", Write("d.csv", "date,1,2,3,3,4,5,6,bonus\n")}),
-              Lines{"d.csv:1:12: \"3\" says the same as a column before it"});
-    EXPECT_EQ(Findings({"draws", "BC49", Write("d.csv", "")}), Lines{"d.csv:1:1: this file has no line"});
+              Texts{"d.csv:1:12: \"3\" says the same as a column before it"});
+    EXPECT_EQ(Findings({"draws", "BC49", Write("d.csv", "")}), Texts{"d.csv:1:1: this file has no line"});
 }
 
 TEST_F(Draws, AGameIsFoundByCaptionWithRegionOrKeyAndNothingElse) {
@@ -164,48 +158,48 @@ TEST_F(Draws, AGameIsFoundByCaptionWithRegionOrKeyAndNothingElse) {
 
 TEST_F(Draws, KeepTheDayFirstWhereThatIsTold) {
     Do({"draws", "BC49", Write("d.csv", "date,numbers,bonus\n04/07/2020,1 2 3 4 5 6,7\n"), "--day-first"});
-    EXPECT_EQ(Ask("SELECT date('1899-12-30', Date || ' days') FROM WinBC49"), Lines{"2020-07-04"});
+    EXPECT_EQ(Ask("SELECT date('1899-12-30', Date || ' days') FROM WinBC49"), Texts{"2020-07-04"});
 }
 
 TEST_F(Tickets, GoIntoThePlayedTableAsASavedSheetDoes) {
     Do({"tickets", "BC49",
         Write("a.csv", "date,numbers,regular\n2026-11-21,49 2 3 4 5 6,yes\n2026-11-21,1 2 3 4 5 6,\n")});
     EXPECT_EQ(Ask("SELECT * FROM PlayedBC49"),
-              (Lines{"1|46347|2|3|4|5|6|49|1|0", "2|46347|1|2|3|4|5|6|0|0"}));
+              (Texts{"1|46347|2|3|4|5|6|49|1|0", "2|46347|1|2|3|4|5|6|0|0"}));
     Do({"tickets", "Lottario",
         Write("l.csv", "date,numbers,early bird,encore\n2026-11-21,1 2 3 4 5 6,x,123456\n")});
-    EXPECT_EQ(Ask("SELECT * FROM PlayedLottario"), Lines{"1|46347|1|2|3|4|5|6|0|1"});
-    EXPECT_EQ(Ask("SELECT * FROM PlayedEncore"), Lines{"1|Lottario|46347|1|2|3|4|5|6|NULL"});
+    EXPECT_EQ(Ask("SELECT * FROM PlayedLottario"), Texts{"1|46347|1|2|3|4|5|6|0|1"});
+    EXPECT_EQ(Ask("SELECT * FROM PlayedEncore"), Texts{"1|Lottario|46347|1|2|3|4|5|6|NULL"});
     Do({"tickets", "Daily Keno",
         Write("k.csv",
               "date,wager,1,2,3,4,5,6,7,8,9,10\n2026-11-21,2,70,7,20,,,,,,,\n2026-11-21,,1,2,3,4,5,6,7,8,9,"
               "10\n")});
-    EXPECT_EQ(Ask("SELECT * FROM PlayedONTKeno"), (Lines{"1|46347|ONTKeno|7|20|70|0|0|0|0|0|0|0|2|3|0",
+    EXPECT_EQ(Ask("SELECT * FROM PlayedONTKeno"), (Texts{"1|46347|ONTKeno|7|20|70|0|0|0|0|0|0|0|2|3|0",
                                                          "2|46347|ONTKeno|1|2|3|4|5|6|7|8|9|10|0|10|0"}));
     Do({"tickets", "Ca$h 3", Write("f.csv", "date,numbers,way,regular\n2026-11-21,909,straight box,true\n")});
-    EXPECT_EQ(Ask("SELECT * FROM PlayedFLACash3"), Lines{"1|FLACash3|46347|9|0|9|StraightBox|1"});
+    EXPECT_EQ(Ask("SELECT * FROM PlayedFLACash3"), Texts{"1|FLACash3|46347|9|0|9|StraightBox|1"});
     Do({"tickets", "British Columbia/BC/49",
         Write("e.csv", "date,numbers,extra\n2026-11-22,1 2 3 4 5 6,10 20 30 40\n")});
-    EXPECT_EQ(Ask("SELECT * FROM PlayedExtra"), Lines{"1|BC49|46348|10|20|30|40|NULL|0"});
+    EXPECT_EQ(Ask("SELECT * FROM PlayedExtra"), Texts{"1|BC49|46348|10|20|30|40|NULL|0"});
     EXPECT_EQ(Run({"check"}).status, 0) << Run({"check"}).data;
 }
 
 TEST_F(Tickets, KeepToWhatTheSlipOffers) {
     EXPECT_EQ(Findings({"tickets", "Super 7", Write("s.csv", "date,numbers\n2026-11-21,1 2 3 4 5 6 48\n")}),
-              Lines{"s.csv:2:12: 48 is not from 1 to 47"});
+              Texts{"s.csv:2:12: 48 is not from 1 to 47"});
     EXPECT_EQ(
         Findings({"tickets", "Ontario/Pick 3", Write("p.csv", "date,numbers,way\n2026-11-21,123,Combo\n")}),
-        Lines{"p.csv:2:16: \"Combo\" is none of the ways Straight, Box"});
+        Texts{"p.csv:2:16: \"Combo\" is none of the ways Straight, Box"});
     EXPECT_EQ(Findings({"tickets", "Ontario/Pick 3", Write("p.csv", "date,numbers\n2026-11-21,123\n")}),
-              Lines{"p.csv:1:1: the column \"way\" is missing"});
+              Texts{"p.csv:1:1: the column \"way\" is missing"});
     EXPECT_EQ(Findings({"tickets", "Daily Keno",
                         Write("k.csv", "date,numbers,wager\n2026-11-21,1 2,2.50\n2026-11-21,,1\n")}),
-              (Lines{"k.csv:2:1: a wager is in whole dollars", "k.csv:3:1: 0 numbers instead of 1 to 10"}));
-    EXPECT_EQ(Findings({"tickets", "Ontario/BC49", Path("p.csv")}), Lines());
+              (Texts{"k.csv:2:1: a wager is in whole dollars", "k.csv:3:1: 0 numbers instead of 1 to 10"}));
+    EXPECT_EQ(Findings({"tickets", "Ontario/BC49", Path("p.csv")}), Texts());
     EXPECT_EQ(
         Findings({"tickets", "Ontario/Lotto 6/49",
                   Write("e.csv", "date,numbers,encore,regular\n2026-11-21,1 2 3 4 5 6,12345,often\n")}),
-        (Lines{"e.csv:2:24: \"12345\" has not 6 digits", "e.csv:2:30: \"often\" is neither yes nor no"}));
+        (Texts{"e.csv:2:24: \"12345\" has not 6 digits", "e.csv:2:30: \"often\" is neither yes nor no"}));
 }
 
 TEST_F(Tickets, BookTheUsualPriceOfEachDate) {
@@ -213,13 +207,13 @@ TEST_F(Tickets, BookTheUsualPriceOfEachDate) {
         Write("a.csv",
               "date,numbers\n2026-11-21,1 2 3 4 5 6\n2026-11-21,1 2 3 4 5 7\n2026-11-14,1 2 3 4 5 6\n"),
         "--spent"});
-    EXPECT_EQ(Ask("SELECT * FROM Spent"), (Lines{"1|BC49|46340|0.5", "2|BC49|46347|1"}));
+    EXPECT_EQ(Ask("SELECT * FROM Spent"), (Texts{"1|BC49|46340|0.5", "2|BC49|46347|1"}));
     // Two of three came free.
     Do({"tickets", "Super 7",
         Write("s.csv",
               "date,numbers\n2026-11-21,1 2 3 4 5 6 7\n2026-11-21,1 2 3 4 5 6 8\n2026-11-21,1 2 3 4 5 6 9\n"),
         "--spent"});
-    EXPECT_EQ(Ask("SELECT Spent FROM Spent WHERE ID1 = 3"), Lines{"2"});
+    EXPECT_EQ(Ask("SELECT Spent FROM Spent WHERE ID1 = 3"), Texts{"2"});
     EXPECT_TRUE(
         Tells(Do({"tickets", "Daily Keno",
                   Write("k.csv", "date,numbers,wager\n2026-11-21,1 2,5\n2026-11-21,1 3,2\n"), "--spent"})
@@ -231,15 +225,15 @@ TEST_F(Tickets, BookWhatTheFileTellsAndOnlyTicketsThatAreNew) {
     const std::string file =
         Write("s.csv", "date,numbers,price\n2026-11-21,1 2 3 4 5 6 7,$3.00\n2026-11-21,1 2 3 4 5 6 8,\n");
     Do({"tickets", "Super 7", file, "--spent"});
-    EXPECT_EQ(Ask("SELECT * FROM Spent"), Lines{"1|Super 7|46347|3"});
+    EXPECT_EQ(Ask("SELECT * FROM Spent"), Texts{"1|Super 7|46347|3"});
     EXPECT_EQ(Do({"tickets", "Super 7", file, "--spent"}).words,
               "PlayedSuper7: 0 tickets added, 2 there already\n");
-    EXPECT_EQ(Ask("SELECT count(*) FROM Spent"), Lines{"1"});
+    EXPECT_EQ(Ask("SELECT count(*) FROM Spent"), Texts{"1"});
     Do({"tickets", "Super 7", Write("n.csv", "date,numbers,price\n2026-11-21,1 2 3 4 5 6 9,3\n"), "--spent"});
-    EXPECT_EQ(Ask("SELECT Spent FROM Spent"), (Lines{"3", "3"}));
+    EXPECT_EQ(Ask("SELECT Spent FROM Spent"), (Texts{"3", "3"}));
     EXPECT_EQ(Findings({"tickets", "Ca$h 3", Write("f.csv", "date,numbers,way,wager\n2026-11-21,909,box,\n"),
                         "--spent"}),
-              Lines{"f.csv:2:1: what this ticket cost is missing"});
+              Texts{"f.csv:2:1: what this ticket cost is missing"});
 }
 
 TEST_F(Tickets, ADryRunChangesNothing) {
@@ -250,4 +244,4 @@ TEST_F(Tickets, ADryRunChangesNothing) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

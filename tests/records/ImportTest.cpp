@@ -2,28 +2,22 @@
 #include "support/FaultVfs.h"
 #include "support/OtherProgram.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-namespace fs = std::filesystem;
-using testing::BytesOf;
-using testing::LinesOf;
-using testing::Tells;
-using Lines = std::vector<std::string>;
-
-class Import : public testing::RecordsWorld {
+class Import : public RecordsWorld {
   public:
     static constexpr const char* Header = "ID1,Date,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_6,Ball_B\n";
     std::string Csv(const std::string& rows) const { return Write("in/WinBC49.csv", Header + rows); }
     // The findings, without the folder's name and the last line, which counts them.
-    Lines Findings() {
+    Texts Findings() {
         const bool there = fs::exists(File());
         const std::string before = there ? BytesOf(File()) : "";
         const Answer answer = Run({"import", Path("in")});
         EXPECT_EQ(answer.status, 1) << answer.words;
         EXPECT_EQ(fs::exists(File()), there);
         EXPECT_EQ(there ? BytesOf(File()) : "", before);
-        Lines lines = LinesOf(answer.words);
+        Texts lines = LinesOf(answer.words);
         EXPECT_FALSE(lines.empty());
         if (!lines.empty()) {
             EXPECT_TRUE(Tells(lines.back(), "nothing was changed")) << lines.back();
@@ -76,8 +70,8 @@ TEST_F(Export, AndImportIntoAnEmptyFolderGivesTheSameRowsInEveryTable) {
     const auto before = AllRows();
     EXPECT_EQ(before.size(), Records::Tables().size() * 3);
     const auto types = [&] {
-        Lines all;
-        testing::PlainFile file(world.DbName());
+        Texts all;
+        PlainFile file(world.DbName());
         for (const Records::Table& table : Records::Tables()) {
             std::string columns;
             for (const Records::Field& field : table.fields)
@@ -88,8 +82,8 @@ TEST_F(Export, AndImportIntoAnEmptyFolderGivesTheSameRowsInEveryTable) {
         std::sort(all.begin(), all.end());
         return all;
     };
-    const Lines typesBefore = types();
-    const Lines schema = Ask("SELECT sql FROM sqlite_schema ORDER BY sql");
+    const Texts typesBefore = types();
+    const Texts schema = Ask("SELECT sql FROM sqlite_schema ORDER BY sql");
     Do({"export", Path("out")});
     fs::remove_all(Path("data"));
     Do({"import", Path("out")});
@@ -164,15 +158,15 @@ TEST_F(Import, TakesCsvAsOtherDatabaseToolsWriteIt) {
           "ID1,Lottoflag,Date,Winnings\n1,\"Super 7\",03/11/06 00:00:00,\"$1,250.0000\"\n");
     Do({"import", Path("in")});
     EXPECT_EQ(Ask("SELECT * FROM PlayedLottario"),
-              (Lines{"1|38787|1|2|3|4|5|45|1|0", "2|38794|1|2|3|4|5|6|1|0"}));
-    EXPECT_EQ(Ask("SELECT * FROM PlayedONTKeno"), Lines{"1|38787|ONTKeno|7|20|70|0|0|0|0|0|0|0|5|3|1"});
-    EXPECT_EQ(Ask("SELECT * FROM Winnings"), Lines{"1|Super 7|38787|1250"});
+              (Texts{"1|38787|1|2|3|4|5|45|1|0", "2|38794|1|2|3|4|5|6|1|0"}));
+    EXPECT_EQ(Ask("SELECT * FROM PlayedONTKeno"), Texts{"1|38787|ONTKeno|7|20|70|0|0|0|0|0|0|0|5|3|1"});
+    EXPECT_EQ(Ask("SELECT * FROM Winnings"), Texts{"1|Super 7|38787|1250"});
 }
 
 TEST_F(Import, MakesTheFileTheTableAndItsPair) {
     Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
     EXPECT_EQ(Do({"import", Path("in")}).words, "WinBC49: 1 row added\n");
-    EXPECT_EQ(world.Plain().Tables(), (Lines{"PlayedBC49", "WinBC49"}));
+    EXPECT_EQ(world.Plain().Tables(), (Texts{"PlayedBC49", "WinBC49"}));
     EXPECT_EQ(world.Plain().One("PRAGMA application_id"), std::to_string(0x536F7276));
     std::vector<fs::path> left;
     for (const auto& entry : fs::directory_iterator(Path("data"))) left.push_back(entry.path());
@@ -184,7 +178,7 @@ TEST_F(Import, CountsOnWhereTheKeyIsMissing) {
     Sql("INSERT INTO WinBC49 VALUES (1, 46000, 1,2,3,4,5,6,7), (5, 46001, 1,2,3,4,5,6,7)");
     Csv(",2026-11-21,1,2,3,4,5,6,7\n9,2026-11-22,1,2,3,4,5,6,7\n,2026-11-23,1,2,3,4,5,6,7\n");
     Do({"import", Path("in")});
-    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49 ORDER BY rowid"), (Lines{"1", "5", "6", "9", "10"}));
+    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49 ORDER BY rowid"), (Texts{"1", "5", "6", "9", "10"}));
 }
 
 TEST_F(Import, TellsEveryFindingWithFileLineAndColumnAndChangesNothing) {
@@ -203,7 +197,7 @@ TEST_F(Import, TellsEveryFindingWithFileLineAndColumnAndChangesNothing) {
     Write("in/PlayedBC49.csv", "");
     EXPECT_EQ(
         Findings(),
-        (Lines{"Notes.csv:1:1: no table of Sorvane bears the name of this file",
+        (Texts{"Notes.csv:1:1: no table of Sorvane bears the name of this file",
                "Spent.csv:1:1: the column Spent is missing", "PlayedBC49.csv:1:1: this file has no line",
                "WinBC49.csv:3:3: Date \"21st\" is no date",
                "WinBC49.csv:4:1: ID1 is taken by another row (--new-keys counts the keys on)",
@@ -221,7 +215,7 @@ TEST_F(Import, ChecksRangesOfEveryGame) {
     Write("in/PlayedTag.csv",
           "Lottoflag,Date,Number 1,Number 2,Number 3,Number 4,Number 5,Number "
           "6\nLotto649,2026-11-21,1,2,3,4,5,\n");
-    EXPECT_EQ(Findings(), (Lines{"WinBC49.csv:2:14: Ball_1 \"0\" is not from 1 to 49",
+    EXPECT_EQ(Findings(), (Texts{"WinBC49.csv:2:14: Ball_1 \"0\" is not from 1 to 49",
                                  "WinBC49.csv:2:26: Ball_B \"50\" is not from 1 to 49",
                                  "PlayedSuper7.csv:2:24: Ball_7 \"48\" is not from 1 to 47",
                                  "PlayedFLACash3.csv:2:16: Ball_3 \"10\" is not from 0 to 9",
@@ -230,7 +224,7 @@ TEST_F(Import, ChecksRangesOfEveryGame) {
 
 TEST_F(Import, RefusesUnknownAndDoubledColumns) {
     Write("in/WinBC49.csv", "ID1,Date,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_6,Ball_B,ball 1,Jackpot\n");
-    EXPECT_EQ(Findings(), (Lines{"WinBC49.csv:1:59: Ball_1 stands in two columns",
+    EXPECT_EQ(Findings(), (Texts{"WinBC49.csv:1:59: Ball_1 stands in two columns",
                                  "WinBC49.csv:1:66: WinBC49 has no field \"Jackpot\""}));
 }
 
@@ -242,7 +236,7 @@ TEST_F(Import, RowsThatAreThereAlreadyAreSkippedAndCounted) {
           "Date,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_6\n2026-11-21,1,2,3,4,5,6\n"
           "2026-11-22,1,2,3,4,5,6\n2026-11-21,1,2,3,4,5,6\n2026-11-21,1,2,3,4,5,6\n");
     EXPECT_EQ(Do({"import", Path("in")}).words, "PlayedBC49: 2 rows added, 2 there already\n");
-    EXPECT_EQ(Ask("SELECT ID1, Date FROM PlayedBC49"), (Lines{"1|46347", "2|46347", "3|46348", "4|46347"}));
+    EXPECT_EQ(Ask("SELECT ID1, Date FROM PlayedBC49"), (Texts{"1|46347", "2|46347", "3|46348", "4|46347"}));
     EXPECT_EQ(Do({"import", Path("in")}).words, "PlayedBC49: 0 rows added, 4 there already\n");
 }
 
@@ -252,7 +246,7 @@ TEST_F(Import, NewKeysMergeTheRecordsOfAnotherFile) {
     Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
     EXPECT_EQ(Findings().size(), 1U);
     Do({"import", Path("in"), "--new-keys"});
-    EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49"), (Lines{"1|46000", "2|46347"}));
+    EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49"), (Texts{"1|46000", "2|46347"}));
 }
 
 TEST_F(Import, ADryRunTellsTheSameAndChangesNothing) {
@@ -314,7 +308,7 @@ TEST_F(Import, AFileThatAnotherProgramHoldsIsLeftAlone) {
     EXPECT_EQ(answer.status, 1);
     EXPECT_TRUE(Tells(answer.words, "another program holds the file")) << answer.words;
     other.Do("ROLLBACK");
-    EXPECT_EQ(Ask("SELECT count(*) FROM WinBC49"), Lines{"0"});
+    EXPECT_EQ(Ask("SELECT count(*) FROM WinBC49"), Texts{"0"});
     Do({"import", Path("in")});
 }
 
@@ -328,4 +322,4 @@ TEST_F(Import, ShowsABarThatFindingsBreak) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -4,7 +4,7 @@
 
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
 using nlohmann::json;
@@ -90,13 +90,13 @@ class Schema {
     json all_;
 };
 
-class Json : public testing::RecordsWorld {
+class Json : public RecordsWorld {
   public:
     json Exported() {
         Do({"export", "--json", Path("all.json"), "--force"});
-        return json::parse(testing::BytesOf(Path("all.json")));
+        return json::parse(BytesOf(Path("all.json")));
     }
-    Schema schema{json::parse(testing::BytesOf(SORVANE_SOURCE_FOLDER "/docs/sorvane-records.schema.json"))};
+    Schema schema{json::parse(BytesOf(SORVANE_SOURCE_FOLDER "/docs/sorvane-records.schema.json"))};
 };
 
 TEST_F(Json, KeepsToItsSchemaForEveryTable) {
@@ -138,4 +138,4 @@ TEST_F(Json, OfAFileWithoutTablesIsADocumentToo) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -17,9 +17,10 @@
 
 namespace sorvane::testing {
 
+namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-inline std::string BytesOf(const std::filesystem::path& path) {
+inline std::string BytesOf(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
 }
@@ -48,10 +49,10 @@ class RecordsWorld : public ::testing::Test {
         return answer;
     }
 
-    std::filesystem::path File() const { return world.DbName(); }
+    fs::path File() const { return world.DbName(); }
     std::string Path(std::string_view name) const { return world.folder.File(name); }
     std::string Write(std::string_view name, const std::string& text) const {
-        std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
+        fs::create_directories(fs::path(Path(name)).parent_path());
         std::ofstream(Path(name), std::ios::binary) << text;
         return Path(name);
     }
@@ -60,7 +61,7 @@ class RecordsWorld : public ::testing::Test {
 
     // The table by the program's own creator.
     void Make(const std::string& table) {
-        if (!std::filesystem::exists(File())) world.WithDatabase();
+        if (!fs::exists(File())) world.WithDatabase();
         const Records::Table* known = Records::FindTable(table);
         ASSERT_NE(known, nullptr) << table;
         (*known->creator)(world.session, {world.DbName(), known->name}, PrimaryFieldName, DateFieldName);
@@ -92,7 +93,7 @@ inline std::vector<std::string> LinesOf(const std::string& text) {
     return lines;
 }
 
-// Whether one of the lines holds the text.
+// Whether the text holds that part.
 inline bool Tells(const std::string& text, const std::string& part) {
     return text.find(part) != std::string::npos;
 }

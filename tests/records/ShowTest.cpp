@@ -1,9 +1,9 @@
 #include "records/RecordsWorld.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-using Show = testing::RecordsWorld;
+using Show = RecordsWorld;
 
 TEST_F(Show, TellsTicketsDrawsDatesAndMoneyOfEachGame) {
     for (const char* table : {"PlayedBC49", "WinBC49", "Spent", "Winnings", "PlayedExtra", "WinONTKeno"})
@@ -35,10 +35,10 @@ TEST_F(Show, TellsTheSameAsJson) {
 TEST_F(Show, TakesTheFolderThatIsTold) {
     Make("Spent");
     Sql("INSERT INTO Spent VALUES (1, 'BC49', 46347, 1)");
-    std::filesystem::rename(File().parent_path(), Path("else"));
+    fs::rename(File().parent_path(), Path("else"));
     EXPECT_EQ(Run({"show"}).status, 1);
-    EXPECT_TRUE(testing::Tells(Do({"show", "--data", Path("else")}).data, "BC49"));
-    EXPECT_TRUE(testing::Tells(Do({"--data", Path("else"), "show"}).data, "BC49"));
+    EXPECT_TRUE(Tells(Do({"show", "--data", Path("else")}).data, "BC49"));
+    EXPECT_TRUE(Tells(Do({"--data", Path("else"), "show"}).data, "BC49"));
 }
 
 TEST_F(Show, SaysWhyTheFileCantBeRead) {
@@ -46,16 +46,16 @@ TEST_F(Show, SaysWhyTheFileCantBeRead) {
     EXPECT_EQ(missing.status, 1);
     EXPECT_EQ(missing.words, "sorvane-records: " + File().string() + ": there is no such file (3024)\n");
     EXPECT_EQ(missing.data, "");
-    EXPECT_FALSE(std::filesystem::exists(File().parent_path()));
+    EXPECT_FALSE(fs::exists(File().parent_path()));
     Write("data/sorvane.mdb", "Dear diary, this is no database, although it is long enough to be one.");
-    EXPECT_TRUE(testing::Tells(Run({"show"}).words, "this is no database, or it is damaged (3343)"));
+    EXPECT_TRUE(Tells(Run({"show"}).words, "this is no database, or it is damaged (3343)"));
 }
 
 TEST_F(Show, RowsOfGamesThatNobodyKnowsAreLeftOut) {
     Make("Spent");
     Sql("INSERT INTO Spent VALUES (1, 'Bingo', 46347, 1), (2, NULL, 46347, 1), (3, 'BC49', 'once', 1)");
-    EXPECT_EQ(testing::LinesOf(Do({"show"}).data).size(), 2U);
+    EXPECT_EQ(LinesOf(Do({"show"}).data).size(), 2U);
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -7,13 +7,10 @@
 #include "records/RecordsWorld.h"
 #include "support/FaultVfs.h"
 
-namespace sorvane {
+namespace sorvane::testing {
 namespace {
 
-using testing::BytesOf;
-using testing::Tells;
-
-class TwoPrograms : public testing::RecordsWorld {
+class TwoPrograms : public RecordsWorld {
   public:
     // Draws of so many days, each of them 1 to 7.
     static std::string Draws(int count) {
@@ -76,7 +73,7 @@ TEST_F(TwoPrograms, AnImportThatDiesAtAnyMomentLeavesAllOfItOrNothing) {
     bool died = false, done = false;
     for (int n = 1; !done && n < 100; ++n) {
         Write("data/sorvane.mdb", before);
-        std::filesystem::remove(Path("data/sorvane.mdb-journal"));
+        fs::remove(Path("data/sorvane.mdb-journal"));
         disk.DieAt(n);
         const int status = Run({"draws", "BC49", csv}).status;
         done = disk.Failures() == 0;
@@ -99,4 +96,4 @@ TEST_F(TwoPrograms, AMistakeInTheLastLineUndoesWhatNoMemoryHeldAnyMore) {
 }
 
 }  // namespace
-}  // namespace sorvane
+}  // namespace sorvane::testing

@@ -1,19 +1,18 @@
 // A disk that fails on purpose: a file layer for SQLite over the system's own.
 #pragma once
 
-#include <sqlite3.h>
-
 #include <array>
 #include <chrono>
 #include <cstdint>
 #include <limits>
 #include <string>
 
+#include "support/FileLayer.h"
+
 namespace sorvane {
 
-// As long as it exists, an engine that is given its name reads and writes through it. For one thread at a
-// time. Nothing is really synced; the counts tell what would have been synced.
-class FaultVfs {
+// Nothing is really synced; the counts tell what would have been synced.
+class FaultVfs : public FileLayer {
   public:
     // What can fail. A write that fails leaves its first half on the disk.
     enum class Operation { Open, Read, Write, Truncate, Sync, Lock, Delete };
@@ -23,10 +22,6 @@ class FaultVfs {
     enum class Lasting { Once, Always };
 
     explicit FaultVfs(std::string name);
-    FaultVfs(const FaultVfs&) = delete;
-    FaultVfs& operator=(const FaultVfs&) = delete;
-    ~FaultVfs();
-    const std::string& Name() const { return name_; }
 
     // From now on the n-th operation of this kind fails, counted from 1, or that one and all that follow it.
     void FailAt(Operation operation, int n, Lasting lasting);
@@ -53,12 +48,8 @@ class FaultVfs {
     void Wait(std::chrono::microseconds time) { waited_ += time; }
     // How many of these bytes still fit.
     int Fitting(int bytes);
-    sqlite3_vfs& System() const { return *system_; }
 
   private:
-    std::string name_;
-    sqlite3_vfs* system_;
-    sqlite3_vfs vfs_;
     std::array<int, Operations.size()> counts_{};
     int failures_ = 0;
     std::chrono::microseconds waited_{0};

@@ -1,18 +1,17 @@
 // A disk that remembers what was done to it: a file layer for SQLite over the system's own.
 #pragma once
 
-#include <sqlite3.h>
-
 #include <cstdint>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "support/FileLayer.h"
+
 namespace sorvane {
 
-// While it lives, an engine that is given its name reads and writes through it. One thread at a time. Nothing
-// is really synced: the record tells what would be.
-class RecordingVfs {
+// Nothing is really synced: the record tells what would be.
+class RecordingVfs : public FileLayer {
   public:
     // SyncFolder: what was made and deleted in the folder before is on the disk. SQLite syncs it with a file
     // that it made, and behind a file that it deletes for good.
@@ -25,10 +24,6 @@ class RecordingVfs {
     };
 
     explicit RecordingVfs(std::string name);
-    RecordingVfs(const RecordingVfs&) = delete;
-    RecordingVfs& operator=(const RecordingVfs&) = delete;
-    ~RecordingVfs();
-    const std::string& Name() const { return name_; }
 
     // Everything since the start, or since the last call.
     std::vector<Operation> Take();
@@ -36,12 +31,8 @@ class RecordingVfs {
     // For the file layer.
     void Note(Operation operation) { operations_.push_back(std::move(operation)); }
     const std::string& Keep(const std::string& file) { return *files_.insert(file).first; }
-    sqlite3_vfs& System() const { return *system_; }
 
   private:
-    std::string name_;
-    sqlite3_vfs* system_;
-    sqlite3_vfs vfs_;
     std::set<std::string> files_;
     std::vector<Operation> operations_;
 };

@@ -11,6 +11,13 @@ class Winnings : public CheckTickets {
         Click("cmdEnterWinnings");
     }
     void ExpectSaved() { person.Expect("SAVED", "Winning data saved."); }
+    static constexpr const char* AmendTitle = "Correct Winnings?";
+    static constexpr const char* AmendQuestion =
+        "You have already entered a Winning amount for this\r\n"
+        "Lottery on this Draw Date. Do you wish to amend your\r\nentry?";
+    void ExpectAmendQuestion(Answer answer) {
+        person.Expect(AmendTitle, AmendQuestion, answer, BoxStyle::YesNo);
+    }
     void TicketOfBC49() { Do("INSERT INTO PlayedBC49 (ID1, Date) VALUES (1, " + Day() + ")"); }
 };
 
@@ -68,14 +75,11 @@ TEST_F(Winnings, AnAmendmentCanBeRefusedAndTheBoxComesAllTheSame) {
     TicketOfBC49();
     ExpectSaved();
     Enter("5");
-    const std::string question =
-        "You have already entered a Winning amount for this\r\n"
-        "Lottery on this Draw Date. Do you wish to amend your\r\nentry?";
-    person.Expect("Correct Winnings?", question, Answer::No, BoxStyle::YesNo);
+    ExpectAmendQuestion(Answer::No);
     ExpectSaved();
     Enter("6");
     EXPECT_EQ(Rows("SELECT Winnings FROM Winnings"), Texts{"5"});
-    person.Expect("Correct Winnings?", question, Answer::Yes, BoxStyle::YesNo);
+    ExpectAmendQuestion(Answer::Yes);
     ExpectSaved();
     Enter("6");
     EXPECT_EQ(Rows("SELECT Winnings FROM Winnings"), Texts{"6"});
@@ -86,10 +90,7 @@ TEST_F(Winnings, EnterAmendsNothing) {
     TicketOfBC49();
     ExpectSaved();
     Enter("5");
-    person.ExpectKey("Correct Winnings?",
-                     "You have already entered a Winning amount for this\r\n"
-                     "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                     Qt::Key_Return, BoxStyle::YesNo);
+    person.ExpectKey(AmendTitle, AmendQuestion, Qt::Key_Return, BoxStyle::YesNo);
     ExpectSaved();
     Enter("6");
     EXPECT_EQ(Rows("SELECT Winnings FROM Winnings"), Texts{"5"});
@@ -115,10 +116,7 @@ TEST_F(Winnings, BCDailyThreeAsksWhateverTableWasNamedLast) {
     EXPECT_EQ(Window().State.TableName, "Winnings");
     // From then on it is the ledger itself, which has a row of the date; the tickets have none now.
     Do("UPDATE PlayedBCDaily3 SET Date = 1");
-    person.Expect("Correct Winnings?",
-                  "You have already entered a Winning amount for this\r\n"
-                  "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                  Answer::No, BoxStyle::YesNo);
+    ExpectAmendQuestion(Answer::No);
     ExpectSaved();
     Enter("6");
 }
@@ -161,10 +159,7 @@ TEST_F(Winnings, AnEntryFromOneRegionsWindowIsAmendedFromTheOthers) {
     Enter("5");
     Window().Leave();
     Open("mnuCANATLLotto649");
-    person.Expect("Correct Winnings?",
-                  "You have already entered a Winning amount for this\r\n"
-                  "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                  Answer::Yes, BoxStyle::YesNo);
+    ExpectAmendQuestion(Answer::Yes);
     ExpectSaved();
     Enter("7");
     EXPECT_EQ(Rows("SELECT ID1, Lottoflag, Winnings FROM Winnings"), Texts{"1|Lotto649|7"});
@@ -265,10 +260,7 @@ TEST_F(Winnings, ASaveBetweenEnterWinningsAndACheckMeetsTheAmendingQuestionOnThe
     Count("1");
     PickFrom(1, 6);
     ExpectSaveQuestion(Answer::Yes);
-    person.Expect("Correct Winnings?",
-                  "You have already entered a Winning amount for this\r\n"
-                  "Lottery on this Draw Date. Do you wish to amend your\r\nentry?",
-                  Answer::Yes, BoxStyle::YesNo);
+    ExpectAmendQuestion(Answer::Yes);
     person.Expect("CONFIRMED", "Tickets Saved");
     Click("cmdSave");
     EXPECT_EQ(Rows("SELECT ID1, Spent FROM Spent"), Texts{"1|0.5"});
