@@ -109,6 +109,10 @@ void Runtime::Settle() {
     }
 }
 
+void Runtime::Help(Window& front) {
+    if (help_ && IsInFront(front) && !QApplication::activePopupWidget()) Handle([&] { help_(front); });
+}
+
 QWidget* Runtime::Front() const {
     for (auto level = levels_.rbegin(); level != levels_.rend(); ++level)
         if (level->window && level->window->isVisible()) return level->window;

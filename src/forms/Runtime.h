@@ -15,6 +15,7 @@
 namespace sorvane::forms {
 
 class Control;
+class Window;
 
 // Owned by the Application. Single-threaded, like Qt's windows.
 class Runtime {
@@ -62,6 +63,13 @@ class Runtime {
     bool TabOn(QWidget& from, const std::function<bool()>& move);
     // Fires LostFocus and GotFocus for the moves since the last call.
     void Settle();
+
+    // What F1 does, with the window in front that got it; returns what it did before. Boxes, calendars and
+    // lists that have dropped down keep the key for themselves.
+    std::function<void(Window&)> OnHelp(std::function<void(Window&)> handler) {
+        return std::exchange(help_, std::move(handler));
+    }
+    void Help(Window& front);
 
     // While one of these lives, moves of the focus are kept; the last one to go settles them.
     class Hold {
@@ -130,6 +138,7 @@ class Runtime {
     void GiveWanted(Level& level);
 
     std::list<Level> levels_;
+    std::function<void(Window&)> help_;
     int shown_ = 0;
     Press* press_ = nullptr;
 };

@@ -117,6 +117,8 @@ void Window::closeEvent(QCloseEvent* event) {
 
 void Window::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && escapeButton_) escapeButton_->click();
+    else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier)
+        Runtime::Current().Help(*this);
     else QWidget::keyPressEvent(event);
 }
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# One road under a Wayland compositor, by keyboard and mouse, from the menu to "Tickets Saved", with a calendar and
-# a list's drop-down on the way: wayland_test.sh PROGRAM
+# One road under a Wayland compositor, by keyboard and mouse, from the menu to "Tickets Saved", with a calendar,
+# a list's drop-down and the guide on the way: wayland_test.sh PROGRAM
 set -euo pipefail
 
 # shellcheck source=tests/process/hands.sh
@@ -8,6 +8,7 @@ set -euo pipefail
 trap put_away EXIT
 mkdir "$hands/player"
 cp "$1" "$hands/player/sorvane"
+cp -RL "$(dirname "$1")/share" "$hands/player/share"
 start_wayland
 : >"$hands/said"
 start_program wayland "$hands/player/sorvane"
@@ -53,6 +54,16 @@ done
 [[ -n $opened ]] || fail "no list"
 keys Escape
 until_so "the list closed" popups_are 0
+keys alt+x
+
+echo "F1 opens the guide over a game, and Escape leaves it"
+open_game 6 "Lotto 6/49"
+keys F1
+wait_for_window "The Player's Guide"
+keys alt+s
+write lottario
+keys Return Escape
+wait_for_window "Lotto 6/49"
 keys alt+x
 
 echo "a ticket goes from the menu to the file"

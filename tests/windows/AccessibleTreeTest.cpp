@@ -179,7 +179,7 @@ TEST_F(AccessibleTree, WindowsAreWindowsOrDialogsUnderTheirTitles) {
         EXPECT_EQ(Told(node, QAccessible::Name), window.Caption());
         ++seen;
     });
-    EXPECT_EQ(seen, 8);
+    EXPECT_EQ(seen, 9);
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&Show("mnuCANQC3"))->role(), QAccessible::Dialog);
 }
 

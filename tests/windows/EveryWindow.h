@@ -11,6 +11,7 @@
 #include "reports/ui/frmReportType.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmComingSoon.h"
+#include "shell/ui/frmGuide.h"
 #include "shell/ui/frmRequestNewLottery.h"
 #include "support/Games.h"
 #include "windows/MainWindow.h"
@@ -51,6 +52,7 @@ inline void SeeOtherWindows(MainWindow& world, const std::function<void(forms::W
         [&] { return std::make_unique<frmReportType>(world.session); },
         [&] { return std::make_unique<frmHowManySheets>(world.session); },
         [&] { return std::make_unique<frmTicketsOnSheet>(world.session); },
+        [&] { return std::make_unique<frmGuide>(SORVANE_SOURCE_FOLDER "/docs/user-guide.md", "Printing"); },
     };
     for (const auto& make : makers) {
         const auto window = make();

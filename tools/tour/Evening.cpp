@@ -17,11 +17,12 @@ using test::Person;
 
 namespace {
 
-// A folder for the records, empty.
+// A folder of the program without records, with the guide.
 std::string FreshRecords(const fs::path& folder) {
-    const fs::path evening = fs::absolute(folder) / "evening";
+    const fs::path evening = fs::absolute(folder) / "evening", documents = evening / "share/doc/sorvane";
     fs::remove_all(evening);
-    fs::create_directories(evening);
+    fs::create_directories(documents);
+    fs::copy(SORVANE_SOURCE_FOLDER "/docs", documents / "docs", fs::copy_options::recursive);
     return evening.string();
 }
 

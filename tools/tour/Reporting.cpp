@@ -156,6 +156,14 @@ void Evening::SmallWindows() {
         Picture("about");
         Click("cmdOK");
     });
+    person.ExpectWindow("frmGuide", [this](QWidget&) {
+        person.AccessKey('s');
+        person.Type("large letters");
+        person.Enter();
+        Picture("guide");
+        person.Key(Qt::Key_Escape);
+    });
+    person.Key(Qt::Key_F1);
 }
 
 }  // namespace sorvane::tour

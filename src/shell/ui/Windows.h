@@ -1,7 +1,9 @@
-// The registry of the game windows: which are loaded, and when they are destroyed.
+// The registry of the game windows: which are loaded, and when they are destroyed. While it lives, F1 in any
+// window opens the player's guide over it.
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -42,11 +44,14 @@ class Windows {
     void Unload(GameFrame& window);
 
   private:
+    void ShowGuide(const forms::Window& front) const;
+
     Session& session_;
     const WindowMakers makers_;
     std::array<std::unique_ptr<GameFrame>, 7> loaded_;
     std::vector<std::unique_ptr<GameFrame>> leaving_;
     int shown_ = 0;
+    const std::function<void(forms::Window&)> helpBefore_;
 };
 
 }  // namespace sorvane
