@@ -93,14 +93,14 @@ std::vector<Table> AllTables() {
                               {"Winnings", Use::Winnings, &CreateWinningsTable}};
     for (const GameKey& key : GameKeys()) {
         const CreatorPair make = CreatorsOf(FamilyFacts::NumbersPerTicket[key.in]);
-        tables.push_back({std::string(key.Played), Use::Played, &make.played, &key, nullptr, key.Win});
-        tables.push_back({std::string(key.Win), Use::Win, &make.win, &key, nullptr, key.Played});
+        tables.push_back({std::string(key.Played), Use::Played, make.played, &key, nullptr, key.Win});
+        tables.push_back({std::string(key.Win), Use::Win, make.win, &key, nullptr, key.Played});
     }
     for (const AddOn& addOn : AddOns()) {
         const CreatorPair make = CreatorsOf(addOn.ShapeCode());
         tables.push_back(
-            {std::string(addOn.Played), Use::AddOnPlayed, &make.played, nullptr, &addOn, addOn.Win});
-        tables.push_back({std::string(addOn.Win), Use::AddOnWin, &make.win, nullptr, &addOn, addOn.Played});
+            {std::string(addOn.Played), Use::AddOnPlayed, make.played, nullptr, &addOn, addOn.Win});
+        tables.push_back({std::string(addOn.Win), Use::AddOnWin, make.win, nullptr, &addOn, addOn.Played});
     }
     tables.push_back({"WinEarlyBird", Use::EarlyBird, &CreateWinPick4Table});
     tables.push_back({"Temp", Use::Scratch, &CreateTempTable});

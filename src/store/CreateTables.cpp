@@ -102,12 +102,14 @@ std::optional<std::string> MainWin(const Global& global) {
 
 const std::array<ShapePair, 6>& ShapePairs() {
     static const std::array<ShapePair, 6> pairs{{
-        {1, {CreatePlayedAddOnTable, CreateWinAddOnTable}, AddOnWin},
-        {3, {CreatePlayedPick3Table, CreateWinPick3Table}, Pick3Win},
-        {4, {CreatePlayedPick4Table, CreateWinPick4Table}, Pick4Win},
-        {6, {CreatePlayed6Table, CreateWin6Table}, MainWin<Family::frm649, Family::frm645>},
-        {7, {CreatePlayed7Table, CreateWin7Table}, MainWin<Family::frm749>},
-        {20, {CreatePlayedKenoTable, CreateWinKenoTable}, MainWin<Family::frmKeno70, Family::frmKeno80>},
+        {1, {\& CreatePlayedAddOnTable, \& CreateWinAddOnTable}, AddOnWin},
+        {3, {\& CreatePlayedPick3Table, \& CreateWinPick3Table}, Pick3Win},
+        {4, {\& CreatePlayedPick4Table, \& CreateWinPick4Table}, Pick4Win},
+        {6, {\& CreatePlayed6Table, \& CreateWin6Table}, MainWin<Family::frm649, Family::frm645>},
+        {7, {\& CreatePlayed7Table, \& CreateWin7Table}, MainWin<Family::frm749>},
+        {20,
+         {\& CreatePlayedKenoTable, \& CreateWinKenoTable},
+         MainWin<Family::frmKeno70, Family::frmKeno80>},
     }};
     return pairs;
 }
@@ -208,9 +210,9 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
     for (const ShapePair& pair : ShapePairs()) {
         if (pair.code != ShapeCode) continue;
         const auto winName = pair.WinName(session.global);
-        const NewTable win{pair.make.win, winName.value_or(WinOtherwise)};
+        const NewTable win{*pair.make.win, winName.value_or(WinOtherwise)};
         const auto createPair = [&] {
-            Make(session, DbName, {pair.make.played, TableName}, win.name.empty() ? nullptr : &win, index);
+            Make(session, DbName, {*pair.make.played, TableName}, win.name.empty() ? nullptr : &win, index);
         };
         if (pair.code == FourDigits) {
             if (const auto name = Pick4Played(session.global)) TableName = *name;
@@ -223,7 +225,7 @@ void CreateTableByShape(Session& session, const std::string& DbName, std::string
         }
         if (winName) TableName = *winName;
         MakeSureOf(session, {DbName, TableName}, [&] {
-            pair.make.win(session, {DbName, TableName}, PrimaryField, SecondField);
+            (*pair.make.win)(session, {DbName, TableName}, PrimaryField, SecondField);
         });
         return;
     }

@@ -50,8 +50,8 @@ extern const Creator CreateTempTable;
 
 // The creators of a shape code's pair; the codes are told at CreateTableByShape.
 struct CreatorPair {
-    const Creator& played;
-    const Creator& win;
+    const Creator* played;
+    const Creator* win;
 };
 CreatorPair CreatorsOf(int ShapeCode);
 
