@@ -102,14 +102,12 @@ std::optional<std::string> MainWin(const Global& global) {
 
 const std::array<ShapePair, 6>& ShapePairs() {
     static const std::array<ShapePair, 6> pairs{{
-        {1, {\& CreatePlayedAddOnTable, \& CreateWinAddOnTable}, AddOnWin},
-        {3, {\& CreatePlayedPick3Table, \& CreateWinPick3Table}, Pick3Win},
-        {4, {\& CreatePlayedPick4Table, \& CreateWinPick4Table}, Pick4Win},
-        {6, {\& CreatePlayed6Table, \& CreateWin6Table}, MainWin<Family::frm649, Family::frm645>},
-        {7, {\& CreatePlayed7Table, \& CreateWin7Table}, MainWin<Family::frm749>},
-        {20,
-         {\& CreatePlayedKenoTable, \& CreateWinKenoTable},
-         MainWin<Family::frmKeno70, Family::frmKeno80>},
+        {1, {&CreatePlayedAddOnTable, &CreateWinAddOnTable}, AddOnWin},
+        {3, {&CreatePlayedPick3Table, &CreateWinPick3Table}, Pick3Win},
+        {4, {&CreatePlayedPick4Table, &CreateWinPick4Table}, Pick4Win},
+        {6, {&CreatePlayed6Table, &CreateWin6Table}, MainWin<Family::frm649, Family::frm645>},
+        {7, {&CreatePlayed7Table, &CreateWin7Table}, MainWin<Family::frm749>},
+        {20, {&CreatePlayedKenoTable, &CreateWinKenoTable}, MainWin<Family::frmKeno70, Family::frmKeno80>},
     }};
     return pairs;
 }
