@@ -34,5 +34,43 @@ TEST_F(CommandLine, EveryCommandHasHelp) {
     EXPECT_EQ(all.words, "");
 }
 
+// Each look at the clock takes so long that the second is over at once, or never.
+TEST_F(CommandLine, WhatTakesLongerThanASecondShowsABarToWhoeverLooks) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (1, 46347, 1,2,3,4,5,6,7), (3, 46348, 1,2,3,4,5,6,7)");
+    const std::string draws = Write("d.csv", "date,numbers,bonus\n2026-11-14,1 2 3 4 5 6,7\n");
+    const std::string tickets = Write("t.csv", "date,numbers\n2026-11-14,1 2 3 4 5 6\n");
+    Write("in/WinBC49.csv",
+          "Date,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_6,Ball_B\n2026-11-13,1,2,3,4,5,6,7\n");
+    struct Long {
+        Texts command;
+        std::string bar;
+    };
+    const std::vector<Long> all = {{{"show"}, "Reading ["},
+                                   {{"check"}, "Checking ["},
+                                   {{"backup", Path("b.mdb"), "--force"}, "Copying ["},
+                                   {{"export", Path("out"), "--force"}, "Exporting ["},
+                                   {{"export", "--json", Path("all.json"), "--force"}, "Exporting ["},
+                                   {{"import", Path("in"), "--dry-run"}, "Importing ["},
+                                   {{"draws", "BC49", draws, "--dry-run"}, "Importing ["},
+                                   {{"tickets", "BC49", tickets, "--dry-run"}, "Importing ["},
+                                   {{"renumber"}, "Copying ["}};
+    const auto words = [&](const Texts& command, bool looks, long each) {
+        terminal = looks;
+        tick = each;
+        return Run(command).words;
+    };
+    for (const auto& [command, bar] : all) {
+        EXPECT_FALSE(Tells(words(command, true, 0), bar)) << command.front();
+        EXPECT_FALSE(Tells(words(command, false, 1001), bar)) << command.front();
+        // The keys are in order by now.
+        if (command.front() == "renumber") Sql("UPDATE WinBC49 SET ID1 = 9 WHERE ID1 = 2");
+        const std::string shown = words(command, true, 1001);
+        EXPECT_TRUE(Tells(shown, bar)) << command.front() << ": " << shown;
+        // Nothing of it stays.
+        EXPECT_GT(shown.rfind("\r\x1b[K"), shown.rfind(bar)) << command.front();
+    }
+}
+
 }  // namespace
 }  // namespace sorvane::testing

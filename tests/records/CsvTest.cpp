@@ -51,6 +51,22 @@ TEST_F(Csv, TakesSemicolonsAndTabsWhereTheFirstLineHasThem) {
 
 TEST_F(Csv, LeavesBlanksAroundCellsAside) { EXPECT_EQ(Read(" a , \"b \" ,c\n"), (Lines{"a|[b ]|c"})); }
 
+// The file is read a part at a time; nothing may depend on where a part ends.
+TEST_F(Csv, ReadsWhatLiesAcrossTwoParts) {
+    const std::string odd = "plain,\"say \"\"x\"\"\r\n\xC3\xA9\" ,\xC3\xA9 ,\r\n";
+    constexpr std::size_t Part = 65'536;
+    for (std::size_t before = 0; before < odd.size() + 2; ++before) {
+        std::string text;
+        while (text.size() + 64 < Part - before) text += "1,2,3,4,5,6,7\n";
+        text += std::string(Part - before - text.size() - 1, 'f') + "\n";
+        const auto records = Read(text + odd + "\xC3\xA9,\"open");
+        ASSERT_GT(records.size(), 3U);
+        EXPECT_EQ(records[records.size() - 2], "plain|[say \"x\"\n\xC3\xA9]|\xC3\xA9|") << before;
+        const long lines = std::count(text.begin(), text.end(), '\n');
+        EXPECT_EQ(records.back(), std::to_string(lines + 3) + ":3 the quote that opens here is not closed");
+    }
+}
+
 TEST_F(Csv, SaysWhereTheRestCantBeRead) {
     EXPECT_EQ(Read("a\nb,\"c\nd"), (Lines{"a", "2:3 the quote that opens here is not closed"}));
     EXPECT_EQ(Read("a,\"b\"c"), (Lines{"1:3 the quote that opens here closes too early"}));

@@ -1,3 +1,4 @@
+#include "records/Files.h"
 #include "records/RecordsWorld.h"
 #include "support/FaultVfs.h"
 #include "support/OtherProgram.h"
@@ -136,6 +137,18 @@ TEST_F(Export, NeverWritesOverAFileUnlessForced) {
     EXPECT_EQ(Run({"export", Path("x"), "--json", Path("y")}).status, 2);
 }
 
+TEST_F(Export, WritesEveryFileOrNone) {
+    Make("Spent");
+    Make("WinBC49");
+    // The second file can't be begun.
+    fs::create_directories(Path("out/WinBC49.csv.part/in the way"));
+    const Answer answer = Run({"export", Path("out")});
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_TRUE(Tells(answer.words, Path("out/WinBC49.csv") + ": ")) << answer.words;
+    EXPECT_FALSE(fs::exists(Path("out/Spent.csv")));
+    EXPECT_FALSE(fs::exists(Path("out/Spent.csv.part")));
+}
+
 TEST_F(Export, LeavesOutWhatIsNoneOfTheProgramsAndRefusesAStrangeTable) {
     Make("Spent");
     Sql("CREATE TABLE Mine (a)");
@@ -179,6 +192,32 @@ TEST_F(Import, CountsOnWhereTheKeyIsMissing) {
     Csv(",2026-11-21,1,2,3,4,5,6,7\n9,2026-11-22,1,2,3,4,5,6,7\n,2026-11-23,1,2,3,4,5,6,7\n");
     Do({"import", Path("in")});
     EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49 ORDER BY rowid"), (Texts{"1", "5", "6", "9", "10"}));
+}
+
+TEST_F(Import, WithoutAKeyThatIsLeftIsRefusedUntilTheKeysAreCountedAnew) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (2147483647, 46000, 1,2,3,4,5,6,7)");
+    Csv(",2026-11-21,1,2,3,4,5,6,7\n");
+    const std::string before = BytesOf(File());
+    const Answer answer = Run({"import", Path("in")});
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_TRUE(Tells(answer.words, "WinBC49: no key is left; \"sorvane-records renumber\" makes room"))
+        << answer.words;
+    EXPECT_EQ(BytesOf(File()), before);
+    Do({"renumber"});
+    Do({"import", Path("in")});
+    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49"), (Texts{"1", "2"}));
+}
+
+TEST_F(Import, AFileThatSomebodyMadeMeanwhileKeepsItsPlace) {
+    {
+        Records::NewFile made(Path("x.mdb"));
+        Write("x.mdb.part", "new");
+        Write("x.mdb", "theirs");
+        EXPECT_EQ(ErrorOf([&] { made.PutIfFree(); }), ErrorNumber::PathFileAccess);
+    }
+    EXPECT_EQ(BytesOf(Path("x.mdb")), "theirs");
+    EXPECT_FALSE(fs::exists(Path("x.mdb.part")));
 }
 
 TEST_F(Import, TellsEveryFindingWithFileLineAndColumnAndChangesNothing) {
