@@ -31,7 +31,7 @@ void CopyWhole(Outside& outside, const fs::path& from, const fs::path& to, const
 }
 
 void MakeBackupAt(Outside& outside, const Place& place, const fs::path& to) {
-    // Not the place for the copy is at fault when there is nothing to copy.
+    // When there is nothing to copy, that is told of the file and not of the place for the copy.
     Naming(place.File(), [&] { const Dao::RecordFile there(place.File(), outside.vfs); });
     Naming(to, [&] {
         if (to.has_parent_path()) MakeFolders(to.parent_path());
@@ -120,8 +120,8 @@ class Present {
         else if (error != ErrorNumber::StoreFileNotFound) Raise(error);
     }
 
-    // Gives it a second name. It may not be opened by other means as long as it is held: to close it again
-    // would give up the lock.
+    // Gives the file a second name. While it is held nothing else may open it: closing it again would give up
+    // the lock.
     void KeepAs(const fs::path& name) {
         if (!held_ && !damaged_) return;
         kept_ = name;
@@ -131,7 +131,7 @@ class Present {
         if (held_) held_->CopyTo(name, [](int, int) {});
         else fs::copy_file(path_, name);
     }
-    // What lies beside a damaged file would be taken for the new one's.
+    // The engine would take a journal that lies beside the damaged file for one of the new file.
     void MoveItsJournals() const {
         for (const char* ending : {"-journal", "-wal", "-shm"}) {
             std::error_code none;

@@ -12,8 +12,6 @@ namespace sorvane::Records {
 
 namespace {
 
-bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
-
 constexpr std::array<std::string_view, 12> Months = {"january",   "february", "march",    "april",
                                                      "may",       "june",     "july",     "august",
                                                      "september", "october",  "november", "december"};

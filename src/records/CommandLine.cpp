@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <functional>
+#include <memory>
+#include <utility>
 
 #include "records/Commands.h"
 #include "shell/Deployment.h"
@@ -11,10 +13,35 @@ namespace sorvane::Records {
 
 namespace {
 
+// Help tells what a value is called, and nothing of how it is read.
+class HelpText : public CLI::Formatter {
+  public:
+    HelpText() {
+        label("SUBCOMMAND", "COMMAND");
+        label("Subcommands", "Commands");
+        label("Positionals", "Arguments");
+    }
+    std::string make_option_opts(const CLI::Option* option) const override {
+        const std::string& value = option->get_option_text();
+        return value.empty() ? "" : " " + value;
+    }
+};
+
+std::string WhatIsWrong(const CLI::App* app, const CLI::Error& error) {
+    const bool noCommand = app->get_subcommands().empty() && error.get_name() == "RequiredError";
+    const std::vector<std::string> unknown = app->remaining();
+    std::string what = error.what();
+    if (noCommand)
+        what = unknown.empty() ? "a command is missing" : "\"" + unknown.front() + "\" is no command";
+    return "sorvane-records: " + what + "\n\"sorvane-records --help\" tells more\n";
+}
+
 // The commands, and what is to be done once the arguments are read.
 class CommandLine {
   public:
     explicit CommandLine(Outside& outside) : outside_(outside) {
+        app_.formatter(std::make_shared<HelpText>());
+        app_.failure_message(WhatIsWrong);
         app_.require_subcommand(1);
         AddData(app_);
         app_.set_version_flag("--version", std::string(Deployment::Version));
@@ -50,17 +77,13 @@ class CommandLine {
 
     void AddData(CLI::App& app) {
         app.add_option("--data", data_, "Folder of the records (default: \"data\" beside this program)")
-            ->type_name("FOLDER");
+            ->option_text("FOLDER");
     }
 
     CLI::App* Command(const std::string& name, const std::string& what, std::function<int()> work) {
         CLI::App* command = app_.add_subcommand(name, what);
         AddData(*command);
-        command->callback([this, name, work = std::move(work)] {
-            const bool history = name == "draws" || name == "tickets";
-            if (history && !list_ && file_.empty()) throw CLI::RequiredError("GAME and FILE");
-            chosen_ = work;
-        });
+        command->callback([this, work = std::move(work)] { chosen_ = work; });
         return command;
     }
 
@@ -82,7 +105,7 @@ class CommandLine {
             "FILE", file_, "Where to (default: a name with date and time in \"backups\" beside the file)");
         backup
             ->add_option("--keep", keep_, "Of the copies in \"backups\" keep the newest N, remove the others")
-            ->type_name("N")
+            ->option_text("N")
             ->check(CLI::Range(1, 1'000'000))
             ->excludes(file);
         AddForce(*backup, "Write over FILE");
@@ -113,11 +136,13 @@ class CommandLine {
             Command("export", "Every table as CSV, or all of them as one JSON document", [this] {
                 return Export(outside_, Records(), {Utf8Path(json_ ? jsonFile_ : file_), json_, force_});
             });
-        auto* to = command->add_option_group("TO")->require_option(1);
-        to->add_option("FOLDER", file_, "A CSV file for each table is written here");
-        to->add_option("--json", jsonFile_, "One JSON document instead (-: standard output)")
-            ->type_name("FILE")
+        CLI::Option* folder =
+            command->add_option("FOLDER", file_, "A CSV file for each table is written here");
+        command->add_option("--json", jsonFile_, "One JSON document instead (-: standard output)")
+            ->option_text("FILE")
+            ->excludes(folder)
             ->each([this](const std::string&) { json_ = true; });
+        command->parse_complete_callback([this] { Require("FOLDER or --json", file_ + jsonFile_); });
         AddForce(*command, "Write over files");
     }
 
@@ -135,30 +160,46 @@ class CommandLine {
         CLI::App* command =
             Command("draws", "A history of draws, so that frequencies and wheels work from the first day",
                     [this] { return list_ ? ListGames(outside_) : Draws(outside_, Records(), Wished()); });
-        CLI::Option* game = AddHistory(*command, "a date, the numbers, the bonus number, the add-on number");
+        const Wanted wanted =
+            AddHistory(*command, "a date, the numbers, the bonus number, the add-on number");
         command->add_flag("--replace", replace_,
                           "Let the file's numbers take the place of those that are there");
-        CLI::Option* list = command->add_flag("--list", list_, "Name the games");
-        list->excludes(game);
+        command->add_flag("--list", list_, "Name the games")->excludes(wanted.game);
+        command->parse_complete_callback([this] {
+            if (list_) return;
+            Require("GAME", game_);
+            Require("FILE", file_);
+        });
     }
 
     void AddTickets() {
         CLI::App* command = Command("tickets", "Tickets that were played",
                                     [this] { return Tickets(outside_, Records(), Wished()); });
-        AddHistory(*command, "a date, the numbers, way, wager, regular, earlybird, the add-on number, price");
+        const Wanted wanted = AddHistory(
+            *command, "a date, the numbers, way, wager, regular, earlybird, the add-on number, price");
+        wanted.game->required();
+        wanted.file->required();
         command->add_flag("--spent", spent_, "Book what the tickets cost, a sum for each date");
     }
 
-    CLI::Option* AddHistory(CLI::App& command, const std::string& columns) {
-        CLI::Option* game = command.add_option("GAME", game_, "As \"draws --list\" names it, or its key");
-        command.add_option("FILE", file_, "CSV with " + columns);
+    static void Require(const std::string& name, const std::string& value) {
+        if (value.empty()) throw CLI::RequiredError(name);
+    }
+
+    struct Wanted {
+        CLI::Option* game;
+        CLI::Option* file;
+    };
+    Wanted AddHistory(CLI::App& command, const std::string& columns) {
+        const Wanted wanted{command.add_option("GAME", game_, "As \"draws --list\" names it, or its key"),
+                            command.add_option("FILE", file_, "CSV with " + columns)};
         command
             .add_option("--columns", columns_,
                         "What the columns hold, parted by commas, in place of a first line")
-            ->type_name("NAMES");
+            ->option_text("NAMES");
         command.add_flag("--day-first", dayFirst_, "04/07/2020 is the 4th of July");
         AddDryRun(command);
-        return game;
+        return wanted;
     }
 
     HistoryWish Wished() const {

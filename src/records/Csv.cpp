@@ -65,7 +65,7 @@ CsvReader::CsvReader(const fs::path& path) {
 
 void CsvReader::RefuseOtherEncodings() {
     const std::string_view start(buffer_);
-    // Told by the first record that is read.
+    // The first record that is read then says so.
     if (start.starts_with("\xFF\xFE") || start.starts_with("\xFE\xFF")) buffer_.assign(1, '\0');
 }
 

@@ -161,6 +161,8 @@ int ExportJson(Outside& outside, const Dao::RecordFile& file, const fs::path& to
         WriteJson(text, sources, rows);
         text.close();
         made.Put();
+        outside.words << Counted(static_cast<long>(sources.size()), "table") << " written to " << to.string()
+                      << '\n';
         return Done;
     });
 }

@@ -41,7 +41,7 @@ void NewFile::PutIfFree() {
     std::error_code error;
     SyncToDisk(path_);
     fs::create_hard_link(path_, place_, error);
-    // Where a file can't have two names, nobody can say "unless it exists" in one step.
+    // Some file systems know no second names. There it takes two steps to look and to put.
     if (error && !fs::exists(place_)) return Put();
     if (error) Raise(ErrorNumber::PathFileAccess);
     SyncToDisk(FolderOf(place_));

@@ -11,23 +11,11 @@ namespace sorvane::Records {
 
 namespace {
 
-bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
-
 // A menu caption without its ampersands and blanks at the end.
 std::string Plain(std::string_view caption) {
     std::string plain(TrimBlanks(caption));
     std::erase(plain, '&');
     return plain;
-}
-
-// Small letters and digits alone.
-std::string EssenceOf(std::string_view name) {
-    std::string essence;
-    for (const char letter : name) {
-        if (letter >= 'A' && letter <= 'Z') essence += static_cast<char>(letter | 0x20);
-        else if ((letter >= 'a' && letter <= 'z') || IsDigit(letter)) essence += letter;
-    }
-    return essence;
 }
 
 // Splits the number at the end off: "ball_3" is "ball" and 3, without one 0.
@@ -128,7 +116,7 @@ void GameFile::Tell(const CsvCell& cell, const std::string& what) {
     findings_.Tell(wish_.path, {cell.line, cell.column}, what);
 }
 
-// Told its columns, a file may still have names over them: a first line without any figure in its date.
+// A file whose columns are told may have a line of names all the same: its date holds no digit.
 bool GameFile::IsHeader(const std::vector<CsvCell>& record) const {
     for (std::size_t i = 0; i < record.size() && i < columns_.size(); ++i)
         if (columns_[i].part == Part::Date)
@@ -243,7 +231,7 @@ bool GameFile::Next(Entry& entry) {
 
 bool GameFile::ReadEntry(Entry& entry) {
     const long before = findings_.Count();
-    // A hundred thousand lines need no lists of their own.
+    // The lists keep their memory from line to line.
     entry.numbers.clear();
     entry.addOn.clear();
     entry = {.numbers = std::move(entry.numbers),

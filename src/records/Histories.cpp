@@ -54,7 +54,7 @@ class DrawSink {
     DrawSink(Intake& intake, const Table& table, const GameKey& key, bool replace)
         : table_(table), maker_(table, key), sink_(intake.Open(table)), replace_(replace) {}
 
-    // False when this file has drawn the day already, and otherwise.
+    // False when this file has drawn the day already, with other numbers.
     bool Put(Date day, const std::vector<int>& numbers) {
         Row row = maker_.Of(day, numbers);
         const auto found = sink_.OfDay(day);
@@ -86,12 +86,12 @@ class DrawSink {
     }
 
   private:
-    // One row serves a day, but in the table of the four Extra numbers, where each game has its own.
+    // A day has one row. Only in the table of the four Extra numbers each game has a row of its own.
     bool BelongsTo(const Row& a, const Row& b) const {
         if (table_.addOn == nullptr || !table_.addOn->FourNumbers) return true;
         return a[Index(table_.GameAt())].Get() == b[Index(table_.GameAt())].Get();
     }
-    // The game on the slip of which a digit add-on was checked says nothing of the draw.
+    // The number of a digit add-on is drawn for all games at once, so the game in its row does not matter.
     bool SameRow(const Row& a, const Row& b) const {
         for (std::size_t i = 0; i < a.size(); ++i)
             if (table_.fields[i].means != Means::Game && a[i].Get() != b[i].Get()) return false;
@@ -287,10 +287,7 @@ int TakeIn(Outside& outside, const Place& place, const HistoryWish& wish) {
             }
             told.insert(told.begin(), file.LeftAside());
             progress.Wipe();
-            const int status = Conclude(outside, intake, findings, wish.dryRun);
-            for (const std::string& line : told)
-                if (status == Done && !line.empty()) outside.words << line << '\n';
-            return status;
+            return Conclude(outside, intake, findings, told, wish.dryRun);
         });
     });
 }

@@ -14,16 +14,6 @@ namespace sorvane::Records {
 
 namespace {
 
-// Letters and digits alone, small: other tools write "# of Balls" as "__of_Balls" or "#_of_balls".
-std::string Essence(std::string_view name) {
-    std::string essence;
-    for (const char letter : name) {
-        if (letter >= 'A' && letter <= 'Z') essence += static_cast<char>(letter | 0x20);
-        else if ((letter >= 'a' && letter <= 'z') || (letter >= '0' && letter <= '9')) essence += letter;
-    }
-    return essence;
-}
-
 // What a file may lack: what the program's writers leave to the table, and what the table says itself.
 bool MayLack(const Table& table, const Field& field) {
     return field.means == Means::Key || field.means == Means::Mark || field.mayBeNull ||
@@ -62,9 +52,9 @@ class TableImport {
         const long before = findings_.Count();
         columnOf_.assign(table_.fields.size(), None);
         for (std::size_t column = 0; column < record_.size(); ++column) {
-            const std::string name = Essence(record_[column].text);
+            const std::string name = EssenceOf(record_[column].text);
             const auto field = std::find_if(table_.fields.begin(), table_.fields.end(),
-                                            [&](const Field& one) { return Essence(one.name) == name; });
+                                            [&](const Field& one) { return EssenceOf(one.name) == name; });
             if (field == table_.fields.end())
                 Tell(SpotOf(record_[column]), table_.name + " has no field \"" + record_[column].text + "\"");
             else if (auto& at = columnOf_[static_cast<std::size_t>(field - table_.fields.begin())];
@@ -189,20 +179,18 @@ int Import(Outside& outside, const Place& place, const ImportWish& wish) {
         Intake intake(outside, place, wish.dryRun);
         const double inAll = SizeOf(sources);
         double before = 0;
-        std::string told;
+        std::vector<std::string> told;
         for (const Source& source : sources) {
             TableSink sink = intake.Open(*source.table);
             Naming(source.path, [&] {
                 TableImport import(*source.table, source.path, wish.newKeys, findings);
                 import.Read(sink, progress, before, inAll);
-                told += import.Told() + "\n";
+                told.push_back(import.Told());
             });
             before += SizeOf({source});
         }
         progress.Wipe();
-        const int status = Conclude(outside, intake, findings, wish.dryRun);
-        if (status == Done) outside.words << told;
-        return status;
+        return Conclude(outside, intake, findings, told, wish.dryRun);
     });
 }
 

@@ -172,12 +172,15 @@ void Intake::Finish() {
     if (staged_) staged_->PutIfFree();
 }
 
-int Conclude(Outside& outside, Intake& intake, const Findings& findings, bool dryRun) {
+int Conclude(Outside& outside, Intake& intake, const Findings& findings, const std::vector<std::string>& told,
+             bool dryRun) {
     if (findings.Count() > 0) {
         outside.words << Counted(findings.Count(), "finding") << "; nothing was changed\n";
         return Refused;
     }
     intake.Finish();
+    for (const std::string& line : told)
+        if (!line.empty()) outside.words << line << '\n';
     if (dryRun) outside.words << "a dry run: nothing was changed\n";
     return Done;
 }

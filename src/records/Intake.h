@@ -43,8 +43,8 @@ class TableSink {
 
     enum class Outcome { Added, ThereAlready, KeyTaken };
     // Adds a row unless the table had it before this sink opened: under its key, or, where it has none and is
-    // to get the next one, with the same values. A row that the table had once is there already once: what a
-    // file holds twice is two rows.
+    // to get the next one, with the same values. Each row of the table stands for one row only: what the file
+    // holds once more is a new row.
     Outcome Add(Row row);
     // Adds it whatever is there.
     Outcome AddAlways(Row row);
@@ -106,7 +106,9 @@ class Intake {
     std::unique_ptr<Dao::RecordFile> file_;
 };
 
-// What an intake came to, for the last line.
-int Conclude(Outside& outside, Intake& intake, const Findings& findings, bool dryRun);
+// Finishes an intake without findings and says what was `told` of its tables; else says how many there are.
+// Gives the exit status.
+int Conclude(Outside& outside, Intake& intake, const Findings& findings, const std::vector<std::string>& told,
+             bool dryRun);
 
 }  // namespace sorvane::Records

@@ -231,6 +231,14 @@ bool SameWord(std::string_view a, std::string_view b) {
                       [](char x, char y) { return Small(x) == Small(y); });
 }
 
+std::string EssenceOf(std::string_view name) {
+    std::string essence;
+    for (const char letter : name)
+        if (const char small = Small(letter); (small >= 'a' && small <= 'z') || IsDigit(small))
+            essence += small;
+    return essence;
+}
+
 const Table* FindTable(std::string_view name) {
     const auto tables = Tables();
     const auto at = std::find_if(tables.begin(), tables.end(),

@@ -57,6 +57,9 @@ std::span<const Table> Tables();
 // Whatever the case of its letters; null when the program makes no such table.
 const Table* FindTable(std::string_view name);
 bool SameWord(std::string_view a, std::string_view b);
+constexpr bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+// Small letters and digits alone: other tools write "# of Balls" as "__of_Balls" or "#_of_balls".
+std::string EssenceOf(std::string_view name);
 
 // The table as the program would make it.
 Dao::TableDef Define(const Table& table);

@@ -24,6 +24,33 @@ TEST_F(CommandLine, WrongUseIsToldInWordsWithTheStatusTwo) {
     }
 }
 
+TEST_F(CommandLine, WrongUseIsToldByTheNameOfWhatIsMissingOrUnknown) {
+    const auto told = [&](const std::vector<std::string>& arguments, const std::string& what) {
+        EXPECT_EQ(Run(arguments).words,
+                  "sorvane-records: " + what + "\n\"sorvane-records --help\" tells more\n");
+    };
+    told({}, "a command is missing");
+    told({"sing"}, "\"sing\" is no command");
+    told({"draws"}, "GAME is required");
+    told({"draws", "BC49"}, "FILE is required");
+    told({"tickets"}, "GAME is required");
+    told({"tickets", "BC49"}, "FILE is required");
+    told({"draws", "BC49", "--list"}, "GAME excludes --list");
+    told({"export"}, "FOLDER or --json is required");
+    told({"export", "out", "--json", "all.json"}, "FOLDER excludes --json");
+    told({"import"}, "FOLDER is required");
+    told({"restore"}, "FILE is required");
+}
+
+TEST_F(CommandLine, HelpNamesArgumentsAndNothingOfTheirKind) {
+    for (const char* command : {"backup", "restore", "export", "import", "draws", "tickets"})
+        for (const char* odd : {"TEXT", "INT", "REQUIRED", "Excludes", "SUBCOMMAND", "[Option Group"})
+            EXPECT_FALSE(Tells(Do({command, "--help"}).data, odd)) << command << " " << odd;
+    EXPECT_TRUE(Tells(Do({"--help"}).data, "Usage: sorvane-records [OPTIONS] COMMAND\n"));
+    EXPECT_TRUE(Tells(Do({"backup", "--help"}).data, "--keep N "));
+    EXPECT_TRUE(Tells(Do({"tickets", "--help"}).data, "[OPTIONS] GAME FILE\n"));
+}
+
 TEST_F(CommandLine, EveryCommandHasHelp) {
     const Answer all = Do({"--help"});
     for (const char* command :

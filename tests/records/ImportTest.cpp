@@ -1,4 +1,3 @@
-#include "records/Files.h"
 #include "records/RecordsWorld.h"
 #include "support/FaultVfs.h"
 #include "support/OtherProgram.h"
@@ -133,6 +132,8 @@ TEST_F(Export, NeverWritesOverAFileUnlessForced) {
     EXPECT_EQ(BytesOf(Path("all.json")), "mine");
     Do({"export", "--json", Path("all.json"), "--force"});
     EXPECT_EQ(BytesOf(Path("all.json")).front(), '{');
+    EXPECT_EQ(Run({"export", "--json", Path("all.json"), "--force"}).words,
+              "2 tables written to " + Path("all.json") + "\n");
     EXPECT_EQ(Run({"export"}).status, 2);
     EXPECT_EQ(Run({"export", Path("x"), "--json", Path("y")}).status, 2);
 }
@@ -210,14 +211,15 @@ TEST_F(Import, WithoutAKeyThatIsLeftIsRefusedUntilTheKeysAreCountedAnew) {
 }
 
 TEST_F(Import, AFileThatSomebodyMadeMeanwhileKeepsItsPlace) {
-    {
-        Records::NewFile made(Path("x.mdb"));
-        Write("x.mdb.part", "new");
-        Write("x.mdb", "theirs");
-        EXPECT_EQ(ErrorOf([&] { made.PutIfFree(); }), ErrorNumber::PathFileAccess);
-    }
-    EXPECT_EQ(BytesOf(Path("x.mdb")), "theirs");
-    EXPECT_FALSE(fs::exists(Path("x.mdb.part")));
+    Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
+    terminal = true;
+    meanwhile = [&] {
+        if (fs::exists(Path("data/sorvane.mdb.part"))) Write("data/sorvane.mdb", "theirs");
+    };
+    const Answer answer = Run({"import", Path("in")});
+    EXPECT_EQ(answer.status, 1) << answer.words;
+    EXPECT_EQ(BytesOf(File()), "theirs");
+    EXPECT_FALSE(fs::exists(Path("data/sorvane.mdb.part")));
 }
 
 TEST_F(Import, TellsEveryFindingWithFileLineAndColumnAndChangesNothing) {
@@ -291,7 +293,7 @@ TEST_F(Import, NewKeysMergeTheRecordsOfAnotherFile) {
 TEST_F(Import, ADryRunTellsTheSameAndChangesNothing) {
     Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
     const Answer fresh = Do({"import", Path("in"), "--dry-run"});
-    EXPECT_EQ(fresh.words, "a dry run: nothing was changed\nWinBC49: 1 row added\n");
+    EXPECT_EQ(fresh.words, "WinBC49: 1 row added\na dry run: nothing was changed\n");
     EXPECT_FALSE(fs::exists(Path("data")));
     Make("WinBC49");
     const std::string before = BytesOf(File());
@@ -348,6 +350,11 @@ TEST_F(Import, AFileThatAnotherProgramHoldsIsLeftAlone) {
     EXPECT_TRUE(Tells(answer.words, "another program holds the file")) << answer.words;
     other.Do("ROLLBACK");
     EXPECT_EQ(Ask("SELECT count(*) FROM WinBC49"), Texts{"0"});
+    Do({"import", Path("in")});
+    // Also when nothing is to be written in the end: what is there is compared under the lock.
+    other.Do("BEGIN IMMEDIATE");
+    EXPECT_EQ(Run({"import", Path("in")}).status, 1);
+    other.Do("ROLLBACK");
     Do({"import", Path("in")});
 }
 

@@ -76,14 +76,18 @@ class RecordsWorld : public ::testing::Test {
         return rows;
     }
 
-    std::chrono::milliseconds Clock() { return std::chrono::milliseconds(ticks += tick); }
+    std::chrono::milliseconds Clock() {
+        if (meanwhile) meanwhile();
+        return std::chrono::milliseconds(ticks += tick);
+    }
 
     World world;
     std::string vfs;
     bool terminal = false;
     Records::Moment now{Date::FromYmd(2026, 11, 21), 20, 15, 0};
     long ticks = 0;
-    long tick = 0;  // how long each look at the clock takes
+    long tick = 0;                    // how long each look at the clock takes
+    std::function<void()> meanwhile;  // what somebody else does between two looks
 };
 
 inline std::vector<std::string> LinesOf(const std::string& text) {

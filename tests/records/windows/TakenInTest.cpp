@@ -48,10 +48,25 @@ class Player : public Road {
             picture.money = BarsOf("mscProfitLoss");
             Click("cmdPLReport");
             picture.moneyReport = Report();
-            if (IsPick(family)) return;
+            if (IsPick(family)) return LookAtDigitReports(picture);
             Click(family == Family::frm645 ? "cmdNFReport" : "cmdReport");
             picture.numberReport = Report();
         });
+    }
+
+    // One after the other, as the button offers them; Play 4 has no triples.
+    void LookAtDigitReports(Picture& picture) {
+        constexpr int Types = 4, Triples = 1;
+        for (int type = 0; type < Types; ++type) {
+            if (type == Triples && family == Family::frmPick4) continue;
+            person.ExpectWindow("frmReportType", [&](QWidget&) {
+                Click(At("optReportType", type));
+                Click("cmdOK");
+            });
+            Click("cmdReport");
+            EXPECT_NE(picture.numberReport, Report()) << type;
+            picture.numberReport += Report();
+        }
     }
 
     // Every row but those of the early draw, which nothing reads.
