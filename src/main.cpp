@@ -43,9 +43,11 @@ int main(int, char** argv) {
     frmMain window(session, windows, folder, [] { QCoreApplication::exit(); });
     window.Load();
     window.Show();
-    // Drawing the icon can wait until the window is on the screen.
+    // Drawing the icon, and asking the desktop, can wait until the window is on the screen.
     constexpr std::chrono::milliseconds Painted{100};
-    QTimer::singleShot(Painted, &window,
-                       [] { QGuiApplication::setWindowIcon(forms::WindowIcon(":/pictures/icon.svg")); });
+    QTimer::singleShot(Painted, &window, [&application] {
+        QGuiApplication::setWindowIcon(forms::WindowIcon(":/pictures/icon.svg"));
+        application.FollowDesktop();
+    });
     return QCoreApplication::exec();
 }

@@ -5,6 +5,10 @@
 #include <QWidget>
 #include <utility>
 
+#include "forms/Look.h"
+#ifdef SORVANE_PORTAL
+#include "forms/Portal.h"
+#endif
 #include "forms/Style.h"
 #include "forms/Window.h"
 
@@ -39,6 +43,17 @@ Application::Application(int& argc, char** argv) : QApplication((setStyle(new St
             if (widget) widget->update();
         runtime_.FocusChanged(now);
     });
+}
+
+void Application::FollowDesktop() {
+#ifdef SORVANE_PORTAL
+    new Portal(*this, [this](bool dark) { PreferDark(dark); });
+#endif
+}
+
+void Application::PreferDark(bool dark) {
+    setPalette(QPalette());
+    if (dark && Look::IsLight(palette())) setPalette(Look::Legible(Look::Dark(palette())));
 }
 
 // Qt gives the focus inside notify, before the widget gets the press.

@@ -14,6 +14,11 @@ class Application : public QApplication {
     Application(int& argc, char** argv);
 
     Runtime& Events() { return runtime_; }
+    // From now on dark or light as the desktop's settings portal tells. Returns at once; what the portal says
+    // comes while events are handled.
+    void FollowDesktop();
+    // Dark colours, where the desktop's own are light; else the desktop's own.
+    void PreferDark(bool dark);
     bool notify(QObject* receiver, QEvent* event) override;
     bool eventFilter(QObject* receiver, QEvent* event) override;
 

@@ -161,6 +161,28 @@ Ball MarkColours(const QPalette& palette, bool ticked, bool enabled) {
     return {paper, palette.color(enabled ? QPalette::Text : QPalette::WindowText), ring};
 }
 
+bool IsLight(const QPalette& palette) {
+    return Luminance(palette.color(QPalette::Window)) > Luminance(palette.color(QPalette::WindowText));
+}
+
+QPalette Dark(const QPalette& light) {
+    const QColor window(46, 46, 50), button(60, 60, 65), base(30, 30, 33), ink(240, 240, 240);
+    QPalette palette(button, window);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, ink);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, Mix(base, window, 0.5));
+    palette.setColor(QPalette::ToolTipBase, button);
+    palette.setColor(QPalette::PlaceholderText, Mix(ink, base, 0.4));
+    for (const auto role :
+         {QPalette::Link, QPalette::LinkVisited, QPalette::Highlight, QPalette::HighlightedText})
+        palette.setColor(role, light.color(QPalette::Active, role));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, Mix(ink, window, 0.5));
+    return palette;
+}
+
 QPalette Legible(QPalette palette) {
     using P = QPalette;
     const std::vector<Texts> all = {

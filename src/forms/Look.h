@@ -48,6 +48,10 @@ Ball BallColours(const QPalette& palette, bool ticked, bool enabled);
 // The colours of a box or circle to be ticked.
 Ball MarkColours(const QPalette& palette, bool ticked, bool enabled);
 
+// Whether texts are darker than what they stand on.
+bool IsLight(const QPalette& palette);
+// Dark colours with the accent of this palette.
+QPalette Dark(const QPalette& light);
 // The palette with every text at least 4.5 : 1 on each ground that it may stand on, disabled ones too.
 QPalette Legible(QPalette palette);
 // The outline of fields and buttons: seen on the window as on their own ground.

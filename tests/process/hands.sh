@@ -33,7 +33,7 @@ until_so() {
 
 start_screen() {
     mkfifo "$hands/screen"
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp 3>"$hands/screen" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -fbdir "$hands" -nolisten tcp 3>"$hands/screen" 2>/dev/null &
     processes+=($!)
     read -r -t 60 number <"$hands/screen"
     export DISPLAY=:$number
