@@ -374,8 +374,9 @@ int TableRecordset::Write(Statement& statement, int added) {
 // is.
 void TableRecordset::Append() {
     Write(InsertOf(*pending_), 1);
-    if (!end_ || Database().AddedRow() != end_->row + 1) return end_.reset();
-    end_ = End{end_->row + 1, Database().Writes(), std::move(pending_->values)};
+    const std::int64_t added = Database().AddedRow();
+    if (!end_ || added - 1 != end_->row) return end_.reset();
+    end_ = End{added, Database().Writes(), std::move(pending_->values)};
 }
 
 void TableRecordset::Update() {
