@@ -344,7 +344,7 @@ TEST_F(Import, AFileThatAnotherProgramHoldsIsLeftAlone) {
     Make("WinBC49");
     OtherProgram other(File().string());
     other.Do("BEGIN IMMEDIATE");
-    Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
+    Csv(",2026-11-21,1,2,3,4,5,6,7\n");
     const Answer answer = Run({"import", Path("in")});
     EXPECT_EQ(answer.status, 1);
     EXPECT_TRUE(Tells(answer.words, "another program holds the file")) << answer.words;
