@@ -6,12 +6,11 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
 
-#include "forms/Look.h"
+#include "forms/Placement.h"
 #include "forms/Utf8.h"
 
 namespace sorvane::forms {
@@ -66,7 +65,9 @@ void Window::Appear(Qt::WindowModality modality) {
     else level_ = std::make_unique<Runtime::Modal>(this);
     setWindowModality(modality);
     if (!testAttribute(Qt::WA_Resized)) TakeSize();
+    Centre(*this);
     create();
+    KeepOnScreen(*this);
     windowHandle()->setTransientParent(below ? below->windowHandle() : nullptr);
     if (focusWidget() == this) clearFocus();  // the control that had it was hidden or disabled meanwhile
     if (firstFocus_ && firstFocus_->isEnabledTo(this) && firstFocus_->isVisibleTo(this))
@@ -76,10 +77,9 @@ void Window::Appear(Qt::WindowModality modality) {
     QApplication::setActiveWindow(this);
 }
 
-// As large as its content asks for, as far as the screen has room for it and its frame. Qt would take two
-// thirds of the screen at most.
+// As large as its content asks for, as far as the screen has room for it. Qt would take two thirds of the
+// screen at most.
 void Window::TakeSize() {
-    const int frame = Look::TitleBar(*this);
     ensurePolished();
     // Captions that were set a moment ago have not reached the layouts yet.
     for (auto* widget : findChildren<QWidget*>()) widget->updateGeometry();
@@ -88,7 +88,7 @@ void Window::TakeSize() {
         menu->ensurePolished();
         asked.setWidth(std::max(asked.width(), menu->sizeHint().width()));
     }
-    resize(asked.boundedTo(screen()->availableSize() - QSize(frame / 2, frame)));
+    resize(asked.boundedTo(RoomFor(*this)));
 }
 
 void Window::Unload() {

@@ -51,9 +51,14 @@ Stage::Stage(int scale) {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (!platform.isEmpty() && !platform.startsWith("offscreen")) return;
     const std::string file = screen_.File("screen.json");
-    std::ofstream(file) << R"({"screens": [{"name": "stage", "x": 0, "y": 0, "width": )" << 1366 * scale / 100
-                        << R"(, "height": )" << 768 * scale / 100
-                        << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+    const auto screen = [scale](const char* name, int x, int width, int height) {
+        return R"({"logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1, "y": 0, "name": ")" + std::string(name) +
+               R"(", "x": )" + std::to_string(x * scale / 100) + R"(, "width": )" +
+               std::to_string(width * scale / 100) + R"(, "height": )" +
+               std::to_string(height * scale / 100) + "}";
+    };
+    std::ofstream(file) << R"({"screens": [)" << screen("stage", 0, 1366, 768) << ", "
+                        << screen("wing", 1366, 800, 480) << "]}";
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QByteArray::fromStdString(file));
 }
 

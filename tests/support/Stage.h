@@ -8,8 +8,8 @@
 namespace sorvane::test {
 
 // Make it before the application. It fixes the format of numbers and dates, the time zone and the theme, and
-// sets up a screen of 1366 x 768 that nobody sees, unless QT_QPA_PLATFORM asks for one that can be seen.
-// `scale` is in per cent.
+// sets up a screen of 1366 x 768 that nobody sees, with a small one beside it, unless QT_QPA_PLATFORM asks
+// for one that can be seen. `scale` is in per cent.
 class Stage {
   public:
     explicit Stage(int scale = 100);
