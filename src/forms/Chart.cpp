@@ -11,6 +11,7 @@
 #include <QGraphicsTextItem>
 #include <QLegend>
 #include <QLegendMarker>
+#include <QLocale>
 #include <QTextDocument>
 #include <QToolTip>
 #include <QVBoxLayout>

@@ -41,10 +41,12 @@ class BallLayout final : public QLayout {
         const double across = Step(place.width(), columns_, side), down = Step(place.height(), Rows(), side);
         const double left = (place.width() - side - across * (columns_ - 1)) / 2;
         const double top = (place.height() - side - down * (Rows() - 1)) / 2;
-        for (int i = 0; i < count(); ++i)
-            itemAt(i)->setGeometry(
-                {place.left() + static_cast<int>(std::lround(left + across * (i % columns_))),
-                 place.top() + static_cast<int>(std::lround(top + down * (i / columns_))), side, side});
+        for (int i = 0; i < count(); ++i) {
+            const int row = i / columns_, column = i % columns_;
+            itemAt(i)->setGeometry({place.left() + static_cast<int>(std::lround(left + across * column)),
+                                    place.top() + static_cast<int>(std::lround(top + down * row)), side,
+                                    side});
+        }
     }
 
   private:
