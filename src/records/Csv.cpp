@@ -103,7 +103,7 @@ std::string_view CsvReader::GetUpTo(IsStop isStop) {
     const std::string_view letters = rest.substr(
         0, static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), isStop) - rest.begin()));
     at_ += letters.size();
-    column_ += std::count_if(letters.begin(), letters.end(), BeginsCharacter);
+    column_ += static_cast<long>(std::count_if(letters.begin(), letters.end(), BeginsCharacter));
     return letters;
 }
 
