@@ -77,7 +77,7 @@ void BindAll(Statement& statement, const std::vector<Value>& row) {
 class PageCopy {
   public:
     PageCopy(const Connection& from, const Connection& to)
-        : to_(to), copy_(sqlite3_backup_init(to.Handle(), "main", from.Handle(), "main")) {
+        : copy_(sqlite3_backup_init(to.Handle(), "main", from.Handle(), "main")) {
         if (copy_ == nullptr) RaiseResult(sqlite3_extended_errcode(to.Handle()));
     }
     PageCopy(const PageCopy&) = delete;
@@ -98,7 +98,6 @@ class PageCopy {
     int InAll() const { return sqlite3_backup_pagecount(copy_); }
 
   private:
-    const Connection& to_;
     sqlite3_backup* copy_;
     int parts_ = 0;
 };
