@@ -280,6 +280,9 @@ TEST_F(Bars, ValueStaysWhileTheMouseRestsOnTheBar) {
     QApplication::sendEvent(View()->viewport(), &rest);
     EXPECT_TRUE(QToolTip::isVisible());
     EXPECT_EQ("Frequency: 40", QToolTip::text().toStdString());
+    // Qt takes a tip away after ten seconds.
+    QTest::qWait(10'500);
+    EXPECT_TRUE(QToolTip::isVisible());
     person.MoveTo(*View()->viewport(), QPoint(3, 3));
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
 }
