@@ -22,6 +22,13 @@ popup_comes() { # within a second
     return 1
 }
 
+leave_popup() { # leave_popup WHAT: by Escape, if it ever opened; then the game too
+    [[ -n $opened ]] || fail "no $1"
+    keys Escape
+    until_so "the $1 closed" popups_are 0
+    keys alt+x
+}
+
 echo "a calendar opens under the arrow of a date, and Escape closes it"
 open_game 6 "Lotto 6/49"
 xdotool mousemove 683 384  # in every window that is larger than half of the screen
@@ -35,11 +42,7 @@ for along in 113 105 121 97 129; do
     xdotool mouseup 1
     if [[ -n $opened ]]; then break; fi
 done
-[[ -n $opened ]] || fail "no calendar"
-keys Escape
-until_so "the calendar closed" popups_are 0
-
-keys alt+x
+leave_popup calendar
 
 echo "so does the list of a field"
 open_game p "Pick 3"
@@ -51,10 +54,7 @@ for _ in {1..12}; do
     xdotool keyup F4
     if [[ -n $opened ]]; then break; fi
 done
-[[ -n $opened ]] || fail "no list"
-keys Escape
-until_so "the list closed" popups_are 0
-keys alt+x
+leave_popup list
 
 echo "F1 opens the guide over a game, and Escape leaves it"
 open_game 6 "Lotto 6/49"

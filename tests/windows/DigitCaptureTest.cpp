@@ -12,6 +12,15 @@ class DigitWindow : public SlipWorld {
             Choose("cboNumber(" + std::to_string(i++) + ")", std::to_string(digit));
         person.Tab();
     }
+    // A Pick 3 ticket, and its Encore number typed into the field.
+    void TypeTheEncoreOfATicket() {
+        Show("mnuCANONTPICK3");
+        OneSheet(1);
+        Put("txtNoOfExtra", "1");
+        PutDigits({1, 2, 3});
+        Click("cmdNext_Ticket");
+        person.Type("123456");
+    }
     void ExpectCancel() {
         person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     }
@@ -480,12 +489,7 @@ TEST_F(DigitWindow, NoEmptiesTheWayWhileItsOptionStillLooksChosen) {
 }
 
 TEST_F(DigitWindow, NoInTheEncorePhaseOpensTheListsAgain) {
-    Show("mnuCANONTPICK3");
-    OneSheet(1);
-    Put("txtNoOfExtra", "1");
-    PutDigits({1, 2, 3});
-    Click("cmdNext_Ticket");
-    person.Type("123456");
+    TypeTheEncoreOfATicket();
     person.Tab();
     EXPECT_FALSE(IsEnabled("cboNumber(0)"));
     RefuseToSave();
@@ -521,12 +525,7 @@ TEST_F(DigitWindow, CancelKeepsTheWayAsItLooks) {
 }
 
 TEST_F(DigitWindow, CancelOutOfTheEncorePhaseOpensTheLists) {
-    Show("mnuCANONTPICK3");
-    OneSheet(1);
-    Put("txtNoOfExtra", "1");
-    PutDigits({1, 2, 3});
-    Click("cmdNext_Ticket");
-    person.Type("123456");
+    TypeTheEncoreOfATicket();
     ExpectCancel();
     Click("cmdCancel");
     for (const auto* list : {"cboNumber(0)", "cboNumber(1)", "cboNumber(2)"}) {

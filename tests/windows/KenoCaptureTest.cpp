@@ -10,9 +10,8 @@ const std::string TicketRow =
 class KenoWindow : public SlipWorld {
   protected:
     void ShowKeno() { Show("mnuCANONTKENO"); }
-    void SaveOneOfTwoSheetsWithEncore() {
-        ShowKeno();
-        SeveralSheets(2, 2);
+    // A sheet of one ticket with an Encore number, of several.
+    void SaveSheetWithEncore() {
         Put("txtNoOfExtra", "1");
         PutChoices("2", "1.00");
         Pick({1, 2});
@@ -540,13 +539,7 @@ TEST_F(KenoWindow, EnterInTheCountAsksForAButtonOnAnotherTabAndStays) {
 TEST_F(KenoWindow, AFurtherSheetStartsWithEmptyEncoreFields) {
     ShowKeno();
     SeveralSheets(3, 2, 1);
-    Put("txtNoOfExtra", "1");
-    PutChoices("2", "1.00");
-    Pick({1, 2});
-    Click("cmdNext_Ticket");
-    person.Type("123456");
-    person.Tab();
-    SaveSheet(false);
+    SaveSheetWithEncore();
     EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
     EXPECT_EQ(TextOf("txtNoOfExtra"), "0");
@@ -601,7 +594,9 @@ TEST_F(KenoWindow, NoThrowsTheEntryAwayAndTheWindowIsIdle) {
 }
 
 TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
-    SaveOneOfTwoSheetsWithEncore();
+    ShowKeno();
+    SeveralSheets(2, 2);
+    SaveSheetWithEncore();
     EXPECT_EQ(Rows("SELECT COUNT(*) FROM PlayedEncore"), Texts{"1"});
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     ExpectCleanUp(Answer::Yes, "Cancelling before completion...");
@@ -613,7 +608,9 @@ TEST_F(KenoWindow, CancelOffersTheCleanUpUnderItsOwnTitle) {
 }
 
 TEST_F(KenoWindow, EnterLeavesTheSavedSheetsOfAnEntryThatIsCancelled) {
-    SaveOneOfTwoSheetsWithEncore();
+    ShowKeno();
+    SeveralSheets(2, 2);
+    SaveSheetWithEncore();
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     person.ExpectKey("Cancelling before completion...", CleanUpText, Qt::Key_Return, BoxStyle::YesNoCancel);
     Click("cmdCancel");
