@@ -31,16 +31,16 @@ until_so() {
 
 # --- the screen
 
-start_screen() {
+start_screen() { # start_screen WIDTH HEIGHT
     mkfifo "$hands/screen"
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -fbdir "$hands" -nolisten tcp 3>"$hands/screen" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 "$1x$2x24" -fbdir "$hands" -nolisten tcp 3>"$hands/screen" 2>/dev/null &
     processes+=($!)
     read -r -t 60 number <"$hands/screen"
     export DISPLAY=:$number
 }
 
 start_x11() {
-    start_screen
+    start_screen 1366 768
     mkfifo "$hands/manager"
     openbox --startup "sh -c 'echo ready >$hands/manager'" >/dev/null 2>&1 &
     processes+=($!)
@@ -48,7 +48,7 @@ start_x11() {
 }
 
 start_wayland() {
-    start_screen
+    start_screen 1400 800  # somewhat larger than the compositor, so that the pointer can come in from outside
     export XDG_RUNTIME_DIR=$hands
     cat >"$hands/weston.ini" <<'END'
 [core]
@@ -109,9 +109,12 @@ seen() {
 }
 front_is() { [[ $(seen | sed -n 1p) == "$1" ]]; }
 popups_are() { [[ $(seen | sed -n 2p) == "$1" ]]; }
-# Where in the front window the pointer is; false when it is elsewhere.
-pointer_is_in_front() {
+# Moves the pointer to a place of the compositor and tells where in the front window that is; false when it is
+# elsewhere. A compositor whose window came up under the pointer may take none of its moves before it has come in.
+pointer_comes_into_front() { # pointer_comes_into_front X Y
     local there
+    xdotool mousemove 1390 790 mousemove "$1" "$2"
+    sleep 0.2
     there=$(seen | sed -n 3p)
     [[ -n $there ]] && read -r pointer_x pointer_y <<<"$there"
 }

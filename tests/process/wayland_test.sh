@@ -31,8 +31,8 @@ leave_popup() { # leave_popup WHAT: by Escape, if it ever opened; then the game 
 
 echo "a calendar opens under the arrow of a date, and Escape closes it"
 open_game 6 "Lotto 6/49"
-xdotool mousemove 683 384  # in every window that is larger than half of the screen
-until_so "the pointer in the window" pointer_is_in_front
+# The middle is in every window that is larger than half of the screen.
+until_so "the pointer in the window" pointer_comes_into_front 683 384
 left=$((683 - pointer_x)) top=$((384 - pointer_y))
 opened=
 # The arrow is near here; just where depends on the letters.
