@@ -100,11 +100,12 @@ template <class IsStop>
 std::string_view CsvReader::GetUpTo(IsStop isStop) {
     if (Peek() == End) return {};
     const std::string_view rest = std::string_view(buffer_).substr(at_);
-    const std::string_view letters = rest.substr(
-        0, static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), isStop) - rest.begin()));
-    at_ += letters.size();
-    column_ += static_cast<long>(std::count_if(letters.begin(), letters.end(), BeginsCharacter));
-    return letters;
+    std::size_t size = 0;
+    long characters = 0;
+    for (; size < rest.size() && !isStop(rest[size]); ++size) characters += BeginsCharacter(rest[size]);
+    at_ += size;
+    column_ += characters;
+    return rest.substr(0, size);
 }
 
 void CsvReader::Break(const CsvCell& cell, std::string what) const {
@@ -112,7 +113,6 @@ void CsvReader::Break(const CsvCell& cell, std::string what) const {
 }
 
 void CsvReader::Take(CsvCell& cell, std::string_view letters) {
-    if (letters.find('\0') != std::string_view::npos) Break(cell, NoUtf8);
     inRecord_ += letters.size();
     if (inRecord_ > MostInRecord)
         Break(cell, cell.quoted ? "the quote that opens here is not closed" : "this line is too long");
@@ -134,21 +134,26 @@ void CsvReader::EndLine() {
 
 void CsvReader::ReadPlain(CsvCell& cell) {
     const auto isStop = [this](char letter) {
-        return letter == separator_ || letter == '\n' || letter == '\r';
+        return letter == separator_ || letter == '\n' || letter == '\r' || letter == '\0';
     };
-    while (!AtLineEnd() && Peek() != separator_) Take(cell, GetUpTo(isStop));
+    for (; !AtLineEnd() && Peek() != separator_; Take(cell, GetUpTo(isStop)))
+        if (Peek() == '\0') Break(cell, NoUtf8);
     TrimEnd(cell.text);
 }
 
 void CsvReader::ReadQuoted(CsvCell& cell) {
     Get();
     cell.quoted = true;
-    const auto isStop = [](char letter) { return letter == '"' || letter == '\n' || letter == '\r'; };
+    const auto isStop = [](char letter) {
+        return letter == '"' || letter == '\n' || letter == '\r' || letter == '\0';
+    };
     for (;;) {
         Take(cell, GetUpTo(isStop));
         switch (Peek()) {
             case End:
                 Break(cell, "the quote that opens here is not closed");
+            case '\0':
+                Break(cell, NoUtf8);
             case '\n':
             case '\r':
                 EndLine();

@@ -11,6 +11,8 @@ namespace sorvane::Records {
 
 namespace {
 
+constexpr int Unplayed = -1;  // stands for a number until its column is read
+
 // A menu caption without its ampersands and blanks at the end.
 std::string Plain(std::string_view caption) {
     std::string plain(TrimBlanks(caption));
@@ -152,6 +154,8 @@ void GameFile::TakeNames(const std::vector<CsvCell>& names) {
                            });
         if (twice) Tell(cell, "\"" + cell.text + "\" says the same as a column before it");
         columns_.push_back(column);
+        if (column.part == Part::Number)
+            numberColumns_ = std::max(numberColumns_, static_cast<std::size_t>(column.at));
         if (column.part == Part::Aside)
             leftAside_ += (leftAside_.empty() ? "columns left aside: " : ", ") + cell.text;
     }
@@ -232,7 +236,7 @@ bool GameFile::Next(Entry& entry) {
 bool GameFile::ReadEntry(Entry& entry) {
     const long before = findings_.Count();
     // The lists keep their memory from line to line.
-    entry.numbers.clear();
+    entry.numbers.assign(numberColumns_, Unplayed);
     entry.addOn.clear();
     entry = {.numbers = std::move(entry.numbers),
              .addOn = std::move(entry.addOn),
@@ -272,7 +276,6 @@ void GameFile::ReadPart(Column column, const CsvCell& cell, Entry& entry) {
             break;
         case Part::Number: {
             const auto at = static_cast<std::size_t>(column.at);
-            if (entry.numbers.size() < at) entry.numbers.resize(at, -1);
             const bool unplayed = history_ == History::Tickets && IsKeno(game_.key->in) &&
                                   (cell.text.empty() || cell.text == "0");
             if (!unplayed) entry.numbers[at - 1] = ReadNumber(cell, cell.text, numbers_.low, top);
@@ -365,7 +368,7 @@ void GameFile::JudgeEntry(Entry& entry) {
     const CsvCell& line = record_.front();
     const bool draws = history_ == History::Draws;
     const bool keno = !draws && IsKeno(game_.key->in);
-    if (keno) std::erase(entry.numbers, -1);
+    std::erase(entry.numbers, Unplayed);
     const auto all = static_cast<std::size_t>(draws ? numbers_.drawn : numbers_.count);
     const bool enough =
         keno ? !entry.numbers.empty() && entry.numbers.size() <= all : entry.numbers.size() == all;

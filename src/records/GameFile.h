@@ -110,6 +110,7 @@ class GameFile {
     CsvReader reader_;
     std::vector<CsvCell> record_;
     std::vector<Column> columns_;
+    std::size_t numberColumns_ = 0;  // the highest number that has a column of its own
     std::string leftAside_;
     bool pending_ = false;  // the first line, read in search of a header, is an entry
     bool broken_ = false;

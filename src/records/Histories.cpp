@@ -19,33 +19,33 @@ namespace {
 std::size_t Index(int at) { return static_cast<std::size_t>(at); }
 
 // Makes the rows of a table for one game as the program's writers leave them: what they don't write is
-// nothing, a mark false.
+// nothing, a mark false. There is one row, which is filled again and again.
 class RowMaker {
   public:
     RowMaker(const Table& table, const GameKey& key)
         : day_(Index(table.DayAt())),
           numbers_(Index(std::max(table.At("Ball_1"), table.At("Number 1")))),
-          blank_(table.fields.size()) {
-        for (std::size_t i = 0; i < blank_.size(); ++i)
-            if (table.fields[i].means == Means::Mark) blank_[i] = false;
-        if (table.GameAt() >= 0) blank_[Index(table.GameAt())] = std::string(key.LottoFlag);
+          row_(table.fields.size()) {
+        for (std::size_t i = 0; i < row_.size(); ++i)
+            if (table.fields[i].means == Means::Mark) row_[i] = false;
+        if (table.GameAt() >= 0) row_[Index(table.GameAt())] = std::string(key.LottoFlag);
     }
 
-    Row Of(Date date) const {
-        Row row = blank_;
-        row[day_] = date;
-        return row;
+    // Without a key.
+    Row& Of(Date date) {
+        row_.front() = {};
+        row_[day_] = date;
+        return row_;
     }
-    Row Of(Date date, const std::vector<int>& numbers) const {
-        Row row = Of(date);
-        for (std::size_t i = 0; i < numbers.size(); ++i) row[numbers_ + i] = numbers[i];
-        return row;
+    Row& Of(Date date, const std::vector<int>& numbers) {
+        for (std::size_t i = 0; i < numbers.size(); ++i) row_[numbers_ + i] = numbers[i];
+        return Of(date);
     }
 
   private:
     std::size_t day_;
     std::size_t numbers_;  // the first of them
-    Row blank_;
+    Row row_;
 };
 
 // One draw a day into a Win table.
@@ -56,12 +56,12 @@ class DrawSink {
 
     // False when this file has drawn the day already, with other numbers.
     bool Put(Date day, const std::vector<int>& numbers) {
-        Row row = maker_.Of(day, numbers);
+        Row& row = maker_.Of(day, numbers);
         const auto found = sink_.OfDay(day);
         const auto same = std::find_if(found.begin(), found.end(),
                                        [&](const TableSink::Found& one) { return BelongsTo(one.row, row); });
         if (same == found.end()) {
-            sink_.AddAlways(std::move(row));
+            sink_.AddAlways(row);
             ++added_;
             return true;
         }
@@ -111,10 +111,10 @@ class TicketSink {
     TicketSink(Intake& intake, const Table& table, const GameKey& key)
         : table_(table), maker_(table, key), sink_(intake.Open(table)) {}
 
-    const RowMaker& Rows() const { return maker_; }
+    RowMaker& Rows() { return maker_; }
     // False when the ticket is there already.
-    bool Put(Row row) {
-        const bool added = sink_.Add(std::move(row)) == TableSink::Outcome::Added;
+    bool Put(Row& row) {
+        const bool added = sink_.Add(row) == TableSink::Outcome::Added;
         ++(added ? added_ : there_);
         return added;
     }
@@ -226,8 +226,8 @@ class TicketHistory {
     }
 
   private:
-    Row TicketRow(const Entry& entry) const {
-        Row row = tickets_.Rows().Of(entry.date, entry.numbers);
+    Row& TicketRow(const Entry& entry) {
+        Row& row = tickets_.Rows().Of(entry.date, entry.numbers);
         const GameKey& key = *game_.key;
         if (IsKeno(key.in)) {
             for (std::size_t i = entry.numbers.size(); i < Index(Numbers(key.in).count); ++i)
@@ -244,14 +244,14 @@ class TicketHistory {
 
     std::string Book() {
         const Table& table = *FindTable("Spent");
-        const RowMaker rows(table, *game_.key);
+        RowMaker rows(table, *game_.key);
         TableSink sink = intake_.Open(table);
         Currency sum;
         for (const auto& [day, paid] : days_) {
             const Currency amount = AmountOf(paid, *game_.key);
-            Row row = rows.Of(Date::FromDays(static_cast<double>(day)));
+            Row& row = rows.Of(Date::FromDays(static_cast<double>(day)));
             row[Index(table.At("Spent"))] = amount;
-            sink.AddAlways(std::move(row));
+            sink.AddAlways(row);
             sum += amount;
         }
         return "Spent: " + Format(sum, "###,###,##0.00") + " booked for " +

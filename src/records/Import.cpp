@@ -86,7 +86,7 @@ class TableImport {
         });
         if (findings_.Count() != before) return;
         if (counted) row.front() = {};
-        Put(sink, std::move(row));
+        Put(sink, row);
     }
 
     Spot Place(std::size_t field) const {
@@ -108,8 +108,8 @@ class TableImport {
         return value.value_or(Dao::Value());
     }
 
-    void Put(TableSink& sink, Row row) {
-        switch (sink.Add(std::move(row))) {
+    void Put(TableSink& sink, Row& row) {
+        switch (sink.Add(row)) {
             case TableSink::Outcome::Added:
                 ++added_;
                 break;

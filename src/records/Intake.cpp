@@ -99,16 +99,16 @@ TableSink::Outcome TableSink::Compare(const Row& row) {
     return same ? Outcome::ThereAlready : Outcome::KeyTaken;
 }
 
-TableSink::Outcome TableSink::Add(Row row) {
+TableSink::Outcome TableSink::Add(Row& row) {
     const bool keyed = !row[KeyAt].IsNull();
     if (!keyed && dayAt_ >= 0 && TakeEqual(row)) return Outcome::ThereAlready;
     // No index looks after the keys of the scratch table.
     if (keyed && !table_.creator->indexed && before_ > 0 && Compare(row) == Outcome::ThereAlready)
         return Outcome::ThereAlready;
-    return AddAlways(std::move(row));
+    return AddAlways(row);
 }
 
-TableSink::Outcome TableSink::AddAlways(Row row) {
+TableSink::Outcome TableSink::AddAlways(Row& row) {
     constexpr std::int64_t LastKey = 2'147'483'647;
     const bool keyed = !row[KeyAt].IsNull();
     if (!keyed && nextKey_ > LastKey)

@@ -44,10 +44,10 @@ class TableSink {
     enum class Outcome { Added, ThereAlready, KeyTaken };
     // Adds a row unless the table had it before this sink opened: under its key, or, where it has none and is
     // to get the next one, with the same values. Each row of the table stands for one row only: what the file
-    // holds once more is a new row.
-    Outcome Add(Row row);
+    // holds once more is a new row. A row that is added gets its key.
+    Outcome Add(Row& row);
     // Adds it whatever is there.
-    Outcome AddAlways(Row row);
+    Outcome AddAlways(Row& row);
 
     // The rows of a day, in insertion order.
     struct Found {

@@ -128,6 +128,17 @@ TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
                      "d.csv:11:24: the quote that opens here is not closed"}));
 }
 
+TEST_F(Draws, MayHaveTheirNumbersInOneColumnAndInOthersBesidesIfTheyAreAllThere) {
+    Make("WinBC49");
+    EXPECT_EQ(Findings({"draws", "BC49", Write("d.csv", "date,6,numbers,bonus\n2026-11-14,9,1 2 3,7\n")}),
+              Texts{"d.csv:2:1: 4 numbers instead of 6"});
+    EXPECT_EQ(Findings({"draws", "BC49",
+                        Write("d.csv",
+                              "date,1,2,numbers,bonus\n2026-11-14,9,8,1 2 3 4,7\n"
+                              "2026-11-15,9,8,1 2 3 4 5 6,7\n")}),
+              Texts{"d.csv:3:1: 8 numbers instead of 6"});
+}
+
 TEST_F(Draws, OfLottarioEndAt45AndOfSuper7At49) {
     const std::string row = "date,numbers,bonus\n2026-11-14,1 2 3 4 5 46,7\n";
     EXPECT_EQ(Findings({"draws", "Lottario", Write("l.csv", row)}),

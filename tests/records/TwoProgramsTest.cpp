@@ -2,6 +2,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <set>
 
 #include "records/RecordsWorld.h"
@@ -62,6 +63,30 @@ TEST_F(TwoPrograms, TheProgramSeesAllOfAnImportOrNothingOfIt) {
     errors.erase(ErrorNumber::Locked);
     EXPECT_EQ(errors, std::set<int>());
     EXPECT_EQ(Ask("SELECT count(*) FROM Spent").front(), std::to_string(written));
+}
+
+TEST_F(TwoPrograms, WhileAnImportWritesARowIsRefusedAfterASecondAndTheRestCanBeRead) {
+    Make("WinBC49");
+    Make("Spent");
+    FaultVfs patient("records-patient");
+    Dao::Engine program(patient.Name());
+    int looks = 0;
+    terminal = true;
+    meanwhile = [&] {
+        if (++looks != 3) return;
+        patient.Heal();
+        Dao::Database Db = program.OpenDatabase(world.DbName(), world.global.Open);
+        EXPECT_EQ(Db.OpenTable("WinBC49").RecordCount(), 0);
+        Dao::Recordset Rs = Db.OpenTable("Spent");
+        Rs.AddNew();
+        Rs[0] = 1;
+        EXPECT_EQ(ErrorOf([&] { Rs.Update(); }), ErrorNumber::Locked);
+        EXPECT_EQ(patient.Waited(), std::chrono::seconds(1));
+    };
+    Do({"draws", "BC49", Write("d.csv", Draws(20))});
+    EXPECT_GE(looks, 3);
+    EXPECT_EQ(Ask("SELECT count(*) FROM WinBC49").front(), "20");
+    EXPECT_EQ(Ask("SELECT count(*) FROM Spent").front(), "0");
 }
 
 TEST_F(TwoPrograms, AnImportThatDiesAtAnyMomentLeavesAllOfItOrNothing) {

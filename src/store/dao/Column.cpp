@@ -55,6 +55,22 @@ bool IsStorable(Currency amount) {
     return number == nullptr || AmountOf(*number) == amount;
 }
 
+// Hands over what is stored for a value that has been converted: one kind of a cell, or a cell.
+template <class Take>
+void Store(const Value& value, Take take) {
+    struct Storer {
+        Take& take;
+        void operator()(std::monostate null) const { take(null); }
+        void operator()(bool flag) const { take(std::int64_t{flag}); }
+        void operator()(std::int64_t number) const { take(number); }
+        void operator()(double number) const { take(number); }
+        void operator()(Currency amount) const { take(CellOf(amount)); }
+        void operator()(Date date) const { take(date.Days()); }
+        void operator()(const std::string& text) const { take(text); }
+    };
+    std::visit(Storer{take}, value.Get());
+}
+
 Value InOwnType(const Value& value, const Column& column) {
     if (value.IsNull()) return column.type == FieldType::Boolean ? Value(false) : Value();
     switch (column.type) {
@@ -164,16 +180,13 @@ Value Converted(const Value& value, const Column& column) {
 }
 
 Cell ToCell(const Value& value) {
-    struct Maker {
-        Cell operator()(std::monostate) const { return {}; }
-        Cell operator()(bool flag) const { return std::int64_t{flag}; }
-        Cell operator()(std::int64_t number) const { return number; }
-        Cell operator()(double number) const { return number; }
-        Cell operator()(Currency amount) const { return CellOf(amount); }
-        Cell operator()(Date date) const { return date.Days(); }
-        Cell operator()(const std::string& text) const { return text; }
-    };
-    return std::visit(Maker{}, value.Get());
+    Cell cell;
+    Store(value, [&cell](const auto& stored) { cell = stored; });
+    return cell;
+}
+
+void Bind(Statement& statement, int parameter, const Value& value) {
+    Store(value, [&](const auto& stored) { statement.Bind(parameter, stored); });
 }
 
 Value ReadValue(sqlite3_value* cell, FieldType type) {

@@ -32,8 +32,9 @@ int OrdinalOf(const std::vector<Column>& columns, std::string_view name);
 
 // The value in the field's own type, or Null. Raises 3421 and 3163.
 Value Converted(const Value& value, const Column& column);
-// What is bound for a value that has been converted.
+// What is stored for a value that has been converted; and the same bound to a parameter, from 1.
 Cell ToCell(const Value& value);
+void Bind(Statement& statement, int parameter, const Value& value);
 // The value of a stored cell. What does not fit the field's type comes as it is stored.
 Value ReadValue(sqlite3_value* cell, FieldType type);
 

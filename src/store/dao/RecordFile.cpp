@@ -70,7 +70,7 @@ std::vector<FileIndex> IndexesOf(const Connection& connection, const std::string
 }
 
 void BindAll(Statement& statement, const std::vector<Value>& row) {
-    for (std::size_t i = 0; i < row.size(); ++i) statement.Bind(static_cast<int>(i) + 1, ToCell(row[i]));
+    for (std::size_t i = 0; i < row.size(); ++i) Bind(statement, static_cast<int>(i) + 1, row[i]);
 }
 
 // Copies by the engine's own means; the parts are small, so that nobody waits long for one.

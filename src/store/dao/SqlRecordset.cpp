@@ -71,7 +71,7 @@ SqlRecordset::SqlRecordset(DatabaseState& database, std::string_view sql, std::i
     Statement rows = database.Prepare(std::string(sql) + (select.ordered ? ", rowid" : " ORDER BY rowid"));
     if (sqlite3_stmt_readonly(rows.Handle()) == 0) Raise(ErrorNumber::InvalidProcedureCall);
     int parameter = 0;
-    for (const Value& value : values) rows.Bind(++parameter, ToCell(value));
+    for (const Value& value : values) Bind(rows, ++parameter, value);
     std::vector<Column> columns;
     for (int i = 0; i < sqlite3_column_count(rows.Handle()); ++i) {
         const char* declared = sqlite3_column_decltype(rows.Handle(), i);

@@ -86,24 +86,29 @@ Statement::Statement(sqlite3* connection, std::string_view sql) {
     if (result != SQLITE_OK) RaiseResult(result);
 }
 
-void Statement::Bind(int parameter, const Cell& cell) {
-    struct Binder {
-        sqlite3_stmt* handle;
-        int parameter;
-        int operator()(std::monostate) const { return sqlite3_bind_null(handle, parameter); }
-        int operator()(std::int64_t number) const { return sqlite3_bind_int64(handle, parameter, number); }
-        int operator()(double number) const { return sqlite3_bind_double(handle, parameter, number); }
-        int operator()(const std::string& text) const {
-            return sqlite3_bind_text64(handle, parameter, text.data(), text.size(), SQLITE_TRANSIENT,
-                                       SQLITE_UTF8);
-        }
-        int operator()(const Blob& blob) const {
-            return sqlite3_bind_blob64(handle, parameter, blob.bytes.data(), blob.bytes.size(),
-                                       SQLITE_TRANSIENT);
-        }
-    };
-    const int result = std::visit(Binder{handle_.get(), parameter}, cell);
+void Statement::RaiseUnlessBound(int result) {
     if (result != SQLITE_OK) RaiseResult(result);
+}
+
+void Statement::Bind(int parameter, const Cell& cell) {
+    std::visit([&](const auto& held) { Bind(parameter, held); }, cell);
+}
+void Statement::Bind(int parameter, std::monostate) {
+    RaiseUnlessBound(sqlite3_bind_null(Handle(), parameter));
+}
+void Statement::Bind(int parameter, std::int64_t number) {
+    RaiseUnlessBound(sqlite3_bind_int64(Handle(), parameter, number));
+}
+void Statement::Bind(int parameter, double number) {
+    RaiseUnlessBound(sqlite3_bind_double(Handle(), parameter, number));
+}
+void Statement::Bind(int parameter, const std::string& text) {
+    RaiseUnlessBound(
+        sqlite3_bind_text64(Handle(), parameter, text.data(), text.size(), SQLITE_TRANSIENT, SQLITE_UTF8));
+}
+void Statement::Bind(int parameter, const Blob& blob) {
+    RaiseUnlessBound(
+        sqlite3_bind_blob64(Handle(), parameter, blob.bytes.data(), blob.bytes.size(), SQLITE_TRANSIENT));
 }
 
 bool Statement::Step() {

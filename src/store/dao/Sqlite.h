@@ -41,6 +41,11 @@ class Statement {
 
     // Parameters and columns count from 1 and from 0, as SQLite has it.
     void Bind(int parameter, const Cell& cell);
+    void Bind(int parameter, std::monostate);
+    void Bind(int parameter, std::int64_t number);
+    void Bind(int parameter, double number);
+    void Bind(int parameter, const std::string& text);
+    void Bind(int parameter, const Blob& blob);
     // True on a row. A statement that has ended or failed is reset and holds no lock.
     bool Step();
     void Reset() { sqlite3_reset(handle_.get()); }
@@ -55,6 +60,7 @@ class Statement {
     struct Finalize {
         void operator()(sqlite3_stmt* handle) const { sqlite3_finalize(handle); }
     };
+    static void RaiseUnlessBound(int result);
     std::unique_ptr<sqlite3_stmt, Finalize> handle_;
 };
 

@@ -325,7 +325,7 @@ Statement& TableRecordset::InsertOf(const Pending& pending) {
                                      ") VALUES (" + marks + ")");
     }
     for (std::size_t i = 0; i < Columns().size(); ++i)
-        insert_.Bind(static_cast<int>(i) + 1, ToCell(pending.values[i]));
+        Bind(insert_, static_cast<int>(i) + 1, pending.values[i]);
     return insert_;
 }
 
@@ -339,7 +339,7 @@ Statement TableRecordset::UpdateOf(const Pending& pending) {
         Database().Prepare("UPDATE " + Quoted(table_) + " SET " + sets + " WHERE " + rowid_ + " = ?");
     int parameter = 0;
     for (std::size_t i = 0; i < Columns().size(); ++i)
-        if (pending.touched[i]) update.Bind(++parameter, ToCell(pending.values[i]));
+        if (pending.touched[i]) Bind(update, ++parameter, pending.values[i]);
     update.Bind(++parameter, row_);
     return update;
 }
