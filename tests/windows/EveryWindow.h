@@ -1,12 +1,15 @@
 // Every window of the program, each in front once.
 #pragma once
 
+#include <QApplication>
+#include <QFont>
 #include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "entry/ui/CountDialogs.h"
+#include "forms/Control.h"
 #include "reports/ui/frmReport.h"
 #include "reports/ui/frmReportType.h"
 #include "shell/ui/frmAbout.h"
@@ -18,11 +21,37 @@
 
 namespace sorvane::test {
 
-// Calls `see` with each tab of the game's window in front, the fields of its add-on shown as well.
-inline void SeeTabsOf(WindowWorld& world, std::string_view menu,
-                      const std::function<void(GameWindow&, const std::string& what)>& see) {
-    GameWindow& window = world.Show(menu);
-    const std::string name(menu);
+inline constexpr int Small = 10, Large = 20;  // points
+
+// The font of the program while this lives.
+class FontOf {
+  public:
+    explicit FontOf(int points) : before_(QApplication::font()) {
+        QFont font = before_;
+        font.setPointSize(points);
+        QApplication::setFont(font);
+        Person::Settle();  // windows that are there already are told
+    }
+    ~FontOf() { QApplication::setFont(before_); }
+    FontOf(const FontOf&) = delete;
+    FontOf& operator=(const FontOf&) = delete;
+
+  private:
+    QFont before_;
+};
+
+// The program's own controls that are to be seen.
+inline std::vector<QWidget*> ControlsIn(const QWidget& window) {
+    std::vector<QWidget*> controls;
+    for (auto* widget : window.findChildren<QWidget*>())
+        if (widget->isVisible() && dynamic_cast<forms::Control*>(widget)) controls.push_back(widget);
+    return controls;
+}
+
+using SeeTab = std::function<void(GameWindow&, const std::string& what)>;
+
+// Calls `see` with each tab of the window in front, the fields of its add-on shown as well.
+inline void SeeTabs(WindowWorld& world, GameWindow& window, const std::string& name, const SeeTab& see) {
     for (const int tab : {Tab::Enter, Tab::Check, Tab::Reports, Tab::QuickPick}) {
         window.SSTab1.SetTab(tab);
         Person::Settle();
@@ -37,6 +66,11 @@ inline void SeeTabsOf(WindowWorld& world, std::string_view menu,
     addOns.txtPlay4.ForEach([four](forms::TextBox& box, int) { box.SetVisible(four); });
     Person::Settle();
     see(window, name + ", add-on");
+}
+
+// The same with the window of a game.
+inline void SeeTabsOf(WindowWorld& world, std::string_view menu, const SeeTab& see) {
+    SeeTabs(world, world.Show(menu), std::string(menu), see);
 }
 
 // The same with the windows of no game.

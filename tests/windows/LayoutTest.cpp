@@ -1,6 +1,5 @@
 // Nothing is clipped, nothing lies on something else, and every window has room on a screen of 1366 x 768,
 // with small fonts and large ones.
-#include <QApplication>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QGroupBox>
@@ -19,23 +18,6 @@ namespace sorvane::test {
 namespace {
 
 const QSize Screen(1366, 768);
-constexpr int Small = 10, Large = 20;  // points
-
-class FontOf {
-  public:
-    explicit FontOf(int points) : before_(QApplication::font()) {
-        QFont font = before_;
-        font.setPointSize(points);
-        QApplication::setFont(font);
-        Person::Settle();  // windows that are there already are told
-    }
-    ~FontOf() { QApplication::setFont(before_); }
-    FontOf(const FontOf&) = delete;
-    FontOf& operator=(const FontOf&) = delete;
-
-  private:
-    QFont before_;
-};
 
 std::string Describe(const QWidget& widget) {
     return forms::ToUtf8(widget.objectName()) + " (" + widget.metaObject()->className() + ")";
@@ -47,19 +29,18 @@ bool HoldsText(const QWidget& widget) {
            qobject_cast<const QDateEdit*>(&widget) || qobject_cast<const QGroupBox*>(&widget);
 }
 
-// The program's own controls that are to be seen, frames left aside.
-std::vector<QWidget*> ControlsIn(const QWidget& window) {
-    std::vector<QWidget*> controls;
-    for (auto* widget : window.findChildren<QWidget*>())
-        if (widget->isVisible() && dynamic_cast<forms::Control*>(widget) &&
-            !qobject_cast<QGroupBox*>(widget) && !dynamic_cast<forms::TabStrip*>(widget))
-            controls.push_back(widget);
+// What stands in the frames.
+std::vector<QWidget*> ContentsOf(const QWidget& window) {
+    std::vector<QWidget*> controls = ControlsIn(window);
+    std::erase_if(controls, [](const QWidget* control) {
+        return qobject_cast<const QGroupBox*>(control) || dynamic_cast<const forms::TabStrip*>(control);
+    });
     return controls;
 }
 
 void ExpectNothingClipped(const QWidget& window, const std::string& what) {
-    for (auto* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisible() || !HoldsText(*widget) || !dynamic_cast<forms::Control*>(widget)) continue;
+    for (const QWidget* widget : ControlsIn(window)) {
+        if (!HoldsText(*widget)) continue;
         const QSize least = widget->minimumSizeHint();
         EXPECT_GE(widget->width(), least.width()) << what << ": " << Describe(*widget);
         EXPECT_GE(widget->height(), least.height()) << what << ": " << Describe(*widget);
@@ -69,7 +50,7 @@ void ExpectNothingClipped(const QWidget& window, const std::string& what) {
 }
 
 void ExpectNothingOverlaps(const QWidget& window, const std::string& what) {
-    const std::vector<QWidget*> controls = ControlsIn(window);
+    const std::vector<QWidget*> controls = ContentsOf(window);
     const auto place = [&](const QWidget* widget) {
         return QRect(widget->mapTo(&window, QPoint()), widget->size());
     };
