@@ -31,14 +31,15 @@ QAccessibleInterface* TellWindow(const QString&, QObject* object) {
 
 }  // namespace
 
-// The style is there before the application, which makes no other then.
+// The style is set first, so that the application makes none of its own.
 Application::Application(int& argc, char** argv) : QApplication((setStyle(new Style), argc), argv) {
     style()->setParent(this);  // so that it goes when another one comes
     setQuitOnLastWindowClosed(false);
     QAccessible::installFactory(TellWindow);
     installEventFilter(this);
     connect(this, &QApplication::focusChanged, this, [this](QWidget* before, QWidget* now) {
-        // The ring is on the frame, which lists and boxes of several lines would not paint anew.
+        // The focus ring is drawn on the frame, and lists and fields of several lines would not repaint
+        // theirs.
         for (QWidget* widget : {before, now})
             if (widget) widget->update();
         runtime_.FocusChanged(now);

@@ -82,7 +82,7 @@ class StaggeredLabels {
     double widest_ = 0, height_;
 };
 
-// A mouse at rest would hide what the bar under it says.
+// Qt hides a tooltip after a while, also while the mouse rests on its bar.
 class BarView final : public QChartView {
   public:
     using QChartView::QChartView;
@@ -277,7 +277,7 @@ std::string Chart::Told(const Series& column, std::size_t row) const {
     return name + ": " + ValueText(column.values[row], money_);
 }
 
-// Of many bars those that are not there are told together.
+// The rows at 0 are told together at the end: there may be many.
 std::string Chart::Told(const Series& column) const {
     std::string told = RowCount() > 1 && ColumnCount() > 1 ? column.label + " " : "";
     bool first = true, others = false;
@@ -382,7 +382,7 @@ void Chart::AddAxes(QChart& chart, const QColor& ink) const {
     if (RowCount() > MostLevelLabels) {
         const StaggeredLabels labels(chart, bars->categoriesLabels(), bars->titleText(), font(), ink);
         connect(&chart, &QChart::plotAreaChanged, this, [labels](const QRectF& plot) { labels.Place(plot); });
-        // The axis keeps their place by an unseen caption as high as they are together.
+        // An invisible caption of the axis, as high as all these lines, keeps their place free.
         bars->setLabelsVisible(false);
         barsFont.setPointSizeF(barsFont.pointSizeF() * labels.Lines());
     }

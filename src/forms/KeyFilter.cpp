@@ -16,7 +16,7 @@ bool KeyHandler::Refuses(const QKeyEvent& event) const {
     const bool types = modifiers == Qt::NoModifier || modifiers == (Qt::ControlModifier | Qt::AltModifier);
     const auto characters = event.text().toUcs4();
     const bool printable = !characters.isEmpty() && QChar::isPrint(characters.first());
-    // Alt and a letter that is no access key: Qt would type the letter, past every filter.
+    // Alt with a letter that is no access key: Qt would type the letter past every filter.
     if (modifiers == Qt::AltModifier && printable) return true;
     if (!types) return false;
     if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return Refuses(13);

@@ -34,8 +34,8 @@ QColor Mix(const QColor& one, const QColor& other, double share) {
                             mix(one.blueF(), other.blueF()));
 }
 
-// Texts are read, lines and bars only seen, and the frames of groups divide. A little more than the 4.5 and 3
-// that are good for it, which the rounding of colours may take.
+// Texts have to be read; lines and bars have to be seen only; the frames of groups merely divide. A little
+// more than the usual 4.5 and 3, because the rounding of colours may take something away.
 constexpr double TextContrast = 4.6, LineContrast = 3.2, FrameContrast = 1.8;
 constexpr double PalerContrast = 0.75;  // of the enabled text
 
@@ -45,7 +45,7 @@ QColor ReadableOnAll(QColor ink, const std::vector<QColor>& papers, double ratio
     return ink;
 }
 
-// The ink moved to just this contrast: towards the paper first, where it stands off more than that.
+// The ink moved to just this contrast: towards the paper where it has more, away from it where it has less.
 QColor AtContrast(const QColor& ink, const QColor& paper, double ratio) {
     constexpr int Steps = 50;
     QColor moved = ink;
@@ -54,7 +54,7 @@ QColor AtContrast(const QColor& ink, const QColor& paper, double ratio) {
     return Look::Readable(moved, paper, ratio);
 }
 
-// What lines are drawn on and around.
+// The grounds that lines are drawn on, or around.
 std::vector<QColor> Grounds(const QPalette& palette, QPalette::ColorGroup group) {
     std::vector<QColor> grounds;
     for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button})
@@ -64,13 +64,13 @@ std::vector<QColor> Grounds(const QPalette& palette, QPalette::ColorGroup group)
     return grounds;
 }
 
-// What stands on what.
+// A kind of text and the grounds that it is written on.
 struct Texts {
     QPalette::ColorRole ink;
     std::vector<QPalette::ColorRole> papers;
 };
 
-// A disabled text that is told from an enabled one.
+// Makes a disabled text paler where it would look like an enabled one.
 void SetPaler(QPalette& palette, QPalette::ColorRole ink, QPalette::ColorRole paper) {
     const QColor ground = palette.color(QPalette::Disabled, paper);
     const QColor live = palette.color(QPalette::Active, ink), dead = palette.color(QPalette::Disabled, ink);
@@ -196,7 +196,7 @@ QPalette Legible(QPalette palette) {
             for (const auto paper : papers) colours.push_back(palette.color(group, paper));
             palette.setColor(group, ink, ReadableOnAll(palette.color(group, ink), colours, TextContrast));
         }
-        // Here the ground gives way, which is the accent of the whole window.
+        // Here the ground is changed and not the text: it is the accent of the whole window.
         palette.setColor(group, P::Highlight,
                          Readable(palette.color(group, P::Highlight),
                                   palette.color(group, P::HighlightedText), TextContrast));

@@ -139,8 +139,8 @@ Answer MessageBoxes::MsgBox(std::string_view text, int style, std::string_view t
     KeepLinesWhole(box);
     SetKeys(box, style);
     const int button = box.exec();
-    // Still up: the program was told to end, so that no loop of events runs any more. Who asks until
-    // something is mended would ask without end.
+    // The box still stands: the program was told to end, and no event loop runs any more. A caller that
+    // repeats its question until something is mended would repeat it for ever.
     if (box.isVisible()) std::_Exit(EXIT_SUCCESS);
     return AnswerOf(button);
 }

@@ -26,7 +26,7 @@ std::string MultiLineBox::Text() const { return ToUtf8(toPlainText().replace("\n
 void MultiLineBox::SetText(std::string_view text) { setPlainText(ToQt(text).replace("\r\n", "\n")); }
 void MultiLineBox::SetReadOnly(bool readOnly) {
     setReadOnly(readOnly);
-    // Read with the keyboard too.
+    // So that it can be read and copied with the keyboard, too.
     if (readOnly) setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
 }
 void MultiLineBox::SetFixedPitch() {

@@ -26,7 +26,7 @@ QSize NumberBall::minimumSizeHint() const {
 
 bool NumberBall::hitButton(const QPoint& at) const { return rect().contains(at); }
 
-// Other shut buttons swallow a press. A ball leaves it to the slip that it stands on.
+// Other disabled buttons swallow a press. A ball passes it on to the slip that it stands on.
 bool NumberBall::event(QEvent* event) {
     if (isEnabled() || event->type() != QEvent::MouseButtonPress) return CheckBox::event(event);
     event->ignore();

@@ -51,7 +51,7 @@ int Picture::heightForWidth(int width) const {
     return size.width() > 0 ? width * size.height() / size.width() : 0;
 }
 
-// What a drawing has beyond its frame is not shown.
+// The parts of a drawing that lie outside its frame are not shown.
 void Picture::paintEvent(QPaintEvent*) {
     if (!later_.empty()) QTimer::singleShot(0, this, &Picture::LoadNow);
     if (!drawing_->isValid()) return;

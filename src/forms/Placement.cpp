@@ -22,13 +22,13 @@ const QScreen& ScreenInUse(const QWidget& window) {
     return screen ? *screen : *window.screen();
 }
 
-// What the desktop puts around it, as far as that is known before.
+// About what the desktop will put around the window, which is known only when it is shown.
 QSize FrameOf(const QWidget& window) {
     const int bar = Look::TitleBar(window);
     return {bar / 2, bar};
 }
 
-// Into these bounds, and no larger than they are.
+// Moves the window into these bounds, and makes it no larger than they are.
 void MoveInto(QWidget& window, const QRect& bounds) {
     if (window.windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) return;
     const QSize frame = window.frameGeometry().size() - window.size();
@@ -56,7 +56,7 @@ class Keeper final : public QObject {
         if (!screen) return;
         watching_ = connect(screen, &QScreen::availableGeometryChanged, this,
                             [this](const QRect& bounds) { MoveInto(window_, bounds); });
-        // Dragged to another screen it is left alone.
+        // A window that was dragged to another screen is left alone.
         const bool isGone = before && !QGuiApplication::screens().contains(before);
         if (isGone) MoveInto(window_, screen->availableGeometry());
     }

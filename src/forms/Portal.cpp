@@ -19,13 +19,13 @@ const QString Appearance = QStringLiteral("org.freedesktop.appearance");
 const QString ColourScheme = QStringLiteral("color-scheme");
 constexpr uint Dark = 1;
 
-// Without one the library would go and start one.
+// Without a bus Qt would try to start one.
 bool HasSessionBus() {
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
            QFile::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
-// An answer is wrapped once more than a change.
+// An answer is wrapped in one variant more than a change.
 uint NumberIn(QVariant value) {
     while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
     return value.toUInt();
@@ -36,8 +36,8 @@ uint NumberIn(QVariant value) {
 Portal::Portal(QObject& parent, std::function<void(bool dark)> prefersDark)
     : QObject(&parent), prefersDark_(std::move(prefersDark)) {
     if (!HasSessionBus()) return;
-    // Qt's screen is on this bus already, so there is nothing to wait for. Named, the sender of the signal
-    // would have to be asked for.
+    // Qt has connected to this bus already, so there is nothing to wait for. The signal is taken from any
+    // sender: to filter by the service's name, Qt would have to ask the bus who owns it.
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.connect(QString(), Path, Settings, QStringLiteral("SettingChanged"), this,
                 SLOT(SettingChanged(QDBusMessage)));

@@ -102,7 +102,7 @@ bool Reader::Open(const std::string& path, std::string_view heading) {
 
 void Reader::SetText(std::string_view text) { setPlainText(ToQt(text)); }
 
-// What lies out on the network stays there.
+// Nothing is fetched from the network.
 void Reader::Follow(const QUrl& link) {
     const QUrl document = link.adjusted(QUrl::RemoveFragment);
     if (document == shown_ || QFileInfo(document.toLocalFile()).isReadable())
@@ -146,8 +146,8 @@ void Reader::ListHeadings() {
         }
 }
 
-// What the reading of Markdown leaves undone, and the colours of this palette. The browser hears nothing of
-// it: it would read a document that was changed again at each link.
+// Does what Qt's reading of Markdown leaves undone, and takes the colours of this palette. The browser is not
+// told of these changes: it would read a changed document anew at each link.
 void Reader::SetOut() {
     const QSignalBlocker quiet(document());
     QTextCursor cursor(document());
@@ -252,7 +252,7 @@ void Reader::ScrollTo(int position) {
     });
 }
 
-// Runs a change that moves the page under the reader, who reads on at the same place.
+// Runs a change that moves the page, and brings what was at the upper edge back to it.
 void Reader::StayWhile(const std::function<void()>& change) {
     const bool outer = std::exchange(settling_, true);
     change();

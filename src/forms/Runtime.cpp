@@ -96,7 +96,7 @@ void Runtime::Settle() {
             left->Leave();
             if (left->lostFocus_) left->lostFocus_();
         });
-    // Where Tab leads is told by what stands open once the control has been left.
+    // Only now is it known where Tab leads: leaving the control may have opened nearer ones.
     if (left && tabbedFrom && target && level.window && level.window->focusWidget() == target)
         if (QWidget* nearer = StopBefore(*target, *tabbedFrom, *level.window)) nearer->setFocus();
     level.moving = false;

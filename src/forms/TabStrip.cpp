@@ -11,8 +11,9 @@
 
 namespace sorvane::forms {
 
-// Something that may bring another tab in front. Events of focus are kept until the page is there: in the
-// middle of the change the pages paint nothing, and the focus stops at places where it won't stay.
+// Surrounds whatever may bring another tab in front. Focus events are held back until the page is there: in
+// the middle of the change the pages paint nothing, and the focus passes through controls where it won't
+// stay.
 class TabStrip::Change {
   public:
     explicit Change(TabStrip& tabs) : tabs_(tabs), before_(tabs.currentIndex()) {}
@@ -54,7 +55,7 @@ TabStrip::TabStrip(std::string_view name) : Control(*this, name) {
             -1);
 }
 
-// Keys of the window: some controls would keep for themselves what is pressed in them.
+// The keys belong to the whole window, since some controls would keep them for themselves.
 void TabStrip::AddKeys(const QList<QKeySequence>& keys, int step) {
     auto* shortcut = new QShortcut(this);
     shortcut->setKeys(keys);

@@ -110,6 +110,19 @@ struct DigitRules : JudgeWorld, ::testing::TestWithParam<Rule> {
         if (GetParam().digits == 7) Ticket7(Numbers(7, 99));
         else Ticket6(Numbers(6, 99));
     }
+    // MatchCount at the moment at which the line is added.
+    int WorkingCount() {
+        struct Watch final : Lines {
+            explicit Watch(Global& global) : g(global) {}
+            void AddItem(std::string_view) override { count = g.MatchCount; }
+            void Clear() override {}
+            int ListCount() const override { return 0; }
+            Global& g;
+            int count = -1;
+        } watch(global);
+        GetParam().judge(session, boxes, 0, watch);
+        return watch.count;
+    }
     std::string Nines() const { return std::string(GetParam().digits * 2, '9'); }
 };
 
@@ -131,6 +144,34 @@ TEST_P(DigitRules, EveryTailMeetsItsTierAndMissesItByADigitFromBothEnds) {
         missedRight.back() = Other(missedRight.back());
         EXPECT_EQ(Judge(ticket, missedRight), Expected(GetParam(), ticket, missedRight)) << missedRight;
     }
+}
+
+TEST_P(DigitRules, TheWorkingTierStandsWhileTheLineIsAddedAndIsGoneAfterwards) {
+    const auto tierOf = [&](const std::string& ticket, const std::string& drawn) {
+        if (GetParam().digits == 7) Digits7(ticket);
+        else Digits6(ticket);
+        boxes.Encore = drawn;
+        return WorkingCount();
+    };
+    const bool encore = GetParam().judge == CheckEncore, seven = GetParam().digits == 7;
+    const std::string ticket = seven ? "1234567" : "123456";
+    const std::vector<int> tails = encore ? Numbers{0, 1, 3, 5, 7, 9, 10} : Numbers{0, 1, 2, 3, 4, 5, 6, 7};
+    for (std::size_t tail = 0; tail <= ticket.size(); ++tail) {
+        std::string drawn = ticket;
+        for (std::size_t i = 0; i + tail < drawn.size(); ++i) drawn[i] = Other(drawn[i], 5);
+        EXPECT_EQ(tierOf(ticket, drawn), tails[tail]) << drawn;
+        EXPECT_EQ(global.MatchCount, 0);
+        if (!encore || tail == 0 || tail > 4) continue;
+        drawn.front() = ticket.front();
+        EXPECT_EQ(tierOf(ticket, drawn), Numbers({0, 2, 4, 6, 8})[tail]) << drawn;
+    }
+    if (GetParam().judge == CheckThePlus) {
+        EXPECT_EQ(tierOf(ticket, "129999"), 2);
+        EXPECT_EQ(tierOf(ticket, "199999"), 1);
+    }
+    NotPlayedRow();
+    boxes.Encore = ticket;
+    EXPECT_EQ(WorkingCount(), 99);
 }
 
 TEST_P(DigitRules, AgreesWithTheRuleOverSeededPairs) {

@@ -64,6 +64,26 @@ TEST_F(Dark, EveryTextCanBeReadInIt) {
                 << group << " " << ink;
 }
 
+TEST_F(Dark, ItsColoursAreTheseAndTheAccentIsTheDesktops) {
+    const QPalette light = LightPalette(), dark = Look::Dark(light);
+    using P = QPalette;
+    for (const auto& [role, colour] : {std::pair{P::Window, "#2e2e32"},
+                                       {P::Button, "#3c3c41"},
+                                       {P::Base, "#1e1e21"},
+                                       {P::AlternateBase, "#26262a"},
+                                       {P::ToolTipBase, "#3c3c41"},
+                                       {P::WindowText, "#f0f0f0"},
+                                       {P::Text, "#f0f0f0"},
+                                       {P::ButtonText, "#f0f0f0"},
+                                       {P::ToolTipText, "#f0f0f0"},
+                                       {P::PlaceholderText, "#9c9c9d"}})
+        EXPECT_EQ(dark.color(P::Active, role).name().toStdString(), colour) << role;
+    for (const auto role : {P::WindowText, P::Text, P::ButtonText})
+        EXPECT_EQ(dark.color(P::Disabled, role).name().toStdString(), "#8f8f91") << role;
+    for (const auto role : {P::Link, P::LinkVisited, P::Highlight, P::HighlightedText})
+        EXPECT_EQ(dark.color(P::Active, role), light.color(P::Active, role)) << role;
+}
+
 TEST_F(Dark, ADesktopThatIsDarkByItselfKeepsItsOwnColours) {
     SetDesktopPalette(DarkPalette());
     const QPalette own = QApplication::palette();

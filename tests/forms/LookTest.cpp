@@ -34,6 +34,16 @@ TEST(Look, ContrastIsOneToTwentyOne) {
     EXPECT_NEAR(Look::Contrast(Qt::blue, Qt::white), Look::Contrast(Qt::white, Qt::blue), 1e-9);
 }
 
+// Known from the rules for the contrast of texts on the web.
+TEST(Look, ContrastIsThatOfTheKnownFormula) {
+    EXPECT_NEAR(4.54, Look::Contrast(QColor(0x76, 0x76, 0x76), Qt::white), 0.005);
+    EXPECT_NEAR(4.48, Look::Contrast(QColor(0x77, 0x77, 0x77), Qt::white), 0.005);
+    EXPECT_NEAR(8.59, Look::Contrast(Qt::blue, Qt::white), 0.005);
+    EXPECT_NEAR(4.00, Look::Contrast(Qt::red, Qt::white), 0.005);
+    EXPECT_NEAR(1.37, Look::Contrast(Qt::green, Qt::white), 0.005);
+    EXPECT_NEAR(1.06, Look::Contrast(QColor(10, 10, 10), Qt::black), 0.005);
+}
+
 TEST(Look, ReadableInkStandsOffEveryPaper) {
     for (int red = 0; red < 256; red += 17)
         for (int green = 0; green < 256; green += 51)
@@ -166,6 +176,17 @@ class Bars : public testing::Test {
         return *static_cast<QAbstractBarSeries*>(View()->chart()->series().at(0))->barSets().at(column);
     }
 };
+
+TEST_F(Bars, APressOnTheDrawingLeavesTheFocusWhereItIs) {
+    CommandButton other("cmdOther", "Other");
+    window.LayOut(other);
+    chart.SetRowCount(3);
+    chart.SetData(1);
+    Open(window);
+    other.SetFocus();
+    person.Click(*View()->viewport());
+    EXPECT_EQ(QApplication::focusWidget(), &other.Widget());
+}
 
 TEST_F(Bars, AnswersToRowColumnAndData) {
     chart.SetRowCount(49);

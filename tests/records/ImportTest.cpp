@@ -367,5 +367,15 @@ TEST_F(Import, ShowsABarThatFindingsBreak) {
     EXPECT_TRUE(Tells(answer.words, "\r\x1b[K" + Path("in/WinBC49.csv:3:26:"))) << answer.words;
 }
 
+TEST_F(Import, TheBarIsWipedOnceForAllFindingsOfALine) {
+    Csv("1,2026-11-21,1,2,3,4,5,6,7\n2,2026-11-22,1,2,3,4,5,66,77\n");
+    terminal = true;
+    tick = 1001;
+    const std::string place = Path("in/WinBC49.csv");
+    EXPECT_TRUE(Tells(Run({"import", Path("in")}).words,
+                      "\r\x1b[K" + place + ":3:24: Ball_6 \"66\" is not from 1 to 49\n" + place +
+                          ":3:27: Ball_B \"77\" is not from 1 to 49\n"));
+}
+
 }  // namespace
 }  // namespace sorvane::testing
