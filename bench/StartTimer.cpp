@@ -34,12 +34,15 @@ class Screen {
   public:
     Screen() : connection_(xcb_connect(nullptr, nullptr)) {
         if (xcb_connection_has_error(connection_)) throw std::string("there is no X screen");
-        root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
+        const xcb_screen_t& screen = *xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
+        root_ = screen.root;
+        middle_ = {static_cast<std::int16_t>(screen.width_in_pixels / 2),
+                   static_cast<std::int16_t>(screen.height_in_pixels / 2)};
     }
-    // A point that lies in every window shown.
+    // The middle of the screen, which lies in every window that is larger than half of it.
     std::uint32_t Pixel() {
-        const auto cookie =
-            xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, 100, 100, 1, 1, 0x00FFFFFF);
+        const auto cookie = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, root_, middle_.first,
+                                          middle_.second, 1, 1, 0x00FFFFFF);
         const Owned<xcb_get_image_reply_t> image(xcb_get_image_reply(connection_, cookie, nullptr),
                                                  std::free);
         return image ? *reinterpret_cast<std::uint32_t*>(xcb_get_image_data(image.get())) : 0;
@@ -66,6 +69,7 @@ class Screen {
   private:
     xcb_connection_t* connection_;
     xcb_window_t root_;
+    std::pair<std::int16_t, std::int16_t> middle_;
 };
 
 struct Start {

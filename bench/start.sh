@@ -17,6 +17,7 @@ cp build/release/src/sorvane "$folder/build"
 for kind in TGZ DEB; do cpack --config build/release/CPackConfig.cmake -G "$kind" -B "$folder" >/dev/null 2>&1; done
 tar -xzf "$folder"/sorvane-*.tar.gz -C "$folder"
 dpkg-deb -x "$folder"/sorvane_*.deb "$folder/deb"
+ln -s /usr/share/common-licenses "$folder/deb/usr/share"  # where the package's licence points to
 printf '#!/bin/sh\nexec "%s" --start\n' "$folder/deb/usr/lib/sorvane/install-user" >"$folder/command"
 chmod +x "$folder/command"
 

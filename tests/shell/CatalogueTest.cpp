@@ -313,6 +313,16 @@ TEST(Games, OneRegionsLotto649SharesItsTablesButNotItsAddOn) {
     EXPECT_EQ(FindAddOn(quebec->ExtraFlag)->Played, "PlayedQCExtra");
 }
 
+TEST(Families, BearTheNamesOfTheirWindows) {
+    EXPECT_EQ(NameOf(Family::frm649), "frm649");
+    EXPECT_EQ(NameOf(Family::frm749), "frm749");
+    EXPECT_EQ(NameOf(Family::frm645), "frm645");
+    EXPECT_EQ(NameOf(Family::frmKeno70), "frmKeno70");
+    EXPECT_EQ(NameOf(Family::frmKeno80), "frmKeno80");
+    EXPECT_EQ(NameOf(Family::frmPick3), "frmPick3");
+    EXPECT_EQ(NameOf(Family::frmPick4), "frmPick4");
+}
+
 TEST(Select, WritesTheGameIntoTheRun) {
     for (const GameRow& row : GameRows) {
         SCOPED_TRACE(row.menu);
