@@ -199,8 +199,10 @@ void ExpectAsRecorded(const std::string& section, const Facts& found) {
     EXPECT_TRUE(differences.empty()) << told << differences.size() << " differences in [" << section << "]";
 }
 
-// As it opens, half as wide and half as high again, and as it opens with large letters.
+// As it opens, half as wide and half as high again, and as it opens with large letters. The larger one has
+// letters of a size between, since in the two others a spacing is, by chance, the style's own.
 enum class Seen { AsItOpens, Larger, InLargeLetters };
+constexpr Seen AllSeen[] = {Seen::AsItOpens, Seen::Larger, Seen::InLargeLetters};
 
 std::string NameOf(Seen seen) {
     switch (seen) {
@@ -215,11 +217,14 @@ std::string NameOf(Seen seen) {
 
 void PrintTo(Seen seen, std::ostream* out) { *out << NameOf(seen); }
 
-int PointsOf(Seen seen) { return seen == Seen::InLargeLetters ? Large : Small; }
+int PointsOf(Seen seen) {
+    constexpr int Between = 13;
+    if (seen == Seen::Larger) return Between;
+    return seen == Seen::InLargeLetters ? Large : Small;
+}
 
 void Stretch(QWidget& window, Seen seen) {
-    if (seen != Seen::Larger) return;
-    window.resize(window.size() * 1.5);
+    if (seen == Seen::Larger) window.resize(window.size() * 1.5);
     Person::Settle();
 }
 
@@ -256,7 +261,7 @@ void PrintTo(const GameView& view, std::ostream* out) { *out << NameOf(view); }
 std::vector<GameView> GameViews() {
     std::vector<GameView> views;
     for (const GameSeen& game : GamesSeen)
-        for (const Seen seen : {Seen::AsItOpens, Seen::Larger, Seen::InLargeLetters})
+        for (const Seen seen : AllSeen)
             if (game.inAllSizes || seen == Seen::AsItOpens) views.push_back({game, seen});
     return views;
 }
@@ -289,13 +294,13 @@ TEST_P(PlacesInWindows, AreAsRecorded) {
     ExpectAsRecorded("Windows" + NameOf(GetParam()), found);
 }
 
-INSTANTIATE_TEST_SUITE_P(Views, PlacesInWindows,
-                         ::testing::Values(Seen::AsItOpens, Seen::Larger, Seen::InLargeLetters),
+INSTANTIATE_TEST_SUITE_P(Views, PlacesInWindows, ::testing::ValuesIn(AllSeen),
                          [](const auto& seen) { return NameOf(seen.param); });
 
 // Else a view that is gone would stand there for ever.
 TEST(PlacesRecorded, AreThoseOfTheViewsAndNoOthers) {
-    std::set<std::string> expected{"WindowsAsItOpens", "WindowsLarger", "WindowsInLargeLetters"};
+    std::set<std::string> expected;
+    for (const Seen seen : AllSeen) expected.insert("Windows" + NameOf(seen));
     for (const GameView& view : GameViews()) expected.insert(NameOf(view));
     Places places = Read();
     if (IsRecording()) {
