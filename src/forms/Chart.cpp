@@ -1,25 +1,11 @@
 #include "forms/Chart.h"
 
-#include <QBarSeries>
-#include <QBarSet>
-#include <QCategoryAxis>
-#include <QChart>
-#include <QChartView>
-#include <QGraphicsLayout>
-#include <QGraphicsLineItem>
-#include <QGraphicsSimpleTextItem>
-#include <QGraphicsTextItem>
-#include <QLegend>
-#include <QLegendMarker>
-#include <QLocale>
-#include <QTextDocument>
-#include <QToolTip>
-#include <QVBoxLayout>
-#include <QValueAxis>
+#include <QMetaObject>
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <utility>
 
+#include "forms/Bars.h"
 #include "forms/Look.h"
 #include "forms/Utf8.h"
 #include "platform/Currency.h"
@@ -29,69 +15,6 @@
 namespace sorvane::forms {
 
 namespace {
-
-// With more bars than this there is no room for the labels side by side: they stand on two or three lines in
-// turn.
-constexpr int MostLevelLabels = 20, MostOnTwoLines = 50;
-
-// The labels of many bars and the caption below them, which the axis itself would cut off. They move with the
-// chart, and the labels shrink with it.
-class StaggeredLabels {
-  public:
-    StaggeredLabels(QChart& chart, const QStringList& labels, const QString& caption, const QFont& font,
-                    const QColor& ink)
-        : font_(font), lines_(labels.size() > MostOnTwoLines ? 3 : 2) {
-        const QFontMetricsF metrics(font);
-        height_ = metrics.height();
-        for (const QString& label : labels) {
-            labels_.push_back(NewText(chart, label, ink));
-            widest_ = std::max(widest_, metrics.horizontalAdvance(label));
-        }
-        caption_ = NewText(chart, caption, ink);
-    }
-    // How many lines of text stand below the plot.
-    int Lines() const { return lines_ + 1; }
-    void Place(const QRectF& plot) const {
-        const double step = plot.width() / static_cast<double>(labels_.size());
-        QFont font = font_;
-        if (const double room = step * lines_ * 0.85; widest_ > room)
-            font.setPointSizeF(std::max(1.0, font_.pointSizeF() * room / widest_));
-        for (std::size_t i = 0; i < labels_.size(); ++i) {
-            labels_[i]->setFont(font);
-            Put(*labels_[i], plot.left() + step * (static_cast<double>(i) + 0.5),
-                plot.bottom() + height_ * (static_cast<int>(i) % lines_ + 0.2));
-        }
-        Put(*caption_, plot.center().x(), plot.bottom() + height_ * (lines_ + 0.4));
-    }
-
-  private:
-    QGraphicsSimpleTextItem* NewText(QChart& chart, const QString& text, const QColor& ink) const {
-        auto* item = new QGraphicsSimpleTextItem(text, &chart);
-        item->setFont(font_);
-        item->setBrush(ink);
-        return item;
-    }
-    static void Put(QGraphicsSimpleTextItem& item, double centre, double top) {
-        item.setPos(centre - item.boundingRect().width() / 2, top);
-    }
-
-    QFont font_;
-    int lines_;
-    std::vector<QGraphicsSimpleTextItem*> labels_;
-    QGraphicsSimpleTextItem* caption_;
-    double widest_ = 0, height_;
-};
-
-// Qt hides a tooltip after a while, also while the mouse rests on its bar.
-class BarView final : public QChartView {
-  public:
-    using QChartView::QChartView;
-
-  protected:
-    bool viewportEvent(QEvent* event) override {
-        return event->type() == QEvent::ToolTip || QChartView::viewportEvent(event);
-    }
-};
 
 std::string ValueText(double value, bool money) {
     const auto amount = Currency::FromTenThousandths(std::llround(std::abs(value) * Currency::Scale));
@@ -105,39 +28,6 @@ std::string NameBeforeTheAmount(std::string_view label) {
     label = label.substr(0, label.find(" - "));
     label = label.substr(0, label.find_last_not_of(' ') + 1);
     return std::string(label);
-}
-
-// The legend would draw one blank for many.
-void KeepBlanks(const QLegend& legend) {
-    for (QLegendMarker* marker : legend.markers())
-        marker->setLabel(marker->label().replace(u' ', QChar(QChar::Nbsp)));
-}
-
-// Bars below zero hang from this line, so far down the plot.
-void AddZeroLine(QChart& chart, const QColor& ink, double share) {
-    auto* line = new QGraphicsLineItem(&chart);
-    line->setPen(QPen(ink, 0));
-    QObject::connect(&chart, &QChart::plotAreaChanged, &chart, [line, share](const QRectF& plot) {
-        const double y = plot.top() + plot.height() * share;
-        line->setLine(plot.left(), y, plot.right(), y);
-    });
-}
-
-// The axis begins at 0, or below it, and ends at round numbers with steps of 1, 2 or 5 times a power of ten.
-struct Scale {
-    double bottom, top, step;
-    int steps;
-};
-Scale ScaleFor(double smallest, double largest, bool whole) {
-    constexpr int MostSteps = 8;
-    const double span = largest - smallest;
-    double step = 1;
-    if (!whole)
-        while (step * MostSteps / 10 > span && step > 0.01) step /= 10;
-    for (int turn = 0; step * MostSteps < span; ++turn) step *= turn % 3 == 1 ? 2.5 : 2;
-    const int below = static_cast<int>(std::ceil(-smallest / step));
-    const int above = std::max(below > 0 ? 0 : 1, static_cast<int>(std::ceil(largest / step)));
-    return {-step * below, step * above, step, below + above};
 }
 
 }  // namespace
@@ -298,128 +188,26 @@ std::string Chart::Told() const {
 }
 
 void Chart::Draw() {
-    if (!view_) {
-        view_ = new BarView(this);
-        view_->setFrameShape(QFrame::NoFrame);
-        view_->setFocusPolicy(Qt::NoFocus);
-        view_->setRenderHint(QPainter::Antialiasing);
-        auto* layout = new QVBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        layout->addWidget(view_);
-    }
-    view_->setBackgroundBrush(palette().color(QPalette::Base));
-    const std::unique_ptr<QChart> old(view_->chart());
-    view_->setChart(NewChart());
+    Bars bars;
+    bars.title = ToQt(title_);
+    bars.barsCaption = ToQt(barsCaption_);
+    bars.valuesCaption = ToQt(valuesCaption_);
+    if (IsEmpty()) bars.hint = ToQt(hint_);
+    for (std::size_t row = 0; row < rowLabels_.size(); ++row) bars.rowLabels << ToQt(RowLabel(row));
+    for (const Series& column : columns_)
+        bars.columns.push_back({ToQt(column.label),
+                                Look::Series(palette(), static_cast<int>(bars.columns.size())),
+                                column.values});
+    bars.font = font();
+    bars.paper = palette().color(QPalette::Base);
+    bars.ink = palette().color(QPalette::Text);
+    bars.hintInk = Look::Hint(palette());
+    bars.told = [this](int column, int row) {
+        return ToQt(Told(columns_[static_cast<std::size_t>(column)], static_cast<std::size_t>(row)));
+    };
+    DrawBars(*this, bars);
     setAccessibleDescription(ToQt(Told()));
     stale_ = false;
-}
-
-QChart* Chart::NewChart() {
-    auto* chart = new QChart;
-    const QColor paper = palette().color(QPalette::Base), ink = palette().color(QPalette::Text);
-    QFont heading = font();
-    heading.setBold(true);
-    chart->setBackgroundBrush(paper);
-    chart->setBackgroundRoundness(0);
-    chart->layout()->setContentsMargins(0, 0, 0, 0);
-    chart->setTitle(ToQt(title_));
-    chart->setTitleFont(heading);
-    chart->setTitleBrush(ink);
-    chart->addSeries(NewSeries());
-    AddAxes(*chart, ink);
-    AddHint(*chart);
-    const bool labelled =
-        std::any_of(columns_.begin(), columns_.end(), [](auto& c) { return !c.label.empty(); });
-    chart->legend()->setVisible(labelled);
-    chart->legend()->setFont(font());
-    chart->legend()->setLabelColor(ink);
-    chart->legend()->setAlignment(Qt::AlignBottom);
-    KeepBlanks(*chart->legend());
-    return chart;
-}
-
-void Chart::AddHint(QChart& chart) const {
-    if (!IsEmpty() || hint_.empty()) return;
-    auto* hint = new QGraphicsTextItem(ToQt(hint_), &chart);
-    hint->setFont(font());
-    hint->setDefaultTextColor(Look::Hint(palette()));
-    QTextOption centred(Qt::AlignHCenter);
-    centred.setWrapMode(QTextOption::WordWrap);
-    hint->document()->setDefaultTextOption(centred);
-    connect(&chart, &QChart::plotAreaChanged, hint, [hint](const QRectF& plot) {
-        hint->setTextWidth(plot.width());
-        hint->setPos(plot.left(), plot.center().y() - hint->boundingRect().height() / 2);
-    });
-}
-
-QAbstractBarSeries* Chart::NewSeries() {
-    auto* series = new QBarSeries;
-    series->setBarWidth(RowCount() == 1 ? 0.4 : 0.8);
-    for (std::size_t column = 0; column < columns_.size(); ++column) {
-        auto* set = new QBarSet(ToQt(columns_[column].label));
-        set->setColor(Look::Series(palette(), static_cast<int>(column)));
-        set->setBorderColor(Look::Series(palette(), static_cast<int>(column)));
-        for (const double value : columns_[column].values) *set << value;
-        series->append(set);
-    }
-    connect(series, &QAbstractBarSeries::hovered, this, [this, series](bool on, int row, QBarSet* set) {
-        if (!on) return QToolTip::hideText();
-        const Series& column = columns_[static_cast<std::size_t>(series->barSets().indexOf(set))];
-        QToolTip::showText(QCursor::pos(), ToQt(Told(column, static_cast<std::size_t>(row))), this, {},
-                           std::numeric_limits<int>::max());
-    });
-    return series;
-}
-
-void Chart::AddAxes(QChart& chart, const QColor& ink) const {
-    auto* bars = new QCategoryAxis;
-    bars->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
-    bars->setRange(-0.5, RowCount() - 0.5);
-    for (int row = 0; row < RowCount(); ++row)
-        bars->append(ToQt(RowLabel(static_cast<std::size_t>(row))), row);
-    bars->setTitleText(ToQt(barsCaption_));
-    QFont barsFont = font();
-    if (RowCount() > MostLevelLabels) {
-        const StaggeredLabels labels(chart, bars->categoriesLabels(), bars->titleText(), font(), ink);
-        connect(&chart, &QChart::plotAreaChanged, this, [labels](const QRectF& plot) { labels.Place(plot); });
-        // An invisible caption of the axis, as high as all these lines, keeps their place free.
-        bars->setLabelsVisible(false);
-        barsFont.setPointSizeF(barsFont.pointSizeF() * labels.Lines());
-    }
-    bars->setGridLineVisible(false);
-
-    double smallest = 0, largest = 0;
-    bool whole = true;
-    for (const Series& column : columns_)
-        for (const double value : column.values) {
-            smallest = std::min(smallest, value);
-            largest = std::max(largest, value);
-            whole = whole && value == std::floor(value);
-        }
-    auto* values = new QValueAxis;
-    const Scale scale = ScaleFor(smallest, smallest < 0 ? largest : std::max(1.0, largest), whole);
-    values->setRange(scale.bottom, scale.top);
-    values->setTickCount(scale.steps + 1);
-    values->setLabelFormat(scale.step == std::floor(scale.step) ? "%.0f" : "%.2f");
-    values->setTitleText(ToQt(valuesCaption_));
-    // "1,000", whatever the desktop's own way is.
-    chart.setLocale(QLocale(QLocale::English, QLocale::UnitedStates));
-    chart.setLocalizeNumbers(true);
-    if (smallest < 0) AddZeroLine(chart, ink, scale.top / (scale.top - scale.bottom));
-
-    QColor grid = ink;
-    grid.setAlphaF(0.25f);
-    for (auto [axis, side] :
-         {std::pair<QAbstractAxis*, Qt::AlignmentFlag>{bars, Qt::AlignBottom}, {values, Qt::AlignLeft}}) {
-        axis->setLabelsColor(ink);
-        axis->setLabelsFont(font());
-        axis->setTitleFont(axis == bars ? barsFont : font());
-        axis->setTitleBrush(axis == bars && !bars->labelsVisible() ? Qt::transparent : ink);
-        axis->setLinePenColor(ink);
-        axis->setGridLineColor(grid);
-        chart.addAxis(axis, side);
-        for (QAbstractSeries* series : chart.series()) series->attachAxis(axis);
-    }
 }
 
 }  // namespace sorvane::forms

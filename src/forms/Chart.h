@@ -9,10 +9,6 @@
 
 #include "forms/Control.h"
 
-class QAbstractBarSeries;
-class QChart;
-class QChartView;
-
 namespace sorvane::forms {
 
 // A grid of numbers: rows along the axis, one series of bars a column. Rows and columns count from 1; an
@@ -81,10 +77,6 @@ class Chart : public QWidget, public Control {
     std::string Told() const;
     void Changed();
     void Draw();
-    QChart* NewChart();
-    QAbstractBarSeries* NewSeries();
-    void AddAxes(QChart& chart, const QColor& ink) const;
-    void AddHint(QChart& chart) const;
 
     std::string title_, barsCaption_, valuesCaption_, hint_;
     std::vector<std::string> rowLabels_;
@@ -93,7 +85,6 @@ class Chart : public QWidget, public Control {
     bool money_ = false;
     bool stale_ = true;     // what is drawn, if anything, is not what the cells say
     bool waiting_ = false;  // drawing will come once the handlers are done
-    QChartView* view_ = nullptr;
 };
 
 }  // namespace sorvane::forms

@@ -35,6 +35,7 @@ ask() { sqlite3 "$work/data/sorvane.mdb" "$1"; }
 
 # Its records lie beside it.
 cp "$1" "$work/sorvane"
+cp "${1%/*}/sorvane-charts.so" "$work"
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 
 first_day=$(date +%F)
@@ -58,6 +59,16 @@ await_window CONFIRM
 xdotool key alt+y
 await_window CONFIRMED
 xdotool key space
+await_window Sorvane
+
+echo "what draws charts is loaded with the first one that is seen"
+charts_are_loaded() { grep -q "$work/sorvane-charts.so" "/proc/$program/maps"; }
+! charts_are_loaded || fail "it is loaded before"
+xdotool key alt+c b b
+await_window BC/49
+xdotool key alt+r
+await "no charts" charts_are_loaded
+xdotool key alt+x
 await_window Sorvane
 
 echo "it ends from the menu"

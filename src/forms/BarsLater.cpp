@@ -1,0 +1,33 @@
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLibrary>
+#include <QVBoxLayout>
+
+#include "forms/Bars.h"
+
+namespace sorvane::forms {
+
+namespace {
+
+using Draw = void (*)(QWidget* on, const Bars* bars);
+
+// It stands beside the program and stays loaded.
+Draw Load() {
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/sorvane-charts"));
+    return reinterpret_cast<Draw>(library.resolve("SorvaneDrawBars"));
+}
+
+}  // namespace
+
+void DrawBars(QWidget& on, const Bars& bars) {
+    static const Draw draw = Load();
+    if (draw != nullptr) return draw(&on, &bars);
+    if (on.layout() != nullptr) return;
+    auto* missing =
+        new QLabel(QStringLiteral("Charts need the file sorvane-charts beside the program."), &on);
+    missing->setAlignment(Qt::AlignCenter);
+    missing->setWordWrap(true);
+    (new QVBoxLayout(&on))->addWidget(missing);
+}
+
+}  // namespace sorvane::forms
