@@ -13,17 +13,17 @@ tools/build release installable bare_window start_timer >/dev/null
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 mkdir "$folder/build" "$folder/home"
-cp build/release/src/sorvane "$folder/build"
+cp build/release/src/sorvane build/release/src/sorvane-charts.so "$folder/build"
 for kind in TGZ DEB; do cpack --config build/release/CPackConfig.cmake -G "$kind" -B "$folder" >/dev/null 2>&1; done
 tar -xzf "$folder"/sorvane-*.tar.gz -C "$folder"
 dpkg-deb -x "$folder"/sorvane_*.deb "$folder/deb"
 ln -s /usr/share/common-licenses "$folder/deb/usr/share"  # where the package's licence points to
-printf '#!/bin/sh\nexec "%s" --start\n' "$folder/deb/usr/lib/sorvane/install-user" >"$folder/command"
-chmod +x "$folder/command"
+sed "s#=/usr/lib#=$folder/deb/usr/lib#" "$folder/deb/usr/bin/sorvane" >"$folder/sorvane"
+chmod +x "$folder/sorvane"
 
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$folder HOME=$folder/home
 "$folder/deb/usr/lib/sorvane/install-user" --copy
-for program in "$folder/build/sorvane" "$folder"/sorvane-*-linux-*/sorvane "$folder/command"; do
+for program in "$folder/build/sorvane" "$folder"/sorvane-*-linux-*/sorvane "$folder/sorvane"; do
     echo "${program#"$folder"/}"
     xvfb-run -a -s "-screen 0 1366x768x24" \
         build/release/bench/start_timer "${1:-21}" "$program" build/release/bench/bare_window

@@ -194,10 +194,15 @@ expect "a manual page" man -l "$work/deb/usr/share/man/man6/sorvane.6.gz" >/dev/
 expect "the command" [ -x "$work/deb/usr/bin/sorvane" ]
 expect "its dependencies" grep -q 'libqt6widgets6 .*libsqlite3-0 ' <<<"$(dpkg-deb -f "$package" Depends)"
 packaged=$work/deb/usr/lib/sorvane
+mkdir "$work/bin"
+for command in sorvane sorvane-records; do
+    sed "s#=/usr/lib#=$work/deb/usr/lib#" "$work/deb/usr/bin/$command" >"$work/bin/$command"
+    chmod +x "$work/bin/$command"
+done
 
 echo "the package takes the place of a copy from the archive and of what that told the desktop"
 records=$(sha256sum <"$program/data/sorvane.mdb")
-start "$program" "$packaged/install-user" --start
+start "$program" "$work/bin/sorvane"
 expect "the packaged program" cmp -s "$packaged/sorvane" "$program/sorvane"
 for part in lib plugins qt.conf; do expect "no bundled $part" [ ! -e "$program/$part" ]; done
 expect "no entry that hides the package's" [ ! -e "$entry" ]
@@ -207,17 +212,26 @@ check_documents "$program/share/doc/sorvane"
 
 echo "a current copy is started as it is, an older one is upgraded first"
 before=$(stat -c %i "$program/sorvane")
-start "$program" "$packaged/install-user" --start
+start "$program" "$work/bin/sorvane"
 expect "the copy is untouched" [ "$(stat -c %i "$program/sorvane")" = "$before" ]
+cp -p "$packaged/install-user" "$work/install-user"
+printf '#!/bin/sh\nexit 1\n' >"$packaged/install-user"  # which isn't asked
+touch -r "$work/install-user" "$packaged/install-user"
+start "$program" "$work/bin/sorvane"
+cp -p "$work/install-user" "$packaged/install-user"
+touch "$program/sorvane"
+start "$program" "$work/bin/sorvane"
+expect "the copy is untouched, which is of another time alone" [ "$(stat -c %i "$program/sorvane")" = "$before" ]
+touch -r "$packaged/sorvane" "$program/sorvane"
 echo older >>"$program/sorvane"
-start "$program" "$packaged/install-user" --start
+start "$program" "$work/bin/sorvane"
 expect "upgraded" cmp -s "$packaged/sorvane" "$program/sorvane"
 expect "records kept" [ "$(sha256sum <"$program/data/sorvane.mdb")" = "$records" ]
 
 echo "another player has records of their own"
 first=$program
 export HOME=$work/another
-start "$HOME/.local/opt/sorvane" "$packaged/install-user" --start
+start "$HOME/.local/opt/sorvane" "$work/bin/sorvane"
 expect "the second player's records" [ -s "$HOME/.local/opt/sorvane/data/sorvane.mdb" ]
-"$packaged/install-user" --records check >/dev/null || fail "the second player's sorvane-records"
+"$work/bin/sorvane-records" check >/dev/null || fail "the second player's sorvane-records"
 expect "the first one's as they were" [ "$(sha256sum <"$first/data/sorvane.mdb")" = "$records" ]
