@@ -1,5 +1,6 @@
 #include "forms/Chart.h"
 
+#include <QEvent>
 #include <QMetaObject>
 #include <algorithm>
 #include <cmath>
