@@ -363,6 +363,18 @@ TEST_F(Verbs, SqlRowsComeInTheirOrderAndEqualOnesAsTheyWereInserted) {
     EXPECT_EQ(Ids(up), (Numbers{1, 3, 2, 4}));
 }
 
+TEST_F(Verbs, SqlNamesItsTableByAnyLetterDigitOrUnderscoreWithoutBrackets) {
+    Create().Close();
+    for (const std::string name : {"azAZ09_", "_z90ZAa", "9Zz"}) {
+        Plain().Ask("CREATE TABLE [" + name + "] (ID1 INTEGER)");
+        Plain().Ask("INSERT INTO [" + name + "] VALUES (7)");
+    }
+    Database db = Open();
+    for (const std::string name : {"azAZ09_", "_z90ZAa"})
+        EXPECT_EQ(db.OpenSql("SELECT * FROM " + name)[0].ToInt(), 7) << name;
+    EXPECT_EQ(db.OpenSql("SELECT * FROM [9Zz]")[0].ToInt(), 7);
+}
+
 TEST_F(Verbs, AnIndexDoesNotTurnEqualSqlRowsAround) {
     CreateWithDays({10, 20, 10, 20, 10});
     Database db = Open();
