@@ -13,7 +13,7 @@ tools/build release installable bare_window start_timer >/dev/null
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 mkdir "$folder/build" "$folder/home"
-cp build/release/src/sorvane build/release/src/sorvane-charts.so "$folder/build"
+cp -R build/release/src/{sorvane,modules} "$folder/build"
 for kind in TGZ DEB; do cpack --config build/release/CPackConfig.cmake -G "$kind" -B "$folder" >/dev/null 2>&1; done
 tar -xzf "$folder"/sorvane-*.tar.gz -C "$folder"
 dpkg-deb -x "$folder"/sorvane_*.deb "$folder/deb"

@@ -11,9 +11,9 @@ namespace {
 
 using Draw = void (*)(QWidget* on, const Bars* bars);
 
-// It stands beside the program and stays loaded.
+// It stands below the program's folder and stays loaded.
 Draw Load() {
-    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/sorvane-charts"));
+    QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/modules/sorvane-charts"));
     return reinterpret_cast<Draw>(library.resolve("SorvaneDrawBars"));
 }
 
@@ -23,8 +23,7 @@ void DrawBars(QWidget& on, const Bars& bars) {
     static const Draw draw = Load();
     if (draw != nullptr) return draw(&on, &bars);
     if (on.layout() != nullptr) return;
-    auto* missing =
-        new QLabel(QStringLiteral("Charts need the file sorvane-charts beside the program."), &on);
+    auto* missing = new QLabel(QStringLiteral("Charts need the folder modules beside the program."), &on);
     missing->setAlignment(Qt::AlignCenter);
     missing->setWordWrap(true);
     (new QVBoxLayout(&on))->addWidget(missing);

@@ -179,6 +179,9 @@ done < <(cd "$archive" && find lib plugins -type f)
 echo "installed from the archive it stands by itself too"
 "$archive/install-user" >/dev/null
 expect "installed from the archive" cmp -s "$archive/sorvane" "$program/sorvane"
+for file in modules/sorvane-charts.so lib/libQt6Charts.so.6; do
+    expect "$file in the archive and the copy" cmp -s "$archive/$file" "$program/$file"
+done
 start "$program" "$program/sorvane"
 expect "its own Qt" grep -qxF "$program/lib/libQt6Widgets.so.6" <<<"$mapped"
 
@@ -226,6 +229,7 @@ touch -r "$packaged/sorvane" "$program/sorvane"
 echo older >>"$program/sorvane"
 start "$program" "$work/bin/sorvane"
 expect "upgraded" cmp -s "$packaged/sorvane" "$program/sorvane"
+expect "its charts too" cmp -s "$packaged/modules/sorvane-charts.so" "$program/modules/sorvane-charts.so"
 expect "records kept" [ "$(sha256sum <"$program/data/sorvane.mdb")" = "$records" ]
 
 echo "another player has records of their own"

@@ -35,7 +35,7 @@ ask() { sqlite3 "$work/data/sorvane.mdb" "$1"; }
 
 # Its records lie beside it.
 cp "$1" "$work/sorvane"
-cp "${1%/*}/sorvane-charts.so" "$work"
+cp -R "${1%/*}/modules" "$work"
 export HOME=$work XDG_CONFIG_HOME=$work/config XDG_CACHE_HOME=$work/cache
 
 first_day=$(date +%F)
@@ -62,7 +62,7 @@ xdotool key space
 await_window Sorvane
 
 echo "what draws charts is loaded with the first one that is seen"
-charts_are_loaded() { grep -q "$work/sorvane-charts.so" "/proc/$program/maps"; }
+charts_are_loaded() { grep -q "$work/modules/sorvane-charts.so" "/proc/$program/maps"; }
 ! charts_are_loaded || fail "it is loaded before"
 xdotool key alt+c b b
 await_window BC/49
