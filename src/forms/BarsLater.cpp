@@ -11,7 +11,7 @@ namespace {
 
 using Draw = void (*)(QWidget* on, const Bars* bars);
 
-// It stands below the program's folder and stays loaded.
+// It stands below the program's folder. Qt loads it once and keeps it.
 Draw Load() {
     QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/modules/sorvane-charts"));
     return reinterpret_cast<Draw>(library.resolve("SorvaneDrawBars"));
@@ -20,8 +20,7 @@ Draw Load() {
 }  // namespace
 
 void DrawBars(QWidget& on, const Bars& bars) {
-    static const Draw draw = Load();
-    if (draw != nullptr) return draw(&on, &bars);
+    if (const Draw draw = Load()) return draw(&on, &bars);
     if (on.layout() != nullptr) return;
     auto* missing = new QLabel(QStringLiteral("Charts need the folder modules beside the program."), &on);
     missing->setAlignment(Qt::AlignCenter);
