@@ -85,3 +85,19 @@ day=$(ask "SELECT date(Date + 2415018.5) FROM PlayedBC49")
 row=$(ask "SELECT ID1, Lottoflag, Spent FROM Spent")
 [[ $row == "1|BC49|0.5" ]] || fail "the price is $row"
 [[ $(ls "$work/data") == sorvane.mdb ]] || fail "beside it: $(ls "$work/data")"
+
+echo "without what draws charts the reports are there all the same"
+rm -r "$work/modules"
+"$work/sorvane" >"$work/said" 2>&1 &
+program=$!
+await_window Sorvane
+xdotool key alt+c b b
+await_window BC/49
+xdotool key alt+r alt+f  # the report of a table that is not there yet
+await_window ERROR!
+xdotool key space alt+x
+await_window Sorvane
+xdotool key alt+f x
+await "it never ended" has_ended
+wait "$program" || fail "it ended with $?: $(cat "$work/said")"
+program=
