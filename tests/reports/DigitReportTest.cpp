@@ -90,6 +90,19 @@ TEST(DigitReportTest, WithoutDrawsTheBoxComesBehindTheChoiceAndTheReportIsZeros)
     EXPECT_NE(world.text.find("           9           0             0             0\r\n"), std::string::npos);
 }
 
+TEST(DigitReportTest, WhatIsNoDigitIsNotCountedByPosition) {
+    DigitWorld world(Family::frmPick3, "ONTPick3");
+    world.DigitDraws("WinONTPick3", {"987"});
+    world.Plain().Do("UPDATE WinONTPick3 SET Ball_1 = 10, Ball_2 = -1");
+    world.Report(ReportTypes::NumbersByPosition);
+    int counted = 0;
+    for (int digit = 0; digit <= 10; ++digit)
+        for (int position = 0; position < 3; ++position)
+            counted += int{world.global.PositionCounts(digit)(position)};
+    EXPECT_EQ(world.global.PositionCounts(7)(2), 1);
+    EXPECT_EQ(counted, 1);
+}
+
 TEST(DigitReportTest, WithoutATableNothingIsAskedAndTheLastTypeIsReported) {
     DigitWorld world(Family::frmPick4, "FLAPlay4");
     world.global.ReportType = ReportTypes::NumbersByPosition;

@@ -403,6 +403,8 @@ TEST_F(Verbs, SqlTakesItsValuesInTurnAndComparesTextByCase) {
     EXPECT_EQ(Ids(some), (Numbers{3, 1}));
     Recordset two = db.OpenSql("SELECT * FROM [Every] WHERE [Lottoflag] = ? AND [ID1] > ?", {"BC49", 1});
     EXPECT_EQ(Ids(two), (Numbers{3}));
+    Recordset half = db.OpenSql("SELECT * FROM [Every] WHERE [Amount] = ? AND [Date] = ?", {0.5, 48.0});
+    EXPECT_EQ(Ids(half), (Numbers{3}));
     Recordset literal = db.OpenSql("SELECT * FROM [Every] WHERE [Lottoflag] = 'BC49 FROM x'");
     EXPECT_TRUE(literal.AtEOF());
     EXPECT_TRUE(literal.BOF());
