@@ -7,6 +7,7 @@
 #include <QStyleOption>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "Fixture.h"
 #include "forms/NumberBall.h"
@@ -41,6 +42,22 @@ std::string InCharacters(const QImage& picture, const QColor& ground) {
     }
     return text;
 }
+
+// Edges with nothing in them.
+constexpr std::string_view ThickEdge = R"(
+++++++++++|
+#        #|
+#        #|
+#        #|
+++++++++++|
+)";
+constexpr std::string_view ThinEdge = R"(
+::::::::::|
++        +|
++        +|
++        +|
+::::::::::|
+)";
 
 class Paint : public ::testing::Test {
   protected:
@@ -128,13 +145,7 @@ TEST_F(Paint, AnOptionIsARingThenADotInAFilledRing) {
 }
 
 TEST_F(Paint, AButtonDarkensUnderTheMouseAndMoreWhilePressedUnlessItIsDisabled) {
-    EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, Enabled), R"(
-::::::::::|
-+        +|
-+        +|
-+        +|
-::::::::::|
-)");
+    EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, Enabled), ThinEdge);
     EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, Enabled | QStyle::State_MouseOver), R"(
 ::::::::::|
 +........+|
@@ -152,46 +163,16 @@ TEST_F(Paint, AButtonDarkensUnderTheMouseAndMoreWhilePressedUnlessItIsDisabled) 
 )");
     EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, Enabled | QStyle::State_On), pressed);
     const std::string disabled = Primitive(QStyle::PE_PanelButtonCommand, {});
-    EXPECT_EQ(disabled, R"(
-::::::::::|
-+        +|
-+        +|
-+        +|
-::::::::::|
-)");
+    EXPECT_EQ(disabled, ThinEdge);
     EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, QStyle::State_Sunken), disabled);
     EXPECT_EQ(Primitive(QStyle::PE_PanelButtonCommand, QStyle::State_MouseOver), disabled);
 }
 
 TEST_F(Paint, AFieldHasAThinEdgeAndAThickOneWithTheFocus) {
-    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, Enabled), R"(
-::::::::::|
-+        +|
-+        +|
-+        +|
-::::::::::|
-)");
-    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, Enabled | QStyle::State_HasFocus), R"(
-++++++++++|
-#        #|
-#        #|
-#        #|
-++++++++++|
-)");
-    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, QStyle::State_HasFocus), R"(
-::::::::::|
-+        +|
-+        +|
-+        +|
-::::::::::|
-)");
-    EXPECT_EQ(Primitive(QStyle::PE_FrameFocusRect, Enabled), R"(
-++++++++++|
-#        #|
-#        #|
-#        #|
-++++++++++|
-)");
+    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, Enabled), ThinEdge);
+    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, Enabled | QStyle::State_HasFocus), ThickEdge);
+    EXPECT_EQ(Primitive(QStyle::PE_FrameLineEdit, QStyle::State_HasFocus), ThinEdge);
+    EXPECT_EQ(Primitive(QStyle::PE_FrameFocusRect, Enabled), ThickEdge);
 }
 
 TEST_F(Paint, TheTabInFrontBearsABarAndTheOthersAreLowerAndDarker) {
