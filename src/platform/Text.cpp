@@ -161,6 +161,10 @@ Integer IntegerPart(std::string_view text) {
 
 std::string Str(long number) { return std::to_string(number); }
 
+int CharactersOf(std::string_view utf8) {
+    return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), BeginsCharacter));
+}
+
 void AppendNumber(std::string& line, int number, std::string_view separator) {
     constexpr std::size_t Most = std::numeric_limits<int>::digits10 + 2;  // with its sign
     std::array<char, Most> digits;

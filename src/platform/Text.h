@@ -30,6 +30,8 @@ std::string Str(long number);
 
 // Whether this byte of a UTF-8 text is the first byte of a character.
 constexpr bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+// How many characters a UTF-8 text has, those beyond ASCII too.
+int CharactersOf(std::string_view utf8);
 
 inline int Len(std::string_view text) { return static_cast<int>(text.size()); }
 // `length` characters from the 1-based `start`; what lies behind the end is left out. start below 1 or length

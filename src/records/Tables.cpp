@@ -129,13 +129,8 @@ std::string Shown(const Dao::Value& value) {
     return "\"" + (text.size() > Most ? text.substr(0, Most) + "..." : text) + "\"";
 }
 
-std::size_t CharactersOf(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
-}
-
 std::string JudgeText(const Field& field, const Table& table, const std::string& text) {
-    if (CharactersOf(text) > static_cast<std::size_t>(field.size)) return Shown(text) + " is too long";
+    if (CharactersOf(text) > field.size) return Shown(text) + " is too long";
     if (field.means == Means::Way) return IsWay(text) ? "" : Shown(text) + " is no way of playing";
     if (field.means == Means::DayAsText)
         return ErrorOf([&] { Date::FromText(text); }) == 0 ? "" : Shown(text) + " is no date";

@@ -115,6 +115,11 @@ TEST(BeginsCharacterTest, TellsFirstBytesFromThoseThatFollow) {
     EXPECT_EQ(firsts, "11010010001");
 }
 
+TEST(CharactersOfTest, CountsCharactersNotBytes) {
+    EXPECT_EQ(CharactersOf(""), 0);
+    EXPECT_EQ(CharactersOf("a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80"), 4);
+}
+
 TEST(PadLeftTest, PutsBlanksBeforeShortTextsAndLeavesLongOnes) {
     EXPECT_EQ(PadLeft("5.00", 14), "          5.00");
     EXPECT_EQ(PadLeft("12345678", 8), "12345678");

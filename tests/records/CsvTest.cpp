@@ -109,6 +109,19 @@ TEST(Utf8, KnowsWhatIsNone) {
         EXPECT_FALSE(IsUtf8(text));
 }
 
+// The first and the last character of each length and of each stretch, and their neighbours that are none.
+TEST(Utf8, KnowsWhereCharactersBeginAndEnd) {
+    for (const std::string text :
+         {"\x01", "\x7F", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xE0\xBF\xBF", "\xE1\x80\x80",
+          "\xED\x9F\xBF", "\xEE\x80\x80", "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF3\xBF\xBF\xBF",
+          "\xF4\x80\x80\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_TRUE(IsUtf8(text)) << CsvText(text);
+    for (const std::string text :
+         {"\xC1\xBF", "\xC2\x7F", "\xC2\xC0", "\xE0\x9F\xBF", "\xE1\x80\x7F", "\xE1\x80\xC0", "\xED\xA0\x80",
+          "\xED\xBF\xBF", "\xF0\x8F\xBF\xBF", "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xF1\x80\x80\x7F"})
+        EXPECT_FALSE(IsUtf8(text));
+}
+
 std::string Day(std::string_view text, DateOrder order = DateOrder::MonthFirst) {
     const auto date = ReadDate(text, order);
     return date ? date->ToText() : "none";

@@ -33,10 +33,6 @@ bool SameName(std::string_view a, std::string_view b) {
     return a.size() == b.size() && sqlite3_strnicmp(a.data(), b.data(), static_cast<int>(a.size())) == 0;
 }
 
-int CharactersOf(std::string_view utf8) {
-    return static_cast<int>(std::count_if(utf8.begin(), utf8.end(), BeginsCharacter));
-}
-
 // A fraction is stored as the binary number nearest to it, which must lead back to the same amount.
 Cell CellOf(Currency amount) {
     const std::int64_t count = amount.TenThousandths();
