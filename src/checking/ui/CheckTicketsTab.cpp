@@ -157,7 +157,6 @@ QLayout* CheckTicketsTab::WinnerRow() {
     });
     cboWin.ForEach([&](forms::ComboBox& box, int i) { numbers->addWidget(&box, 0, i); });
     auto* four = new QHBoxLayout;
-    four->setSpacing(space);
     if (lblWinEarlybird) four->addWidget(&*lblWinEarlybird);
     // Windows of two add-ons have one label for both the number and the four numbers.
     if (lblWinEncore && !lblWinEarlybird) four->addWidget(&*lblWinEncore);
@@ -167,7 +166,6 @@ QLayout* CheckTicketsTab::WinnerRow() {
     });
     four->addStretch(1);
     auto* encore = new QHBoxLayout;
-    encore->setSpacing(space);
     if (lblWinEarlybird) encore->addWidget(&*lblWinEncore);
     if (txtWinEncore) {
         txtWinEncore->setFixedWidth(forms::Look::DigitsWidth(page, 8));
@@ -187,7 +185,6 @@ QLayout* CheckTicketsTab::WinnerRow() {
     winner->addLayout(addOn);
 
     auto* row = new QHBoxLayout;
-    row->setSpacing(forms::Look::Gap(page));
     row->addLayout(date);
     row->addWidget(&frmWinner, 1);
     return row;
@@ -196,7 +193,6 @@ QLayout* CheckTicketsTab::WinnerRow() {
 QLayout* CheckTicketsTab::ListsRow() {
     QWidget& page = window_.Pages[Tab::Check];
     auto* lists = new QGridLayout;
-    lists->setHorizontalSpacing(forms::Look::Gap(page));
     lists->setVerticalSpacing(forms::Look::Space(page) / 2);
     int column = 0;
     const auto add = [&](forms::Label& label, forms::ListBox& list, int share) {
@@ -236,7 +232,6 @@ QLayout* CheckTicketsTab::WinningsRow() {
     row->addWidget(&Frame1);
     row->addStretch(1);
     auto* buttons = new QGridLayout;
-    buttons->setSpacing(space);
     const bool narrow = forms::Look::IsNarrow(page);
     buttons->setRowStretch(0, 1);
     buttons->setColumnStretch(0, narrow ? 1 : 0);

@@ -31,7 +31,6 @@ void CountDialog::LayOut() {
     lblGetNoOfTicketsOnSheet.SetBuddy(field_);
     field_.setFixedWidth(forms::Look::DigitsWidth(*this, 5));
     auto* question = new QHBoxLayout;
-    question->setSpacing(gap);
     question->addWidget(&lblGetNoOfTicketsOnSheet);
     question->addWidget(&field_);
     auto* buttons = new QHBoxLayout;

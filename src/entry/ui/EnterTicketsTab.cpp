@@ -166,7 +166,6 @@ QLayout* EnterTicketsTab::MarksRow() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
     auto* ticket = new QHBoxLayout;
-    ticket->setSpacing(gap);
     ticket->addWidget(&chkRegular);
     capture_->AddMarks(*ticket);
     auto* addOn = new QHBoxLayout;
@@ -200,7 +199,6 @@ QLayout* EnterTicketsTab::ButtonColumn() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
     auto* money = new QHBoxLayout;
-    money->setSpacing(forms::Look::Space(page));
     for (forms::Label* label : {lblDollars ? &*lblDollars : nullptr, &lblDollarsSpent}) {
         if (!label) continue;
         label->SetBuddy(txtDollars);

@@ -69,7 +69,6 @@ void QuickPickTab::LayOut() {
     display->addWidget(&lstDisplay, 1);
 
     auto* body = new QHBoxLayout;
-    body->setSpacing(gap);
     if (Wheel) body->addWidget(&Wheel->fraWheel);
     body->addLayout(display, 1);
     body->addLayout(ButtonColumn());

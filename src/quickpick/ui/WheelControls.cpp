@@ -67,7 +67,6 @@ void WheelControls::AttachHandlers() {
 void WheelControls::LayOut() {
     const int gap = forms::Look::Gap(fraWheel), space = forms::Look::Space(fraWheel);
     auto* options = new QHBoxLayout;
-    options->setSpacing(gap);
     optWheelType.ForEach([&](forms::OptionButton& option, int) { options->addWidget(&option); });
     options->addStretch(1);
 

@@ -39,7 +39,6 @@ void frmReportType::LayOut() {
     whole->addSpacing(gap);
     whole->addStretch(1);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(forms::Look::Space(*this));
     buttons->addStretch(1);
     buttons->addWidget(&cmdOK);
     buttons->addWidget(&cmdCancel);

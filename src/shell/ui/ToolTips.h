@@ -5,7 +5,7 @@
 
 namespace sorvane {
 
-// Buttons that stand there and do nothing, as settled.
+// Of the buttons that are only there to be seen.
 inline QString DoesNothing() { return QStringLiteral("This button does nothing"); }
 
 }  // namespace sorvane

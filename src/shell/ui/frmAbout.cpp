@@ -44,7 +44,6 @@ void frmAbout::LayOut() {
     head->addWidget(&lblTitle, 0, 1);
     head->addWidget(&lblVersion, 1, 1);
     head->addWidget(&lblDescription, 2, 1);
-    head->setColumnStretch(1, 1);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(space);
     buttons->addStretch(1);

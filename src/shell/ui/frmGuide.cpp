@@ -55,7 +55,6 @@ void frmGuide::LayOut() {
     search->addWidget(&cmdBack);
     search->addWidget(&cmdExit);
     QBoxLayout* pages = forms::Look::Row(*this);
-    pages->setSpacing(gap);
     pages->addLayout(contents, 1);
     pages->addWidget(&txtGuide, 4);
     auto* whole = new QVBoxLayout(this);

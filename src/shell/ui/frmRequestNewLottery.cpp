@@ -138,7 +138,6 @@ QLayout* frmRequestNewLottery::LotteryGrid() {
     const int space = forms::Look::Space(*this);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(forms::Look::Gap(*this));
-    grid->setVerticalSpacing(space);
     int row = 0;
     const auto label = [&](forms::Label& text, forms::Control& field) {
         text.SetBuddy(field);
@@ -176,7 +175,6 @@ QLayout* frmRequestNewLottery::QuestionsRow() {
 QLayout* frmRequestNewLottery::MoneyGrid() {
     auto* money = new QGridLayout;
     money->setHorizontalSpacing(forms::Look::Gap(*this));
-    money->setVerticalSpacing(forms::Look::Space(*this));
     lblNumberOfBonusTickets.SetBuddy(txtNumberOfBonusTickets);
     lblCostPerTicket.SetBuddy(txtCostPerTicket);
     money->addWidget(&lblNumberOfBonusTickets, 0, 0);
@@ -190,7 +188,6 @@ QLayout* frmRequestNewLottery::MoneyGrid() {
 
 QLayout* frmRequestNewLottery::ButtonsRow() {
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(forms::Look::Space(*this));
     buttons->addWidget(&cmdClear);
     buttons->addStretch(1);
     buttons->addWidget(&cmdPrint);
