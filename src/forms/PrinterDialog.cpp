@@ -87,9 +87,25 @@ QPrinter& PrinterDialog::Device() {
     return *printer_;
 }
 
+// What fails leaves nothing to the next document.
+template <class Work>
+void PrinterDialog::OrForget(Work work) {
+    const int error = ErrorOf(work);
+    if (error == 0) return;
+    document_.reset();
+    leftEdge_ = EdgeTwips;
+    Raise(error);
+}
+
 void PrinterDialog::ShowPrinter() {
-    if (!chooser_(Device())) Raise(ErrorNumber::DialogCancelled);
-    CheckDevice();
+    OrForget([this] {
+        QPrinter& device = Device();
+        if (!chooser_(device)) Raise(ErrorNumber::DialogCancelled);
+        device.setCopyCount(1);
+        device.setPrintRange(QPrinter::AllPages);
+        device.setPageRanges({});
+        CheckDevice();
+    });
 }
 
 // Where the system has no printer, what is left is a file without a name.
@@ -109,17 +125,16 @@ PrinterDialog::Document& PrinterDialog::InHand() {
 
 void PrinterDialog::Print(std::string_view text) {
     static const QRegularExpression lineBreak(QStringLiteral("\r\n|\n|\r"));
-    Document& document = InHand();
-    const double left = leftEdge_ / TwipsPerInch * Device().resolution();
-    for (const QString& line : ToQt(text).split(lineBreak)) document.PrintLine(line, points_, left);
-    if (document.Failed()) {
-        document_.reset();
-        Raise(ErrorNumber::PrinterError);
-    }
+    OrForget([&] {
+        Document& document = InHand();
+        const double left = leftEdge_ / TwipsPerInch * Device().resolution();
+        for (const QString& line : ToQt(text).split(lineBreak)) document.PrintLine(line, points_, left);
+        if (document.Failed()) Raise(ErrorNumber::PrinterError);
+    });
 }
 
 void PrinterDialog::EndDoc() {
-    InHand();
+    OrForget([this] { InHand(); });
     const auto document = std::exchange(document_, nullptr);
     leftEdge_ = EdgeTwips;
     if (!document->painter.end() || document->Failed()) Raise(ErrorNumber::PrinterError);

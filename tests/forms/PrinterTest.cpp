@@ -167,6 +167,50 @@ TEST_F(Printing, LeftEdgeCountsInTwipsForTheDocumentInHandOnly) {
     EXPECT_NEAR(36, left(), 1);
 }
 
+TEST_F(Printing, AnErrorLeavesNoEdgeToTheNextDocument) {
+    const auto leftOfX = [&] {
+        printer.ShowPrinter();
+        printer.Print("x");
+        printer.EndDoc();
+        return Extent("x").left;
+    };
+    printer.LeftEdge(1700);
+    accept = false;
+    EXPECT_EQ(ErrorNumber::DialogCancelled, ErrorOf([&] { printer.ShowPrinter(); }));
+    accept = true;
+    EXPECT_NEAR(36, leftOfX(), 1);
+    const QString good = std::exchange(file, folder.filePath("no/such/folder/page.pdf"));
+    for (const bool ending : {false, true}) {
+        printer.LeftEdge(1700);
+        printer.ShowPrinter();
+        EXPECT_EQ(ErrorNumber::PrinterError,
+                  ErrorOf([&] { ending ? printer.EndDoc() : printer.Print("x"); }));
+        const QString bad = std::exchange(file, good);
+        EXPECT_NEAR(36, leftOfX(), 1);
+        file = bad;
+    }
+}
+
+TEST_F(Printing, CopiesAndPagesAskedForInTheDialogAreNotUsed) {
+    QPrinter* device = nullptr;
+    PrinterDialog asked{[&](QPrinter& chosen) {
+        device = &chosen;
+        chosen.setOutputFormat(QPrinter::PdfFormat);
+        chosen.setOutputFileName(file);
+        chosen.setCopyCount(3);
+        chosen.setPrintRange(QPrinter::PageRange);
+        chosen.setPageRanges(QPageRanges::fromString("2-4"));
+        return true;
+    }};
+    asked.ShowPrinter();
+    EXPECT_EQ(device->copyCount(), 1);
+    EXPECT_EQ(device->printRange(), QPrinter::AllPages);
+    EXPECT_TRUE(device->pageRanges().isEmpty());
+    asked.Print("x");
+    asked.EndDoc();
+    EXPECT_EQ(Pages().size(), 1u);
+}
+
 TEST_F(Printing, EmptyDocumentIsAnEmptyPage) {
     printer.ShowPrinter();
     printer.EndDoc();

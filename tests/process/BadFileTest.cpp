@@ -326,6 +326,22 @@ TEST_F(BadFiles, AFileInThePlaceOfTheFolderIsARunTimeErrorThatTheProgramSurvives
     ExpectUsable();
 }
 
+// Its load would otherwise be over for the rest of the run: no tables, no dates.
+TEST_F(BadFiles, AGameWindowWhoseLoadFailedIsLoadedAnewOnceTheCauseIsGone) {
+    Start();
+    fs::remove_all(path_.parent_path());
+    Write(path_.parent_path(), "not a folder");
+    ExpectRunTimeError(75);
+    Choose(game.menu);
+    EXPECT_FALSE(windows.IsLoaded(family));
+    fs::remove(path_.parent_path());
+    ExpectUsable();
+    EXPECT_EQ(Rows("SELECT DISTINCT Date FROM PlayedBC49"), Rows("SELECT Date FROM Spent"));
+    Inside([&] {
+        EXPECT_EQ(dynamic_cast<forms::DatePicker&>(Find("dtpEnterTickets(0)")).Value().ToText(), Today);
+    });
+}
+
 TEST_F(BadFiles, AProgramInAFolderThatMayNotBeWrittenIsARunTimeErrorThatTheProgramSurvives) {
     fs::remove(path_.parent_path());
     fs::permissions(folder.Path(), fs::perms(0555));

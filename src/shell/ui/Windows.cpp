@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/Runtime.h"
+#include "platform/RunTimeError.h"
 #include "shell/GuideFacts.h"
 #include "shell/ui/GameFrame.h"
 #include "shell/ui/frmGuide.h"
@@ -39,7 +40,11 @@ GameFrame& Windows::Load(Family family) {
     auto& window = loaded_[static_cast<std::size_t>(family)];
     if (!window) {
         window = makers_.game(family, session_, *this);
-        window->Form_Load();
+        const int error = ErrorOf([&] { window->Form_Load(); });
+        if (error != 0) {
+            Unload(*window);
+            Raise(error);
+        }
     }
     return *window;
 }

@@ -30,7 +30,8 @@ class Windows {
     ~Windows();
 
     // The family's window; made and loaded when it isn't there. It stands in the registry before its
-    // Form_Load runs, so a failure in Form_Load leaves it loaded and hidden, and ends the caller.
+    // Form_Load runs. An error in Form_Load unloads it, so that the next call loads it anew, and ends the
+    // caller.
     GameFrame& Load(Family family);
     bool IsLoaded(Family family) const;
     // A window with the report of all lotteries, which its caller shows and owns.
