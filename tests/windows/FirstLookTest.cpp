@@ -77,6 +77,32 @@ TEST_F(FirstLook, ProgressIsToldAsItIsPaintedOnEverySheetAndCountsTheAddOnNumber
     EXPECT_EQ(Beside(), "Numbers 2 of 6, tickets filled 0 of 1");
 }
 
+TEST_F(FirstLook, ProgressStaysWhileTheSlipIsOpen) {
+    Show("mnuCANONTSuper7");
+    OneSheet(1);
+    PickFrom(1, 7);
+    Click("cmdCorrection");
+    EXPECT_EQ(Beside(), "Numbers 0 of 7, tickets filled 0 of 3");
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    PickFrom(1, 6);
+    Click("cmdNext_Ticket");
+    person.ClickTab("&Quick Pick");
+    person.ClickTab("&Enter Tickets");
+    EXPECT_EQ(Beside(), "Numbers 0 of 6, tickets filled 1 of 2");
+    person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+    Click("cmdCancel");
+    EXPECT_EQ(Beside(), "Type how many tickets, then press Tab");
+}
+
+TEST_F(FirstLook, ACountOfQuickPicksIsNoneOfTheEntry) {
+    Show("mnuCANBCBC49");
+    person.ClickTab("&Quick Pick");
+    Put("txtNoOfTickets(1)", "1");
+    person.ClickTab("&Enter Tickets");
+    EXPECT_EQ(Beside(), "Type how many tickets, then press Tab");
+}
+
 TEST_F(FirstLook, TheCountOfEncoresSaysThatItHasToBeVisitedOnce) {
     for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
         global.AddOnTickets = {};

@@ -205,7 +205,7 @@ QLayout* EnterTicketsTab::ButtonColumn() {
         money->addWidget(label);
     }
     txtDollars.setFixedWidth(forms::Look::DigitsWidth(page, AmountDigits));
-    money->addStretch(1);
+    money->addStretch();
     money->addWidget(&txtDollars);
 
     auto* buttons = new QVBoxLayout;
@@ -216,7 +216,7 @@ QLayout* EnterTicketsTab::ButtonColumn() {
     for (QWidget* button : {&cmdNext_Ticket, &cmdCorrection, &cmdSave}) buttons->addWidget(button);
     buttons->addSpacing(gap);
     buttons->addWidget(&cmdRegular);
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdCancel);
     buttons->addWidget(&window_.cmdExit(0));
     return buttons;
@@ -253,10 +253,9 @@ std::string EnterTicketsTab::Progress() const {
     if (next == AddOnCaption::NextExtra || next == AddOnCaption::NextEncore)
         return "Add-on number " + Str(std::min(g.ExtraNo + 1, int{g.NoOfExtra})) + " of " + Str(g.NoOfExtra);
     const int tickets = capture_->TicketsOnSheet();
-    if (tickets <= 0 || g.TotalTickets == 0) return std::string(IsPick(window_.Which) ? "" : ShutHint);
+    if (tickets <= 0 || !countIsGiven_) return std::string(IsPick(window_.Which) ? "" : ShutHint);
     const TicketCapture::Marks marks = capture_->Marked();
-    const std::string filled =
-        "ickets filled " + Str(window_.session.global.TicketNo) + " of " + Str(tickets);
+    const std::string filled = "ickets filled " + Str(g.TicketNo) + " of " + Str(tickets);
     if (marks.wanted == 0) return "T" + filled;
     return "Numbers " + Str(marks.marked) + " of " + Str(marks.wanted) + ", t" + filled;
 }

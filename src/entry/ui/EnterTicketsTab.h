@@ -49,6 +49,9 @@ class EnterTicketsTab {
     void ShowTitle(std::string_view kind, int number);
     // How far the ticket and the sheet are: "Numbers 4 of 6, tickets filled 1 of 3"; empty before they begin.
     std::string Progress() const;
+    // Whether the count of the entry in hand was given. The counters don't tell: corrections lower them, and
+    // the count of quick picks goes into the same ones.
+    void GiveCount(bool given) { countIsGiven_ = given; }
     // The default amount: Dollars and txtDollars, one decimal point counted.
     void PutAmount(const std::string& amount);
     // Dollars "0.00".
@@ -72,6 +75,7 @@ class EnterTicketsTab {
 
     GameWindow& window_;
     std::unique_ptr<TicketCapture> capture_;
+    bool countIsGiven_ = false;
 };
 
 }  // namespace sorvane

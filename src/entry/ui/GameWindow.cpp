@@ -128,6 +128,7 @@ void GameWindow::ShowFirstSheet() {
     Enter.Capture().Load();
     Enter.FirstCaption();
     Enter.Capture().Close();
+    Enter.GiveCount(false);
     SetDates();
     Enter.StartAmount();
     Enter.TurnButtonsOff();

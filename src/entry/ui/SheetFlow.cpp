@@ -34,6 +34,7 @@ void SheetFlow::TicketCountLeft(int Index) {
     const std::string text = count.Text();
     if (!text.empty() && text != "0") {
         SetSheetTickets();
+        w.Enter.GiveCount(true);
         if (CountOpensGrid[w.Which]) w.Enter.Capture().Open();
     }
     const Global& g = w.session.global;
