@@ -22,15 +22,16 @@ class PrinterDialog final : public Printer {
 
     // 1 to 500 points, else 483. Holds until it is set again; 12 at the start.
     void FontSize(int points) override;
-    // Counted from the paper's left edge; below 0 raises 483. Half an inch without it, and again behind EndDoc
-    // and behind an error.
+    // Counted from the paper's left edge; below 0 raises 483. Half an inch without it, and again behind
+    // EndDoc and behind an error.
     void LeftEdge(double twips) override;
-    // What is asked there of copies and pages is not used: one copy of all pages is printed. Raises 32755 when
-    // cancelled, 484 when there is no such printer.
+    // What is asked there of copies and pages is not used: one copy of all pages is printed. Raises 32755
+    // when cancelled, 484 when there is no such printer.
     void ShowPrinter() override;
     // Begins the document if need be (on the default printer when ShowPrinter wasn't called). A line too wide
     // for the paper is never cut: it alone is set condensed, without regard to blanks at its end. Raises 484
-    // without a printer, 482 when it fails. An error ends the document.
+    // without a printer, 482 when it fails. An error ends the document: what was sent
+    // before it comes out.
     void Print(std::string_view text) override;
     // Without any Print before: an empty page. Raises like Print.
     void EndDoc() override;

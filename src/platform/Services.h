@@ -50,7 +50,8 @@ class Printer {
     virtual void LeftEdge(double twips) = 0;
     // Shows the system's printer dialog (a PDF file counts as a printer). Raises 32755 when it is cancelled.
     virtual void ShowPrinter() = 0;
-    // Prints text and a line break; line breaks inside the text begin new lines, runs of blanks stay.
+    // Prints text and a line break; line breaks inside the text begin new lines, runs of blanks stay. An
+    // error ends the document: what was sent before it comes out.
     virtual void Print(std::string_view text) = 0;
     // Ends the document and sends it.
     virtual void EndDoc() = 0;

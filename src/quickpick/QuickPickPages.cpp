@@ -51,7 +51,9 @@ void PrintQuickPicks(Session& session, const Array<std::string>& quickPicks, con
     bool sent = false;
     const int number = ErrorOf([&] { PrintLines(session, quickPicks, ticketCount, sent); });
     if (number == 0) return printer.EndDoc();
-    if (sent) ErrorOf([&] { printer.EndDoc(); });
+    // A printer that fails has ended the document itself.
+    const bool byPrinter = number >= ErrorNumber::PrinterError && number <= ErrorNumber::PrinterDriver;
+    if (sent && !byPrinter) ErrorOf([&] { printer.EndDoc(); });
     Raise(number);
 }
 

@@ -124,6 +124,7 @@ TEST(PrintTest, APrinterThatFailsInThePageShowsItsBoxOnceAndWhatWasSentComesOut)
     world.ExpectBox(ErrorText);
     world.Print(2);
     EXPECT_EQ(world.Page(), PrintWorld::With({"      Ticket #1 - a"}));
+    EXPECT_EQ(world.printer.calls.back(), Verb::Print);  // no second, empty document
 }
 
 TEST(PrintTest, APrinterThatFailsAtTheFirstLineSendsNoEmptyPage) {

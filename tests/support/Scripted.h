@@ -204,7 +204,10 @@ class RecordingPrinter final : public Printer {
     }
     void ShowPrinter() override { Called(Verb::ShowPrinter); }
     void Print(std::string_view text) override {
-        Called(Verb::Print);
+        if (const int error = ErrorOf([this] { Called(Verb::Print); })) {
+            if (!pending.empty()) documents.push_back(std::exchange(pending, {}));
+            Raise(error);
+        }
         for (std::size_t end = text.find('\n'); end != std::string_view::npos; end = text.find('\n')) {
             AddLine(text.substr(0, end));
             text.remove_prefix(end + 1);
