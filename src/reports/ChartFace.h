@@ -19,6 +19,8 @@ class ChartFace {
     virtual void Data(int value) = 0;
     virtual void Data(std::string_view text) = 0;
     virtual void ColumnLabel(std::string_view label) = 0;
+    // Whether the table that is drawn has any rows; told before the cells.
+    virtual void Found(bool any) = 0;
 };
 
 }  // namespace sorvane

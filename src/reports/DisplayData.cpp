@@ -2,7 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "platform/Text.h"
 #include "reports/PadAmount.h"
@@ -34,11 +38,12 @@ void ShowNoDraws(Session& session) {
 
 // Hands each row of the win table to `eachDraw`; `atEnd` follows when there was any.
 template <class EachDraw, class AtEnd>
-void ReadDraws(Session& session, const StoreTable& table, EachDraw eachDraw, AtEnd atEnd) {
+void ReadDraws(Session& session, const StoreTable& table, ChartFace& chart, EachDraw eachDraw, AtEnd atEnd) {
     StoreRoutine(session, Tails::Open, table.TableName, [&] {
         Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, session.global.Open);
         Dao::Recordset Rs = Db.OpenTable(table.TableName);
         const int rows = Rs.RecordCount();
+        chart.Found(rows > 0);
         if (rows < 1) return ShowNoDraws(session);
         Rs.MoveFirst();
         for (int row = 0; row < rows; ++row) {
@@ -51,13 +56,14 @@ void ReadDraws(Session& session, const StoreTable& table, EachDraw eachDraw, AtE
 
 // Counts the numbers 0 to `top`; an unknown game has no tally, and its first number is outside it.
 template <class AtEnd>
-void TallyNumbers(Session& session, const StoreTable& table, DrawnFields fields, int top, AtEnd atEnd) {
+void TallyNumbers(Session& session, const StoreTable& table, ChartFace& chart, DrawnFields fields, int top,
+                  AtEnd atEnd) {
     Array<Integer> tally;
     if (top > 0) tally.Redim(top);
     const auto count = [&](Dao::Recordset& Rs) {
         for (int i = 0; i < fields.count; ++i) ++tally(Rs[fields.first + i].ToInteger());
     };
-    ReadDraws(session, table, count, [&] { atEnd(tally); });
+    ReadDraws(session, table, chart, count, [&] { atEnd(tally); });
 }
 
 void DrawFrequencies(const Array<Integer>& tally, ChartFace& chart) {
@@ -97,7 +103,7 @@ void TallySixNumberFrequency(Session& session, const StoreTable& table, ChartFac
     Global& g = session.global;
     const bool lottario = IsLottario(g);
     const int top = FamilyFacts::HighestNumber[lottario ? Family::frm645 : Family::frm649];
-    TallyNumbers(session, table, SixNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, table, chart, SixNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) KeepSixNumberTally(g, tally, lottario);
         if (mode == ChartMode && !g.Generating) DrawFrequencies(tally, chart);
     });
@@ -108,7 +114,7 @@ void TallySevenNumberFrequency(Session& session, const StoreTable& table, ChartF
     Global& g = session.global;
     const int top = FamilyFacts::HighestNumber[Family::frm749];
     if (FindKey(Family::frm749, g.LottoFlag)) g.Numbers.Redim(top);
-    TallyNumbers(session, table, SevenNumbers, top, [&](const Array<Integer>& tally) {
+    TallyNumbers(session, table, chart, SevenNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) CopyShifted(tally, g.Numbers);
         if (mode == ChartMode) DrawFrequencies(tally, chart);
     });
@@ -116,7 +122,8 @@ void TallySevenNumberFrequency(Session& session, const StoreTable& table, ChartF
 
 void TallyKenoFrequency(Session& session, const StoreTable& table, ChartFace& chart, const Integer& mode) {
     Global& g = session.global;
-    TallyNumbers(session, table, KenoNumbers, TopKenoNumber(g.LottoFlag), [&](const Array<Integer>& tally) {
+    const int top = TopKenoNumber(g.LottoFlag);
+    TallyNumbers(session, table, chart, KenoNumbers, top, [&](const Array<Integer>& tally) {
         if (mode == ReportMode) CopyShifted(tally, g.Numbers);
         if (mode == ChartMode) DrawFrequencies(tally, chart);
     });
@@ -181,7 +188,7 @@ void TallyDigits(Session& session, const StoreTable& table, ChartFace& chart, co
         for (const DigitGroup& group : DigitGroups)
             if (g.ReportType == group.type) CountGroup(g, Rs, group, digits);
     };
-    ReadDraws(session, table, countDraw, [&] {
+    ReadDraws(session, table, chart, countDraw, [&] {
         if (chartAsked) DrawPositions(g, chart, digits);
     });
 }
@@ -311,24 +318,40 @@ void ForEachRow(Dao::Recordset& Rs, int rows, EachRow eachRow) {
     }
 }
 
+// The rows are read first and padded when they are closed, because a walk holds a lock and a padding may
+// never end. Of a row without a key only the line without it is kept.
 void KeepLines(Global& g, const Ledger& ledger, Dao::Recordset& Rs, int rows) {
     constexpr int DateWidth = 8;
     constexpr std::size_t UsualLine = 64;
+    struct Row {
+        std::string date, amount;
+        std::optional<std::string> key;
+    };
+    std::vector<Row> read;
+    read.reserve(static_cast<std::size_t>(rows));
+    Currency total;
+    const int error = ErrorOf([&] {
+        ForEachRow(Rs, rows, [&](int) {
+            const Currency amount = Rs[AmountField].ToCurrency();
+            std::string date = PadLeft(Rs[DateField].ToText(), DateWidth);
+            read.push_back({std::move(date), Format(amount, ledger.rowPicture), {}});
+            read.back().key = Rs[KeyField].ToText();
+            total += amount;
+        });
+    });
+    Rs.Close();
     Array<std::string>& lines = g.*ledger.lines;
     Array<std::string>& allLines = g.*ledger.allLines;
     lines.Redim(rows);
     allLines.Redim(rows);
-    Currency total;
-    ForEachRow(Rs, rows, [&](int i) {
-        const Currency amount = Rs[AmountField].ToCurrency();
-        std::string line = PadLeft(Rs[DateField].ToText(), DateWidth);
+    for (int i = 0; Row & row : read) {
+        std::string line = std::move(row.date);
         line.reserve(UsualLine);
-        line.append(14, ' ').append("$").append(PadAmount(Format(amount, ledger.rowPicture)));
+        line.append(14, ' ').append("$").append(PadAmount(std::move(row.amount)));
         lines(i) = line + g.NL;
-        line.append("     ").append(Rs[KeyField].ToText()).append(g.NL);
-        allLines(i) = std::move(line);
-        total += amount;
-    });
+        if (row.key) allLines(i++) = line.append("     ").append(*row.key).append(g.NL);
+    }
+    if (error != 0) Raise(error);
     g.*ledger.total = total;
 }
 
@@ -345,6 +368,7 @@ void ReadLedger(Session& session, const Ledger& ledger, const StoreTable& table,
         Dao::Database Db = session.services.engine.OpenDatabase(table.DbName, g.Open);
         Dao::Recordset Rs = OpenLedger(Db, ledger, g.LottoFlag, table.TableName);
         const Integer rows = g.*ledger.rows = Rs.RecordCount();
+        if (ledger.saysWhenEmpty) chart.Found(rows > 0);
         if (rows < 1) {
             if (ledger.saysWhenEmpty) ShowNoTickets(session);
             if (ledger.saysWhenEmpty || mode == ChartMode) DrawSum(ledger, chart, Currency());

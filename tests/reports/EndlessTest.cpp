@@ -12,6 +12,7 @@
 #include <iterator>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "reports/MoneyReport.h"
 #include "reports/PadAmount.h"
@@ -139,8 +140,12 @@ TEST(EndlessPaddingTest, HoldsNoLockOnTheFileMeanwhile) {
             for (const bool won : {false, true}) {
                 SCOPED_TRACE(std::string(game) + (won ? " won " : " spent ") + std::to_string(mode));
                 ReportWorld world(game);
-                world.Spent({{"BC49", "2026-01-02", "-1000000000"}});
-                world.Winnings({{"BC49", "2026-01-02", "-1000000000"}});
+                // Not in the first row: a walk begins with the step to the second.
+                const std::vector<ReportWorld::LedgerRow> rows{{"BC49", "2026-01-01", "1"},
+                                                               {"BC49", "2026-01-02", "-1000000000"},
+                                                               {"BC49", "2026-01-03", "2"}};
+                world.Spent(rows);
+                world.Winnings(rows);
                 Apart apart([&] {
                     if (won) SumWon(world.session, {world.DbName(), "Winnings"}, world.chart, mode);
                     else SumSpent(world.session, {world.DbName(), "Spent"}, world.chart, mode);

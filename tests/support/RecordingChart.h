@@ -31,6 +31,9 @@ class RecordingChart final : public ChartFace {
         calls.push_back("ColumnLabel " + std::string(label));
         labels[column_] = label;
     }
+    void Found(bool any) override { found = any; }
+
+    bool found = false;
 
   private:
     void Called(const std::string& verb, int value) { calls.push_back(verb + " " + std::to_string(value)); }

@@ -1,17 +1,30 @@
+#include <QApplication>
 #include <QGraphicsScene>
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <chrono>
 #include <set>
+#include <thread>
 
 #include "ReportsWorld.h"
 
 namespace sorvane::test {
 namespace {
 
-class ReportsTabTest : public ReportsWorld {};
+class ReportsTabTest : public ReportsWorld {
+  public:
+    // The sentences over a chart.
+    static std::set<std::string> Said(const forms::Chart& chart) {
+        std::set<std::string> texts;
+        for (const QGraphicsItem* item : chart.findChild<QGraphicsView*>()->scene()->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item))
+                texts.insert(text->toPlainText().toStdString());
+        return texts;
+    }
+};
 
 class EveryReportsTab : public ReportsTabTest, public ::testing::WithParamInterface<GameCase> {
   public:
@@ -131,27 +144,24 @@ TEST_P(EveryReportsTab, WithoutTicketsTheBoxComesAndTheReportHasHeadingsAndTotal
 
 TEST_P(EveryReportsTab, AButtonThatFoundNothingSaysSoInTheChart) {
     OpenReports(GetParam());
-    const auto said = [](forms::Chart& chart) {
-        std::set<std::string> texts;
-        for (const QGraphicsItem* item : chart.findChild<QGraphicsView*>()->scene()->items())
-            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item))
-                texts.insert(text->toPlainText().toStdString());
-        return texts;
-    };
     constexpr auto Start = "Nothing to see yet: press a button beside the chart";
-    EXPECT_TRUE(said(Reports().mscNumberFrequency).contains(Start));
+    EXPECT_TRUE(Said(Reports().mscNumberFrequency).contains(Start));
     if (!IsKeno80()) ExpectNoRows();
     Click("cmdNumberFrequency");
-    EXPECT_FALSE(said(Reports().mscNumberFrequency).contains(Start));
+    EXPECT_FALSE(Said(Reports().mscNumberFrequency).contains(Start));
     const auto none = IsKeno80() ? "There is no chart of the numbers of this game" : "No winning numbers yet";
-    EXPECT_TRUE(said(Reports().mscNumberFrequency).contains(none));
+    EXPECT_TRUE(Said(Reports().mscNumberFrequency).contains(none));
     EXPECT_EQ(Reports().mscNumberFrequency.accessibleDescription().toStdString(), none);
     ExpectNoTickets();
     Click("cmdProfitLoss");
-    EXPECT_TRUE(said(Reports().mscProfitLoss).contains("No tickets yet"));
+    EXPECT_TRUE(Said(Reports().mscProfitLoss).contains("No tickets yet"));
+    AddMoney("Spent", GetParam().LottoFlag, 0, "0");
+    Click("cmdProfitLoss");
+    EXPECT_FALSE(Said(Reports().mscProfitLoss).contains("No tickets yet"));
+    EXPECT_TRUE(Said(Reports().mscProfitLoss).contains("Nothing spent and nothing won"));
     AddMoney("Spent", GetParam().LottoFlag, 0, "1234.5");
     Click("cmdProfitLoss");
-    EXPECT_FALSE(said(Reports().mscProfitLoss).contains("No tickets yet"));
+    EXPECT_FALSE(Said(Reports().mscProfitLoss).contains("No tickets yet"));
     EXPECT_EQ(Reports().mscProfitLoss.accessibleDescription().toStdString(), "Spent: $1,234.50; Won: $0.00");
 }
 
@@ -258,6 +268,19 @@ TEST_P(EveryReportsTab, NoLineOfAReportIsWrappedOrCutOff) {
     EXPECT_EQ(metrics.horizontalAdvance("i"), metrics.horizontalAdvance("W"));
     EXPECT_FALSE(box.horizontalScrollBar()->isVisible());
     EXPECT_GE(box.viewport()->width(), metrics.horizontalAdvance(QString(79, 'W')));
+}
+
+TEST(ReportBoxTest, ThePointerIsBusyWhileTheTextOfALongReportIsPutIn) {
+    ReportBox box("txtReport");
+    bool busy = false;
+    QObject::connect(&box, &QPlainTextEdit::textChanged,
+                     [&] { busy = QApplication::overrideCursor() != nullptr; });
+    box.Write([](std::string& text) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(300));
+        text = "Report";
+    });
+    EXPECT_TRUE(busy);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_P(EveryReportsTab, TabGoesFromChartsToReportsToExit) {
@@ -548,6 +571,7 @@ TEST_F(ReportsTabTest, AWheelThatWasRefusedLeavesTheChartEmptyUntilTheNextRunEnd
     person.ClickTab("&Reports");
     Click("cmdNumberFrequency");
     EXPECT_EQ(Sum(Bars(Reports().mscNumberFrequency)), 0);
+    EXPECT_TRUE(Said(Reports().mscNumberFrequency).contains("No chart while a wheel is unfinished"));
     person.ClickTab("&Quick");
     Click("optWheelType(3)");
     Click("cmdGenerate");

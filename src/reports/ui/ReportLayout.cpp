@@ -52,7 +52,7 @@ void LayOutReports(QWidget& page, const std::vector<QWidget*>& views,
         AddGroup(*buttons, group);
         order.insert(order.end(), group.buttons.begin(), group.buttons.end());
     }
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&exit);
     order.push_back(views.back());
     order.push_back(&exit);

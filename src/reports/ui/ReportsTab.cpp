@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/BusyPointer.h"
+#include "forms/Utf8.h"
 #include "platform/Text.h"
 #include "reports/DigitReports.h"
 #include "reports/FrequencyReport.h"
@@ -32,7 +33,10 @@ ReportsTab::ReportsTab(GameFrame& window)
     window.cmdExit.Load(3, "E&xit");
     cmdPrintReport.SetEnabled(false);
     if (!PrintsReport[window.Which]) cmdPrintReport.setToolTip(DoesNothing());
-    if (!Tally[window.Which]) cmdReport.setToolTip(DoesNothing());
+    if (!Tally[window.Which]) {
+        cmdNumberFrequency.setToolTip(forms::ToQt(NoChartHint));
+        cmdReport.setToolTip(DoesNothing());
+    }
     mscProfitLoss.SetVisible(false);
     CaptionNumberChart();
     ClearCharts();
@@ -91,7 +95,7 @@ void ReportsTab::cmdNumberFrequency_Click() {
     Show(mscNumberFrequency);
     if (IsPick(window_.Which)) ChartDigits(window_.session, Args(), Frequencies);
     else ChartFrequency(window_.session, Args(), Frequencies);
-    mscNumberFrequency.SetHint(Tally[window_.Which] ? NoDrawsHint : NoChartHint);
+    if (!Tally[window_.Which]) mscNumberFrequency.SetHint(NoChartHint);
 }
 
 void ReportsTab::cmdReport_Click() {
@@ -113,16 +117,15 @@ void ReportsTab::cmdReport_Click() {
 void ReportsTab::cmdProfitLoss_Click() {
     WindowState& state = window_.State;
     Show(mscProfitLoss);
-    ChartCells cells(mscProfitLoss);
+    ChartCells cells(mscProfitLoss, NoTicketsHint, NoMoneyHint);
     ChartMoney(window_.session, {GameMoney, state.DbName, state.TableName, state.mode, cells});
-    mscProfitLoss.SetHint(NoTicketsHint);
 }
 
 void ReportsTab::cmdPLReport_Click() {
     WindowState& state = window_.State;
     cmdPrintReport.SetEnabled(true);
     Show(txtReport);
-    ChartCells cells(mscProfitLoss);
+    ChartCells cells(mscProfitLoss, NoTicketsHint, NoMoneyHint);
     txtReport.Write([&](std::string& text) {
         ReportMoney(window_.session, {GameMoney, state.DbName, state.TableName, state.mode, cells},
                     window_.Caption(), text);

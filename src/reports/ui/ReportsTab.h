@@ -24,7 +24,8 @@ class ReportsTab {
     forms::Chart mscNumberFrequency{"mscNumberFrequency"};
     forms::Chart mscProfitLoss{"mscProfitLoss"};
     ReportBox txtReport{"txtReport"};
-    ChartCells Frequencies{mscNumberFrequency};  // that chart, as tallies and wheels fill it
+    // That chart, as tallies and wheels fill it.
+    ChartCells Frequencies{mscNumberFrequency, NoDrawsHint, UnfinishedWheelHint};
 
     // Both charts emptied, at load and at cancel. Which of the three is seen stays as it is.
     void ClearCharts();

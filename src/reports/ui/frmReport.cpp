@@ -46,15 +46,14 @@ void frmReport::Form_Load() {
 void frmReport::cmdProfitLoss_Click() {
     txtReport.SetVisible(false);
     mscProfitLoss.SetVisible(true);
-    ChartCells cells(mscProfitLoss);
+    ChartCells cells(mscProfitLoss, NoTicketsHint, NoMoneyHint);
     ChartMoney(session_, {AllGamesMoney, DbName_, TableName_, mode_, cells});
-    mscProfitLoss.SetHint(NoTicketsHint);
 }
 
 void frmReport::cmdPLReport_Click() {
     mscProfitLoss.SetVisible(false);
     txtReport.SetVisible(true);
-    ChartCells cells(mscProfitLoss);
+    ChartCells cells(mscProfitLoss, NoTicketsHint, NoMoneyHint);
     txtReport.Write([&](std::string& text) {
         ReportMoney(session_, {AllGamesMoney, DbName_, TableName_, mode_, cells}, Caption(), text);
     });

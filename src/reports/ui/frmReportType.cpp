@@ -37,9 +37,9 @@ void frmReportType::LayOut() {
     optReportType.ForEach(
         [&](forms::OptionButton& option, int) { whole->addWidget(&option, 0, Qt::AlignLeft); });
     whole->addSpacing(gap);
-    whole->addStretch(1);
+    whole->addStretch();
     auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdOK);
     buttons->addWidget(&cmdCancel);
     whole->addLayout(buttons);
