@@ -16,7 +16,7 @@ namespace {
 
 struct TableName {
     std::string name;
-    int shape;
+    int shape = 0;  // where no creator is given
 };
 
 // One table: what names it and what creates it. Without a creator CreateTableByShape does, which creates the
@@ -38,7 +38,7 @@ std::optional<TableName> MainPlayed(Family family, const Global& global) {
 std::optional<TableName> MainWin(Family family, const Global& global) {
     const GameKey* key = FindKey(family, global.LottoFlag);
     if (!key) return {};
-    return TableName{std::string(key->Win), FamilyFacts::NumbersPerTicket[family]};
+    return TableName{std::string(key->Win)};
 }
 
 std::optional<TableName> AddOnPlayed(Family family, const Global& global) {
@@ -55,23 +55,16 @@ std::optional<TableName> KenoEncore(Family, const Global& global) {
 
 std::optional<TableName> LottarioPlayed(Family, const Global&) { return TableName{"PlayedLottario", 6}; }
 std::optional<TableName> LottarioEncore(Family, const Global&) { return TableName{"PlayedEncore", 1}; }
-std::optional<TableName> EarlyBirdWin(Family, const Global&) { return TableName{"WinEarlyBird", 1}; }
-std::optional<TableName> LottarioWin(Family, const Global& global) {
-    const GameKey* key = FindKey(Family::frm645, global.LottoFlag);
-    if (!key) return {};
-    return TableName{std::string(key->Win), 6};
-}
+std::optional<TableName> EarlyBirdWin(Family, const Global&) { return TableName{"WinEarlyBird"}; }
 constexpr const char* Play4WinName = "WinFLAPlay4";
-std::optional<TableName> Play4Win(Family, const Global&) { return TableName{Play4WinName, 4}; }
-std::optional<TableName> Temp(Family family, const Global&) {
-    return TableName{"Temp", FamilyFacts::NumbersPerTicket[family]};
-}
+std::optional<TableName> Play4Win(Family, const Global&) { return TableName{Play4WinName}; }
+std::optional<TableName> Temp(Family, const Global&) { return TableName{"Temp"}; }
 
 const TableStep LottoSteps[] = {{MainPlayed}, {AddOnPlayed}, {Temp, &CreateTempTable}};
 const TableStep LottarioSteps[] = {{LottarioPlayed},
                                    {LottarioEncore},
                                    {EarlyBirdWin, &CreateWinPick4Table},
-                                   {LottarioWin, &CreateWin6Table, true},
+                                   {MainWin, &CreateWin6Table, true},
                                    {Temp, &CreateTempTable}};
 const TableStep Keno70Steps[] = {
     {MainPlayed}, {MainWin, &CreateWinKenoTable}, {KenoEncore}, {Temp, &CreateTempTable}};

@@ -8,21 +8,15 @@
 
 namespace sorvane::forms {
 
-Picture::Picture(std::string_view name, std::string_view svg)
-    : Control(*this, name), drawing_(std::make_unique<QSvgRenderer>()) {
-    SetSvg(svg);
-}
+Picture::Picture(std::string_view name) : Control(*this, name), drawing_(std::make_unique<QSvgRenderer>()) {}
 
 Picture::~Picture() = default;
 
-void Picture::SetSvg(std::string_view svg) {
-    drawing_->load(QByteArray(svg.data(), static_cast<qsizetype>(svg.size())));
-    Loaded();
-}
-
 void Picture::SetFile(std::string_view path) {
     drawing_->load(ToQt(path));
-    Loaded();
+    later_.clear();
+    updateGeometry();
+    update();
 }
 
 void Picture::SetFileLater(std::string_view path, QSize size) {
@@ -33,13 +27,6 @@ void Picture::SetFileLater(std::string_view path, QSize size) {
 
 void Picture::LoadNow() {
     if (!later_.empty()) SetFile(std::string(later_));
-}
-
-void Picture::Loaded() {
-    later_.clear();
-    drawing_->setAspectRatioMode(Qt::KeepAspectRatio);
-    updateGeometry();
-    update();
 }
 
 QSize Picture::DrawingSize() const { return later_.empty() ? drawing_->defaultSize() : sizeToCome_; }

@@ -15,11 +15,9 @@ namespace sorvane::forms {
 
 class Picture : public QWidget, public Control {
   public:
-    // The text of an SVG drawing; one that can't be read shows nothing.
-    explicit Picture(std::string_view name, std::string_view svg = {});
+    explicit Picture(std::string_view name);
     ~Picture() override;
-    void SetSvg(std::string_view svg);
-    // A drawing from a file or from a resource (":/...").
+    // An SVG drawing from a file or from a resource (":/..."); one that can't be read shows nothing.
     void SetFile(std::string_view path);
     // As SetFile, for a drawing whose size, in pixels, is known beforehand: the window is shown without
     // waiting for it, and the drawing follows as soon as the first frame is on the screen.
@@ -35,7 +33,6 @@ class Picture : public QWidget, public Control {
 
   private:
     void LoadNow();
-    void Loaded();
     QSize DrawingSize() const;
     std::unique_ptr<QSvgRenderer> drawing_;
     std::string later_;  // the file of a drawing that waits for the first frame

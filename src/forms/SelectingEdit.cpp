@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <utility>
 
 #include "forms/Runtime.h"
 
@@ -9,13 +10,14 @@ namespace sorvane::forms {
 
 void SelectingEdit::SelectWhole() {
     selectAll();
-    keepSelection_ = Runtime::Current().IsPressed(*this);
+    toKeep_ = Runtime::Current().IsPressed(*this);
 }
 
 // The press puts the caret where the mouse is, which would undo a selection made when it brought the focus.
 void SelectingEdit::mousePressEvent(QMouseEvent* event) {
     QLineEdit::mousePressEvent(event);
     pressedAt_ = event->pos();
+    keepSelection_ = std::exchange(toKeep_, false);
     if (keepSelection_) selectAll();
 }
 
@@ -23,11 +25,6 @@ void SelectingEdit::mouseMoveEvent(QMouseEvent* event) {
     if (keepSelection_ && (event->pos() - pressedAt_).manhattanLength() < QApplication::startDragDistance())
         return;
     QLineEdit::mouseMoveEvent(event);
-}
-
-void SelectingEdit::mouseReleaseEvent(QMouseEvent* event) {
-    keepSelection_ = false;
-    QLineEdit::mouseReleaseEvent(event);
 }
 
 }  // namespace sorvane::forms

@@ -15,9 +15,9 @@ class SelectingEdit : public QLineEdit {
   protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    bool toKeep_ = false;         // all was selected by a press that is still to be delivered
     bool keepSelection_ = false;  // the press in hand selected all: small moves of the mouse don't undo it
     QPoint pressedAt_;
 };

@@ -112,6 +112,14 @@ const std::array<ShapePair, 6>& ShapePairs() {
     return pairs;
 }
 
+// Null for a code without tables.
+const ShapePair* FindPair(int ShapeCode) {
+    const auto& pairs = ShapePairs();
+    const auto* const at = std::find_if(pairs.begin(), pairs.end(),
+                                        [&](const ShapePair& pair) { return pair.code == ShapeCode; });
+    return at == pairs.end() ? nullptr : at;
+}
+
 constexpr int FourDigits = 4;
 
 }  // namespace
@@ -194,39 +202,32 @@ void Creator::operator()(Session& session, const StoreTable& table, const std::s
     Make(session, table.DbName, {*this, table.TableName}, nullptr, {PrimaryField, SecondField});
 }
 
-CreatorPair CreatorsOf(int ShapeCode) {
-    const auto& pairs = ShapePairs();
-    return std::find_if(pairs.begin(), pairs.end(),
-                        [&](const ShapePair& pair) { return pair.code == ShapeCode; })
-        ->make;
-}
+CreatorPair CreatorsOf(int ShapeCode) { return FindPair(ShapeCode)->make; }
 
 void CreateTableByShape(Session& session, const std::string& DbName, std::string& TableName,
                         Integer& ShapeCode, const std::string& PrimaryField, const std::string& SecondField,
                         const std::string& WinOtherwise) {
     const IndexFields index{PrimaryField, SecondField};
-    for (const ShapePair& pair : ShapePairs()) {
-        if (pair.code != ShapeCode) continue;
-        const auto winName = pair.WinName(session.global);
-        const NewTable win{*pair.make.win, winName.value_or(WinOtherwise)};
-        const auto createPair = [&] {
-            Make(session, DbName, {*pair.make.played, TableName}, win.name.empty() ? nullptr : &win, index);
-        };
-        if (pair.code == FourDigits) {
-            if (const auto name = Pick4Played(session.global)) TableName = *name;
-            MakeSureOf(session, {DbName, TableName}, [&] {
-                ShapeCode = FourDigits;
-                createPair();
-            });
-        } else {
-            createPair();
-        }
-        if (winName) TableName = *winName;
+    const ShapePair* const pair = FindPair(ShapeCode);
+    if (!pair) return;
+    const auto winName = pair->WinName(session.global);
+    const NewTable win{*pair->make.win, winName.value_or(WinOtherwise)};
+    const auto createPair = [&] {
+        Make(session, DbName, {*pair->make.played, TableName}, win.name.empty() ? nullptr : &win, index);
+    };
+    if (pair->code == FourDigits) {
+        if (const auto name = Pick4Played(session.global)) TableName = *name;
         MakeSureOf(session, {DbName, TableName}, [&] {
-            (*pair.make.win)(session, {DbName, TableName}, PrimaryField, SecondField);
+            ShapeCode = FourDigits;
+            createPair();
         });
-        return;
+    } else {
+        createPair();
     }
+    if (winName) TableName = *winName;
+    MakeSureOf(session, {DbName, TableName}, [&] {
+        (*pair->make.win)(session, {DbName, TableName}, PrimaryField, SecondField);
+    });
 }
 
 }  // namespace sorvane

@@ -589,9 +589,19 @@ TEST(Menu, FailingEntryShowsTheError) {
     entry.trigger();
 }
 
+// A drawing of 40 by 20, or of another size, in one colour.
+std::string Drawing(const TempFolder& folder, const std::string& colour, int width = 40, int height = 20) {
+    const std::string path = folder.File(colour + ".svg");
+    const std::string size = "width='" + std::to_string(width) + "' height='" + std::to_string(height) + "'";
+    std::ofstream(path) << "<svg xmlns='http://www.w3.org/2000/svg' " << size << "><rect " << size
+                        << " fill='" << colour << "'/></svg>";
+    return path;
+}
+
 TEST(Picture, ShowsADrawingAndNothingWhereThereIsNone) {
-    Picture picture("Picture1", R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20">
-        <rect width="40" height="20" fill="#ff0000"/></svg>)");
+    const TempFolder folder;
+    Picture picture("Picture1");
+    picture.SetFile(Drawing(folder, "red"));
     EXPECT_EQ(QSize(40, 20), picture.sizeHint());
     picture.resize(80, 40);
     EXPECT_EQ(QColor(Qt::red), picture.grab().toImage().pixelColor(40, 20));
@@ -601,13 +611,38 @@ TEST(Picture, ShowsADrawingAndNothingWhereThereIsNone) {
     EXPECT_TRUE(empty.Visible());
 }
 
+TEST(Picture, AnotherDrawingIsShownAtOnceInASizeOfItsOwn) {
+    const TempFolder folder;
+    QWidget window;
+    auto* layout = new QHBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    Picture picture("Picture1");
+    picture.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    layout->addWidget(&picture);
+    picture.SetFile(Drawing(folder, "red"));
+    window.show();
+    Person::Settle();
+    EXPECT_EQ(picture.size(), QSize(40, 20));
+    picture.SetFile(Drawing(folder, "blue", 60, 30));
+    Person::Settle();
+    EXPECT_EQ(picture.size(), QSize(60, 30));
+    struct Paints : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    picture.installEventFilter(&paints);
+    picture.SetFile(Drawing(folder, "lime", 60, 30));
+    Person::Settle();
+    EXPECT_EQ(paints.count, 1);
+}
+
 TEST(Picture, WaitsForTheFirstFrameWithItsPlaceKept) {
     const TempFolder folder;
-    const std::string path = folder.File("red.svg");
-    std::ofstream(path) << R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20">
-        <rect width="40" height="20" fill="#ff0000"/></svg>)";
     Picture picture("Picture1");
-    picture.SetFileLater(path, QSize(40, 20));
+    picture.SetFileLater(Drawing(folder, "red"), QSize(40, 20));
     EXPECT_EQ(QSize(40, 20), picture.sizeHint());
     EXPECT_EQ(40, picture.heightForWidth(80));
     picture.resize(80, 40);

@@ -75,6 +75,16 @@ TEST(Look, SizesFollowTheFont) {
     EXPECT_GT(Look::DigitsWidth(widget, 6), Look::DigitsWidth(widget, 2));
 }
 
+// It stands in a file of a kind that a plugin reads: loading that takes time at the start and is never needed
+// where the menu fits.
+TEST(Look, TheMarkOfAMenuThatDoesNotFitIsMadeWhenItIsPainted) {
+    const QStyle& style = *QApplication::style();
+    const QIcon later = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
+    EXPECT_TRUE(later.availableSizes().isEmpty());
+    EXPECT_FALSE(later.pixmap(16).isNull());
+    EXPECT_FALSE(style.standardIcon(QStyle::SP_MessageBoxWarning).availableSizes().isEmpty());
+}
+
 TEST(NumberBall, CanBeHitAnywhere) {
     LoggingWindow window;
     NumberBall ball("chkNumb(0)", "1");

@@ -281,6 +281,13 @@ TEST_F(Import, RowsThatAreThereAlreadyAreSkippedAndCounted) {
     EXPECT_EQ(Do({"import", Path("in")}).words, "PlayedBC49: 0 rows added, 4 there already\n");
 }
 
+TEST_F(Import, AnOnlyRowThatIsThereAlreadyIsSkippedToo) {
+    Make("PlayedBC49");
+    Write("in/PlayedBC49.csv", "Date,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_6\n2026-11-21,1,2,3,4,5,6\n");
+    EXPECT_EQ(Do({"import", Path("in")}).words, "PlayedBC49: 1 row added\n");
+    EXPECT_EQ(Do({"import", Path("in")}).words, "PlayedBC49: 0 rows added, 1 there already\n");
+}
+
 TEST_F(Import, NewKeysMergeTheRecordsOfAnotherFile) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 VALUES (1, 46000, 1,2,3,4,5,6,7)");

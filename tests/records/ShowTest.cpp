@@ -57,5 +57,18 @@ TEST_F(Show, RowsOfGamesThatNobodyKnowsAreLeftOut) {
     EXPECT_EQ(LinesOf(Do({"show"}).data).size(), 2U);
 }
 
+// Somebody else's tables of the same names.
+TEST_F(Show, TablesWithoutTheFieldsThatAreReadAreLeftOut) {
+    Make("WinBC49");
+    Sql(R"(INSERT INTO WinBC49 VALUES (1, 46340, 1,2,3,4,5,6,7);
+           CREATE TABLE PlayedBC49 (Day, Ball_1); INSERT INTO PlayedBC49 VALUES (46347, 1);
+           CREATE TABLE Spent (Date, Spent); INSERT INTO Spent VALUES (46347, 3);
+           CREATE TABLE Winnings (Date, Lottoflag); INSERT INTO Winnings VALUES (46347, 'BC49');)");
+    EXPECT_EQ(Do({"show"}).data,
+              "Game  Tickets  Draws       First        Last  Spent   Won  Difference\n"
+              "BC49        0      1  2026-11-14  2026-11-14   0.00  0.00        0.00\n"
+              "All                                            0.00  0.00        0.00\n");
+}
+
 }  // namespace
 }  // namespace sorvane::testing

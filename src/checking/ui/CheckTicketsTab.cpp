@@ -141,7 +141,7 @@ QLayout* CheckTicketsTab::WinnerRow() {
     lblDrawDate.SetBuddy(window_.dtpEnterTickets(2));
     date->addWidget(&lblDrawDate);
     date->addWidget(&window_.dtpEnterTickets(2));
-    date->addStretch(1);
+    date->addStretch();
 
     auto* numbers = new QGridLayout;
     numbers->setSpacing(space);
@@ -164,7 +164,7 @@ QLayout* CheckTicketsTab::WinnerRow() {
         box.setFixedWidth(width);
         four->addWidget(&box);
     });
-    four->addStretch(1);
+    four->addStretch();
     auto* encore = new QHBoxLayout;
     if (lblWinEarlybird) encore->addWidget(&*lblWinEncore);
     if (txtWinEncore) {
@@ -172,7 +172,7 @@ QLayout* CheckTicketsTab::WinnerRow() {
         encore->addWidget(&*txtWinEncore);
         lblWinEncore->SetBuddy(*txtWinEncore);
     }
-    encore->addStretch(1);
+    encore->addStretch();
     auto* addOn = forms::Look::Row(page);
     addOn->setSpacing(space);
     addOn->addLayout(four);
@@ -224,7 +224,7 @@ QLayout* CheckTicketsTab::WinningsRow() {
     winnings->addWidget(&txtDollarsWon);
     winnings->addWidget(&cmdEnterWinnings);
     winnings->addSpacing(forms::Look::Gap(page));
-    winnings->addStretch(1);
+    winnings->addStretch();
     winnings->addLayout(advice);
 
     auto* row = forms::Look::Row(page);

@@ -35,7 +35,7 @@ void CountDialog::LayOut() {
     question->addWidget(&field_);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(forms::Look::Space(*this));
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdOk);
     buttons->addWidget(&cmdCancel);
     auto* whole = new QVBoxLayout(this);
@@ -43,7 +43,7 @@ void CountDialog::LayOut() {
     whole->setContentsMargins(margin, margin, margin, margin);
     whole->setSpacing(gap);
     whole->addLayout(question);
-    whole->addStretch(1);
+    whole->addStretch();
     whole->addLayout(buttons);
 }
 

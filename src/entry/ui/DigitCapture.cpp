@@ -62,7 +62,7 @@ void DigitCapture::LayOutSlip() {
     auto* digits = new QHBoxLayout;
     const bool narrow = forms::Look::IsNarrow(slip_);
     digits->setSpacing(narrow ? gap : 2 * gap);
-    digits->addStretch(1);
+    digits->addStretch();
     cboNumber.ForEach([&](forms::ComboBox& list, int i) {
         if (!narrow) forms::Look::Enlarge(list, DigitScale);
         auto* place = new QVBoxLayout;
@@ -71,7 +71,7 @@ void DigitCapture::LayOutSlip() {
         place->addWidget(&list);
         digits->addLayout(place);
     });
-    digits->addStretch(1);
+    digits->addStretch();
     auto* whole = new QVBoxLayout(&slip_);
     whole->addStretch(1);
     whole->addLayout(digits);
@@ -87,7 +87,7 @@ void DigitCapture::LayOutHeader() {
         wagers->addWidget(wager);
     for (QHBoxLayout* row : {ways, wagers}) {
         row->setSpacing(2 * gap);
-        row->addStretch(1);
+        row->addStretch();
     }
     auto* whole = new QVBoxLayout(&header_);
     whole->setContentsMargins(0, 0, 0, 0);

@@ -93,7 +93,7 @@ QLayout* QuickPickTab::HeadRow() {
         cboNoOfQPs->setMinimumWidth(forms::Look::DigitsWidth(page, CountDigits));
         head->addLayout(Above(*lblNumOfBalls, *cboNoOfQPs));
     }
-    head->addStretch(1);
+    head->addStretch();
     return head;
 }
 
@@ -104,7 +104,7 @@ QLayout* QuickPickTab::ButtonColumn() {
     buttons->addWidget(&cmdGenerate);
     buttons->addSpacing(forms::Look::Gap(page));
     for (QWidget* button : {&cmdPrint, &cmdUse, &cmdHelp}) buttons->addWidget(button);
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&window_.cmdExit(1));
     return buttons;
 }

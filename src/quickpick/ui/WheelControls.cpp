@@ -68,7 +68,7 @@ void WheelControls::LayOut() {
     const int gap = forms::Look::Gap(fraWheel), space = forms::Look::Space(fraWheel);
     auto* options = new QHBoxLayout;
     optWheelType.ForEach([&](forms::OptionButton& option, int) { options->addWidget(&option); });
-    options->addStretch(1);
+    options->addStretch();
 
     lblHowMany.SetBuddy(txtHowMany);
     txtHowMany.setFixedWidth(forms::Look::DigitsWidth(fraWheel, 3));
@@ -76,7 +76,7 @@ void WheelControls::LayOut() {
     howMany->setSpacing(space);
     howMany->addWidget(&lblHowMany);
     howMany->addWidget(&txtHowMany);
-    howMany->addStretch(1);
+    howMany->addStretch();
 
     auto* favourites = new QGridLayout;
     favourites->setSpacing(space);
@@ -92,7 +92,7 @@ void WheelControls::LayOut() {
     whole->addLayout(howMany);
     whole->addWidget(&txtEnterFavs);
     whole->addLayout(favourites);
-    whole->addStretch(1);
+    whole->addStretch();
 }
 
 void WheelControls::AddToTabOrder(std::vector<QWidget*>& order) {

@@ -46,7 +46,7 @@ void frmAbout::LayOut() {
     head->addWidget(&lblDescription, 2, 1);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(space);
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdSysInfo);
     buttons->addWidget(&cmdOK);
     auto* whole = new QVBoxLayout(this);
@@ -56,7 +56,7 @@ void frmAbout::LayOut() {
     whole->addSpacing(gap);
     whole->addWidget(&Line1);
     whole->addWidget(&lblDisclaimer);
-    whole->addStretch(1);
+    whole->addStretch();
     whole->addSpacing(gap);
     whole->addLayout(buttons);
 }

@@ -42,7 +42,7 @@ void frmMain::LayOut() {
     forms::Look::Enlarge(Label1, 1.2);
     Picture1.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdExit);
     auto* whole = new QVBoxLayout(this);
     whole->setMenuBar(&menu_);

@@ -27,7 +27,7 @@ QHBoxLayout* Beside(int space, std::initializer_list<QWidget*> widgets) {
     auto* row = new QHBoxLayout;
     row->setSpacing(space);
     for (QWidget* widget : widgets) row->addWidget(widget);
-    row->addStretch(1);
+    row->addStretch();
     return row;
 }
 
@@ -189,7 +189,7 @@ QLayout* frmRequestNewLottery::MoneyGrid() {
 QLayout* frmRequestNewLottery::ButtonsRow() {
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(&cmdClear);
-    buttons->addStretch(1);
+    buttons->addStretch();
     buttons->addWidget(&cmdPrint);
     buttons->addWidget(&cmdExit);
     return buttons;

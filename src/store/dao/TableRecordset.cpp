@@ -125,7 +125,6 @@ void TableRecordset::NeedRow() {
 int TableRecordset::RecordCount() {
     const std::int64_t version = Database().DataVersion();
     if (!count_ || version != countVersion_ || Database().Writes() != countWrites_) {
-        count_.reset();
         count_ = Database().CountOf(table_);
         countVersion_ = version;
         countWrites_ = Database().Writes();
