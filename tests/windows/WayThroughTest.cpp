@@ -1,5 +1,6 @@
 // From the open window to "Tickets Saved", by keys alone and by mouse alone: no step more than the numbers,
 // the count and the buttons need.
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
 
@@ -284,6 +285,7 @@ TEST_F(SlipPress, BehindAQuestionMarksNothing) {
     ExpectSheets("1");
     Click("chkNumb(6)");
     EXPECT_TRUE(Ticked().empty());
+    EXPECT_FALSE(person.Find<QAbstractButton>("chkNumb(6)").isDown());
     EXPECT_EQ(Focus(), "chkNumb(0)");
     EXPECT_EQ(global.NoOfSheets, 1);
     Click("chkNumb(6)");
