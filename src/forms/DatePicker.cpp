@@ -17,12 +17,18 @@ namespace {
 
 const QDate DayZero(1899, 12, 30);
 
-// Stands off the window under it by an outline; its weekends can be read.
+// Stands off the window under it by an outline; its weekends can be read, and its last week is whole, for
+// which Qt leaves too little room.
 class Calendar final : public QCalendarWidget {
   public:
     Calendar() {
         layout()->setContentsMargins(1, 1, 1, 1);
         ColourWeekend();
+    }
+    QSize sizeHint() const override { return minimumSizeHint(); }
+    QSize minimumSizeHint() const override {
+        constexpr int Rows = 7;  // the names of the days, and six weeks
+        return QCalendarWidget::minimumSizeHint() + QSize(2, 2 + Rows * fontMetrics().height() / 4);
     }
 
   protected:

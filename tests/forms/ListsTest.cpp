@@ -392,6 +392,9 @@ TEST_F(Dates, CalendarHasAnOutlineAndItsWeekendsCanBeRead) {
                                      shown.color(QPalette::Base)),
                       4.5)
                 << name;
+        const auto* weeks = calendar->findChild<QTableView*>();
+        const int last = weeks->model()->rowCount() - 1;
+        EXPECT_LE(weeks->rowViewportPosition(last) + weeks->rowHeight(last), weeks->viewport()->height());
         const QImage image = popup.grab().toImage();
         const int right = image.width() - 1, bottom = image.height() - 1;
         for (const QPoint at : {QPoint(0, bottom / 2), QPoint(right, bottom / 2), QPoint(right / 2, 0),
