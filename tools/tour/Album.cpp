@@ -88,7 +88,8 @@ void Paint(QPainter& painter, const Part& part) {
         painter.setFont(font);
         const QRect text = bar.adjusted(height / 3, 0, -height / 3, 0);
         painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter, part.window->windowTitle());
-        painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("\u00d7"));
+        if (part.window->windowFlags().testFlag(Qt::WindowCloseButtonHint))
+            painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, QStringLiteral("\u00d7"));
     }
     painter.drawPixmap(part.at.topLeft(), part.window->grab());
 }
