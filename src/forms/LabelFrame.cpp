@@ -20,6 +20,14 @@ void LabelFrame::SetCaption(std::string_view caption) { setTitle(ToQt(caption));
 
 QRect LabelFrame::Heading() const { return {0, 0, width(), Look::Heading(*this)}; }
 
+QFont LabelFrame::FontFor(const QString& hint, int room) const {
+    constexpr double Step = 0.25, Smallest = 1;  // points
+    QFont fitting = font();
+    while (QFontMetrics(fitting).horizontalAdvance(hint) > room && fitting.pointSizeF() > Smallest)
+        fitting.setPointSizeF(fitting.pointSizeF() - Step);
+    return fitting;
+}
+
 void LabelFrame::RefreshHint() {
     if (!hint_) return;
     Tell(ToQt(hint_()));
@@ -38,8 +46,9 @@ void LabelFrame::paintEvent(QPaintEvent* event) {
     QFont heavy = font();
     heavy.setBold(true);
     const int room = width() - QFontMetrics(heavy).horizontalAdvance(title()) - Look::Gap(*this);
-    if (fontMetrics().horizontalAdvance(hint) > room) return;
-    QPainter(this).drawText(Heading(), Qt::AlignRight | Qt::AlignVCenter, hint);
+    QPainter painter(this);
+    painter.setFont(FontFor(hint, room));
+    painter.drawText(Heading(), Qt::AlignRight | Qt::AlignVCenter, hint);
 }
 
 void LabelFrame::mousePressEvent(QMouseEvent* event) {

@@ -15,8 +15,8 @@ class LabelFrame : public QGroupBox, public Control {
 
     std::string Caption() const;
     void SetCaption(std::string_view caption);
-    // A text painted at the right of the caption where there is room, and told to screen readers; it is asked
-    // for at every painting.
+    // A text painted at the right of the caption, smaller where there is little room, and told to screen
+    // readers; it is asked for at every painting.
     void SetHint(std::function<std::string()> hint) { hint_ = std::move(hint); }
     // A press on the frame, or on what is shut in it, while `field` has the focus leaves that field as the
     // Tab key does. If this opens what was pressed, that takes the press, unless a box or window has come up.
@@ -30,6 +30,8 @@ class LabelFrame : public QGroupBox, public Control {
 
   private:
     QRect Heading() const;
+    // The font in which the hint goes into so many pixels, no larger than the frame's own.
+    QFont FontFor(const QString& hint, int room) const;
     void Tell(const QString& hint);
     std::function<std::string()> hint_;
     Control* left_ = nullptr;

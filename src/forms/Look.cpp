@@ -187,7 +187,7 @@ QPalette Legible(QPalette palette) {
     using P = QPalette;
     const std::vector<Texts> all = {
         {P::WindowText, {P::Window, P::Base}}, {P::Text, {P::Base, P::AlternateBase}},
-        {P::ButtonText, {P::Button}},          {P::PlaceholderText, {P::Base}},
+        {P::ButtonText, {P::Button}},          {P::PlaceholderText, {P::Base, P::Window}},
         {P::ToolTipText, {P::ToolTipBase}},    {P::Link, {P::Base, P::Window}},
         {P::LinkVisited, {P::Base, P::Window}}};
     for (const auto group : {P::Active, P::Inactive, P::Disabled}) {

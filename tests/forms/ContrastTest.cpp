@@ -94,11 +94,17 @@ Painted Measured(QWidget& widget) { return Measured(widget, widget.rect().adjust
 
 TEST_P(ContrastTest, OfThePalettesTextsOnTheirGrounds) {
     using P = QPalette;
-    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
-        {P::WindowText, P::Window},    {P::WindowText, P::Base},         {P::Text, P::Base},
-        {P::Text, P::AlternateBase},   {P::ButtonText, P::Button},       {P::HighlightedText, P::Highlight},
-        {P::PlaceholderText, P::Base}, {P::ToolTipText, P::ToolTipBase}, {P::Link, P::Base},
-        {P::LinkVisited, P::Base}};
+    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {{P::WindowText, P::Window},
+                                                           {P::WindowText, P::Base},
+                                                           {P::Text, P::Base},
+                                                           {P::Text, P::AlternateBase},
+                                                           {P::ButtonText, P::Button},
+                                                           {P::HighlightedText, P::Highlight},
+                                                           {P::PlaceholderText, P::Base},
+                                                           {P::PlaceholderText, P::Window},
+                                                           {P::ToolTipText, P::ToolTipBase},
+                                                           {P::Link, P::Base},
+                                                           {P::LinkVisited, P::Base}};
     for (const auto group : {P::Active, P::Inactive, P::Disabled})
         for (const auto& [ink, paper] : pairs)
             EXPECT_GE(Look::Contrast(Colour(group, ink), Colour(group, paper)), Text)

@@ -6,6 +6,7 @@
 #include "forms/Chart.h"
 #include "forms/LabelFrame.h"
 #include "forms/Look.h"
+#include "windows/EveryWindow.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -27,11 +28,20 @@ class FirstLook : public SlipWorld {
         std::string seen;
         for (const auto* label : Window().findChildren<QLabel*>())
             if (label->isVisible() && label->text().startsWith("Not played?"))
-                seen += label->text().toStdString();
+                seen += label->text().replace('\n', ' ').toStdString();
         return seen;
     }
+    // Whole, and right beside the field; the number of a box stands between.
     void ExpectAdvice(std::string_view field, const std::string& advice) {
         EXPECT_EQ(Advice(), advice);
+        const QWidget& advised = Find(field == "chkEncore" ? "txtEncore" : field);
+        for (const auto* label : Window().findChildren<QLabel*>()) {
+            if (!label->isVisible() || !label->text().startsWith("Not played?")) continue;
+            EXPECT_GE(label->width(), label->sizeHint().width()) << advice;
+            EXPECT_GE(label->height(), label->sizeHint().height()) << advice;
+            EXPECT_LE(label->x() - advised.geometry().right(), 2 * forms::Look::Gap(advised)) << advice;
+            EXPECT_LE(std::abs(label->geometry().center().y() - advised.geometry().center().y()), 2);
+        }
         EXPECT_EQ(Find(field).toolTip().toStdString(), advice);
         EXPECT_EQ(Find(field).accessibleDescription().toStdString(), advice);
     }
@@ -120,11 +130,27 @@ TEST_F(FirstLook, TheBoxOfAnAddOnSaysThatItHasToBeTickedOnce) {
     for (const char* menu : {"mnuCANWESTLotto649", "mnuCANQCSuper7"}) {
         global.AddOnTickets = {};
         Show(menu);
+        const QRect slip = Find("fraTicketNumber").geometry();
         ExpectAdvice("chkEncore", "Not played? Tick once and untick.");
         Click("chkEncore");
         ExpectAdvice("chkEncore", "");
+        EXPECT_EQ(Find("fraTicketNumber").geometry(), slip);
         Click("chkEncore");
         ExpectAdvice("chkEncore", "");
+    }
+}
+
+TEST_F(FirstLook, LargeLettersLeaveHintProgressAndAdviceWhole) {
+    const FontOf font(Large);
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANATLSuper7", "mnuCANONTLOTTARIO"}) {
+        global.AddOnTickets = {};
+        Show(menu);
+        EXPECT_EQ(Beside(), "Type how many tickets, then press Tab") << menu;
+        const bool counted = IsShown("txtNoOfExtra");
+        ExpectAdvice(counted ? "txtNoOfExtra" : "chkEncore",
+                     counted ? "Not played? Visit this field once." : "Not played? Tick once and untick.");
+        Count("1");
+        EXPECT_NE(Beside().find("tickets filled 0 of"), std::string::npos) << menu;
     }
 }
 
@@ -149,11 +175,12 @@ TEST_F(FirstLook, ButtonsThatDoNothingSaySo) {
     }
 }
 
-TEST_F(FirstLook, TheReportButtonSaysThatAKenoOfEightyHasNoReport) {
+TEST_F(FirstLook, TheNumberButtonsOfAKenoOfEightySayThatNothingComes) {
     Show(Family::frmKeno80, "PrairieKeno", "");
+    EXPECT_EQ(Find("cmdNumberFrequency").toolTip(), "There is no chart of the numbers of this game");
     EXPECT_EQ(Find("cmdReport").toolTip(), "This button does nothing");
     Show(Family::frmKeno70, "ONTKeno", "Encore");
-    EXPECT_EQ(Find("cmdReport").toolTip(), "");
+    for (const char* button : {"cmdNumberFrequency", "cmdReport"}) EXPECT_EQ(Find(button).toolTip(), "");
 }
 
 TEST_F(FirstLook, TheEmptyListsOfACheckSayWhatComesIntoThem) {

@@ -74,7 +74,8 @@ std::string TabOrderOf(QWidget& window) {
 std::string NameIn(const QWidget& widget) {
     if (const auto* control = dynamic_cast<const forms::Control*>(&widget)) return control->Name();
     const auto* label = qobject_cast<const QLabel*>(&widget);
-    return label && !label->text().isEmpty() ? "\"" + forms::ToUtf8(label->text()) + "\"" : std::string();
+    if (!label || label->text().isEmpty()) return {};
+    return "\"" + forms::ToUtf8(label->text().replace(u'\n', u' ')) + "\"";
 }
 
 void Note(QWidget& window, const std::string& view, Facts& facts) {

@@ -45,11 +45,22 @@ class Advice final : public QLabel {
         return QLabel::eventFilter(receiver, event);
     }
 
+    // Its lines become small enough for so many pixels, so that its row is no higher with it than without.
+    void FitInto(int height) {
+        constexpr double Step = 0.25, Smallest = 1;  // points
+        const int lines = static_cast<int>(text().count(u'\n')) + 1;
+        while (fontMetrics().lineSpacing() * lines > height && font().pointSizeF() > Smallest) {
+            QFont smaller = font();
+            smaller.setPointSizeF(smaller.pointSizeF() - Step);
+            setFont(smaller);
+        }
+    }
+
   private:
     void Follow() {
         const bool needed = isNeeded_();
         setVisible(needed && field_.isVisible());
-        field_.setToolTip(needed ? text() : QString());
+        field_.setToolTip(needed ? text().replace(u'\n', u' ') : QString());
         field_.setAccessibleDescription(field_.toolTip());
     }
     QWidget& field_;
@@ -57,7 +68,7 @@ class Advice final : public QLabel {
 };
 
 constexpr const char* CountAdvice = "Not played? Visit this field once.";
-constexpr const char* CheckAdvice = "Not played? Tick once and untick.";
+constexpr const char* CheckAdvice = "Not played?\nTick once and untick.";
 constexpr std::string_view ShutHint = "Type how many tickets, then press Tab";
 
 // Whether saving fails until the add-on's count was left, or its box ticked, once in the run.
@@ -136,25 +147,31 @@ void EnterTicketsTab::LayOut() {
 // Captions stand above their fields.
 QLayout* EnterTicketsTab::HeadRow() {
     QWidget& page = window_.Pages[Tab::Enter];
+    const int gap = forms::Look::Gap(page);
     auto* head = new QGridLayout;
-    head->setHorizontalSpacing(forms::Look::Gap(page) * 2);
+    head->setHorizontalSpacing(gap * 2);
     head->setVerticalSpacing(forms::Look::Space(page) / 2);
     int column = 0;
-    const auto add = [&](forms::Label& label, forms::Control& field) {
+    // What stands beside the last field may go on behind its caption.
+    const auto add = [&](forms::Label& label, forms::Control& field, Advice* beside = nullptr) {
         label.SetBuddy(field);
         head->addWidget(&label, 0, column);
-        head->addWidget(&field.Widget(), 1, column++, Qt::AlignLeft);
+        auto* row = new QHBoxLayout;
+        row->setSpacing(gap);
+        row->addWidget(&field.Widget());
+        if (beside) row->addWidget(beside, 100);
+        row->addStretch(1);
+        head->addLayout(row, 1, column++, 1, beside ? 2 : 1);
     };
-    const auto addCount = [&](forms::Label& label, forms::TextBox& field) {
-        field.setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
-        add(label, field);
-    };
+    forms::TextBox& count = window_.txtNoOfTickets(0);
+    count.setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
     add(lblDrawDate, window_.dtpEnterTickets(0));
-    addCount(lblNoTickets, window_.txtNoOfTickets(0));
+    add(lblNoTickets, count);
     if (AddOns.txtNoOfExtra) {
-        addCount(*AddOns.lblNoOfExtra, *AddOns.txtNoOfExtra);
+        forms::TextBox& extra = *AddOns.txtNoOfExtra;
+        extra.setFixedWidth(forms::Look::DigitsWidth(page, CountDigits));
         const auto needed = [&window = window_] { return NeedsVisit(window, true); };
-        head->addWidget(new Advice(*AddOns.txtNoOfExtra, CountAdvice, needed), 1, column);
+        add(*AddOns.lblNoOfExtra, extra, new Advice(extra, CountAdvice, needed));
     }
     head->setColumnStretch(column, 1);
     return head;
@@ -165,6 +182,7 @@ QLayout* EnterTicketsTab::HeadRow() {
 QLayout* EnterTicketsTab::MarksRow() {
     QWidget& page = window_.Pages[Tab::Enter];
     const int gap = forms::Look::Gap(page);
+    const int height = txtDollars.sizeHint().height();
     auto* ticket = new QHBoxLayout;
     ticket->addWidget(&chkRegular);
     capture_->AddMarks(*ticket);
@@ -182,11 +200,13 @@ QLayout* EnterTicketsTab::MarksRow() {
     });
     if (AddOns.chkEncore) {
         const auto needed = [&window = window_] { return NeedsVisit(window, false); };
-        addOn->addWidget(new Advice(*AddOns.chkEncore, CheckAdvice, needed), 100);
+        auto* advice = new Advice(*AddOns.chkEncore, CheckAdvice, needed);
+        advice->FitInto(height);
+        addOn->addWidget(advice, 100);
     }
     addOn->addStretch(1);
     addOn->addWidget(&lblInfo);
-    addOn->addStrut(txtDollars.sizeHint().height());
+    addOn->addStrut(height);
     auto* marks = forms::Look::Row(page);
     marks->setSpacing(gap);
     marks->addLayout(ticket);
