@@ -113,6 +113,23 @@ TEST_F(FirstLook, ACountOfQuickPicksIsNoneOfTheEntry) {
     EXPECT_EQ(Beside(), "Type how many tickets, then press Tab");
 }
 
+TEST_F(FirstLook, ProgressCountsTheFourNumbersOfAnExtraAsOne) {
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    Put("txtNoOfExtra", "2");
+    PickFrom(1, 6);
+    Click("cmdNext_Ticket");
+    PickFrom(7, 6);
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Beside(), "Add-on number 1 of 2");
+    for (const char* number : {"10", "20", "30", "40"}) {
+        person.Type(number);
+        person.Tab();
+    }
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Beside(), "Add-on number 2 of 2");
+}
+
 TEST_F(FirstLook, TheCountOfEncoresSaysThatItHasToBeVisitedOnce) {
     for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTKENO", "mnuCANONTPICK3"}) {
         global.AddOnTickets = {};

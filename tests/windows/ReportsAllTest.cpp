@@ -109,6 +109,18 @@ TEST_F(AllReportsTest, WithoutTicketsTheBoxComesAndTheReportHasHeadingsAndTotals
                            "\r\n                                   Total Spent :   $          0.00\r\n"));
 }
 
+TEST_F(AllReportsTest, AnEmptyChartTellsNoTicketsFromNoMoney) {
+    OpenAll();
+    ExpectNoTickets();
+    Click("cmdProfitLoss");
+    Person::Settle();
+    EXPECT_EQ(Money().accessibleDescription(), "No tickets yet");
+    AddMoney("Spent", "Lotto649", 1, "0");
+    Click("cmdProfitLoss");
+    Person::Settle();
+    EXPECT_EQ(Money().accessibleDescription(), "Nothing spent and nothing won");
+}
+
 TEST_F(AllReportsTest, TotalsOfAnEarlierReportStayWhereARunFindsNoRows) {
     AddMoney("Spent", "Lotto649", 1, "10");
     OpenAll();
