@@ -1,6 +1,7 @@
 // What a game window tells somebody who opens it for the first time, and what it does with more room.
 #include <QApplication>
 #include <QLabel>
+#include <QPaintEvent>
 #include <tuple>
 
 #include "forms/Chart.h"
@@ -44,6 +45,21 @@ class FirstLook : public SlipWorld {
         }
         EXPECT_EQ(Find(field).toolTip().toStdString(), advice);
         EXPECT_EQ(Find(field).accessibleDescription().toStdString(), advice);
+    }
+
+    // The title and what stands beside it do not touch.
+    void ExpectApartFromTitle() {
+        QWidget& frame = Find("fraTicketNumber");
+        QFont heavy = frame.font();
+        heavy.setBold(true);
+        const int title =
+            QFontMetrics(heavy).horizontalAdvance(QString::fromStdString(CaptionOf("fraTicketNumber")));
+        const int gap = forms::Look::Gap(frame);
+        QImage between =
+            frame.grab(QRect(title + gap / 4, 0, gap / 2, forms::Look::Heading(frame))).toImage();
+        QImage empty = between;
+        empty.fill(between.pixelColor(0, 0));
+        EXPECT_EQ(between, empty);
     }
 
   private:
@@ -113,6 +129,41 @@ TEST_F(FirstLook, ACountOfQuickPicksIsNoneOfTheEntry) {
     EXPECT_EQ(Beside(), "Type how many tickets, then press Tab");
 }
 
+// What a widget was asked to paint.
+class Repainted : public QObject {
+  public:
+    explicit Repainted(QWidget& widget) : widget_(widget) { widget.installEventFilter(this); }
+    const QRegion& Region() const { return region_; }
+
+  protected:
+    bool eventFilter(QObject* receiver, QEvent* event) override {
+        if (receiver == &widget_ && event->type() == QEvent::Paint)
+            region_ += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+  private:
+    QWidget& widget_;
+    QRegion region_;
+};
+
+TEST_F(FirstLook, EachMarkPaintsTheProgressAnew) {
+    for (const char* menu : {"mnuCANONTLotto649", "mnuCANONTSuper7", "mnuCANONTLOTTARIO"}) {
+        Show(menu);
+        OneSheet(1);
+        QWidget& frame = Find("fraTicketNumber");
+        for (const int number : {1, 2, 1}) {
+            Person::Settle();
+            const Repainted painted(frame);
+            Find(Ball(number)).setFocus();
+            Click(Ball(number));
+            Person::Settle();
+            EXPECT_TRUE(painted.Region().contains({frame.width() - 2, forms::Look::Heading(frame) / 2}))
+                << menu << number;
+        }
+    }
+}
+
 TEST_F(FirstLook, ProgressCountsTheFourNumbersOfAnExtraAsOne) {
     Show("mnuCANBCBC49");
     OneSheet(2);
@@ -163,11 +214,13 @@ TEST_F(FirstLook, LargeLettersLeaveHintProgressAndAdviceWhole) {
         global.AddOnTickets = {};
         Show(menu);
         EXPECT_EQ(Beside(), "Type how many tickets, then press Tab") << menu;
+        ExpectApartFromTitle();
         const bool counted = IsShown("txtNoOfExtra");
         ExpectAdvice(counted ? "txtNoOfExtra" : "chkEncore",
                      counted ? "Not played? Visit this field once." : "Not played? Tick once and untick.");
         Count("1");
         EXPECT_NE(Beside().find("tickets filled 0 of"), std::string::npos) << menu;
+        ExpectApartFromTitle();
     }
 }
 
