@@ -12,6 +12,7 @@
 #include <QGridLayout>
 #include <QHelpEvent>
 #include <QLegendMarker>
+#include <QStyle>
 #include <QTest>
 #include <QToolTip>
 #include <QValueAxis>
