@@ -89,14 +89,17 @@ TEST(RecordingPrinterTest, KeepsLinesWithTheirSizeAndEdge) {
     EXPECT_EQ(printer.documents[1][0].leftEdge, 0) << "the edge is that of one document";
 }
 
-TEST(RecordingPrinterTest, FailsAtTheCallItWasToldTo) {
+TEST(RecordingPrinterTest, FailsAtTheCallItWasToldToAndEndsTheDocument) {
     RecordingPrinter printer;
     printer.FailAt(RecordingPrinter::Verb::Print, 2, ErrorNumber::PrinterError);
     printer.Print("first");
     EXPECT_EQ(ErrorOf([&] { printer.Print("second"); }), 482);
     printer.Print("third");
-    EXPECT_EQ(RecordingPrinter::Texts(printer.pending), (std::vector<std::string>{"first", "third"}));
     EXPECT_EQ(printer.calls.size(), 3U);
+    // The error has ended the first document.
+    ASSERT_EQ(printer.documents.size(), 1U);
+    EXPECT_EQ(RecordingPrinter::Texts(printer.documents[0]), std::vector<std::string>{"first"});
+    EXPECT_EQ(RecordingPrinter::Texts(printer.pending), std::vector<std::string>{"third"});
 }
 
 TEST(RecordingToolsTest, FindsWhatItWasGivenAndRemembersStarts) {
