@@ -89,8 +89,7 @@ std::optional<Date> ReadPieces(const std::vector<Piece>& pieces, DateOrder order
     const Piece &a = pieces[0], &b = pieces[1], &c = pieces[2];
     if (const int month = MonthOf(a.text)) return Made(c, month, b);
     if (const int month = MonthOf(b.text)) return a.Year() ? Made(a, month, c) : Made(c, month, a);
-    const bool figures = a.Figures() && b.Small() && c.Figures();
-    if (!figures) return std::nullopt;
+    if (!b.Small()) return std::nullopt;
     if (a.Year()) return Made(a, b.Number(), c);
     if (!a.Small()) return std::nullopt;
     return order == DateOrder::DayFirst ? Made(c, b.Number(), a) : Made(c, a.Number(), b);

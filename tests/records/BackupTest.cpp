@@ -144,6 +144,14 @@ TEST_F(Restore, WorksWhereThereIsNoFileAndWhereItIsDamaged) {
     EXPECT_EQ(BytesOf(Path("data/sorvane-before-restore-2026-11-21-201500.mdb")), damaged);
 }
 
+TEST_F(Restore, TakesAFileOfWhichThereIsOnlyANote) {
+    Do({"backup", Path("b.mdb")});
+    PlainFile(Path("b.mdb")).Do("UPDATE WinBC49 SET Ball_2 = Ball_1");
+    const Answer answer = Do({"restore", Path("b.mdb")});
+    EXPECT_FALSE(Tells(answer.words, "twice")) << answer.words;
+    EXPECT_EQ(Ask("SELECT Ball_1 = Ball_2 FROM WinBC49"), Texts{"1"});
+}
+
 TEST_F(Restore, RefusesWhatCheckWouldNotAccept) {
     Do({"backup", Path("b.mdb")});
     const std::string before = BytesOf(File());
@@ -216,6 +224,16 @@ TEST_F(Renumber, LeavesAFileInOrderAloneAndMakesNoBackup) {
     EXPECT_TRUE(Tells(Do({"renumber"}).words, "every key is in its place"));
     EXPECT_EQ(BytesOf(File()), before);
     EXPECT_FALSE(fs::exists(Path("data/backups")));
+}
+
+TEST_F(Renumber, LeavesTablesAloneThatHaveNoKeysOfTheProgram) {
+    Make("Temp");
+    Sql(R"(INSERT INTO Temp VALUES (4, 7, 3);
+           CREATE TABLE Notes (ID1 LONG); INSERT INTO Notes VALUES (5);
+           CREATE TABLE Spent (Date DATETIME, ID1 LONG); INSERT INTO Spent VALUES (46347, 6);)");
+    EXPECT_TRUE(Tells(Do({"renumber"}).words, "every key is in its place"));
+    EXPECT_EQ(Ask("SELECT ID1 FROM Temp UNION ALL SELECT ID1 FROM Notes UNION ALL SELECT ID1 FROM Spent"),
+              (Texts{"4", "5", "6"}));
 }
 
 TEST_F(Renumber, ChangesNothingWhenTheDiskFailsInTheMiddle) {

@@ -36,6 +36,35 @@ TEST_F(Check, FindsNumbersThatTheGameLacks) {
     EXPECT_EQ(Findings(0), Texts());
 }
 
+TEST_F(Check, KeysGoToTheLargestNumberOfTheirKind) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (2147483647, 46347, 1,2,3,4,5,6,7)");
+    EXPECT_FALSE(Tells(Findings(1).at(0), "is no key"));
+    Sql("UPDATE WinBC49 SET ID1 = 2147483648");
+    EXPECT_TRUE(Tells(Findings(1).at(0), "is no key"));
+}
+
+TEST_F(Check, TellsOnceOfAKeyThatIsNone) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (0, 46347, 1,2,3,4,5,6,7), (1, 46348, 1,2,3,4,5,6,7)");
+    const Texts findings = Findings(1);
+    EXPECT_EQ(std::count_if(findings.begin(), findings.end(),
+                            [](const std::string& told) { return Tells(told, "ID1"); }),
+              1)
+        << findings.at(0);
+}
+
+TEST_F(Check, ShowsFortyCharactersOfALongText) {
+    Make("PlayedONTPick3");
+    const std::string forty(40, 'x');
+    for (const std::string& way : {forty, forty + "y"}) {
+        Sql("INSERT INTO PlayedONTPick3 VALUES (1, 'ONTPick3', 46347, 1,2,3, '" + way + "', 0)");
+        const std::string shown = way == forty ? forty : forty + "...";
+        EXPECT_EQ(Findings(1).at(0), "PlayedONTPick3 ID1 1: Way Played \"" + shown + "\" is too long");
+        Sql("DELETE FROM PlayedONTPick3");
+    }
+}
+
 TEST_F(Check, FindsATicketWithANumberTwice) {
     Make("PlayedLottario");
     Sql("INSERT INTO PlayedLottario VALUES (1, 46347, 1,2,3,4,5,5, 0,1)");

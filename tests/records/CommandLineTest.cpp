@@ -1,3 +1,4 @@
+#include "records/Outside.h"
 #include "records/RecordsWorld.h"
 
 namespace sorvane::testing {
@@ -97,6 +98,34 @@ TEST_F(CommandLine, WhatTakesLongerThanASecondShowsABarToWhoeverLooks) {
         // Nothing of it stays.
         EXPECT_GT(shown.rfind("\r\x1b[K"), shown.rfind(bar)) << command.front();
     }
+}
+
+TEST(Bar, ComesBehindAWholeSecondAndShowsEachPartOfAHundredOnce) {
+    long now = 500;
+    std::ostringstream data, words;
+    Records::Outside outside{
+        data, words, true, [] { return Records::Moment(); }, [&] { return std::chrono::milliseconds(now); },
+        {}};
+    const auto told = [&](Records::Progress& progress, double done, double inAll) {
+        words.str("");
+        progress.Tell(done, inAll);
+        return words.str();
+    };
+    {
+        Records::Progress progress(outside, "Reading");
+        now = 1499;
+        EXPECT_EQ(told(progress, 1, 4), "");
+        now = 1500;
+        EXPECT_EQ(told(progress, 1, 0), "");  // of nothing
+        EXPECT_EQ(told(progress, 1, 4),
+                  "\r\x1b[KReading [" + std::string(7, '#') + std::string(23, '.') + "] 25 %");
+        EXPECT_EQ(told(progress, 1.03, 4), "");
+        EXPECT_EQ(told(progress, 4, 4), "\r\x1b[KReading [" + std::string(30, '#') + "] 100 %");
+        words.str("");
+        progress.Wipe();
+        EXPECT_EQ(words.str(), "\r\x1b[K");
+    }
+    EXPECT_EQ(words.str(), "\r\x1b[K");  // once
 }
 
 }  // namespace

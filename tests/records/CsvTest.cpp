@@ -170,8 +170,10 @@ TEST(Dates, ThatAreNoneAreRefused) {
          {"",           "soon",  "2026-13-01",    "2026-02-30",  "13/13/2020",  "2026-11",
           "11/21",      "1/2/3", "1/2/2020/4",    "2026--11-21", "-2026-11-21", "2026-11-21x",
           "202611211",  "46347", "2026-11-21 25", "0000-01-01",  "Nov 2026",    "Foo 21, 2026",
-          "11:21:2026", ":"})
+          "11:21:2026", ":",     "2026-3x-21",    "2026-003-21", "11/21/202x",  "3x/21/2026"})
         EXPECT_EQ(Day(text), "none") << text;
+    for (const char* text : {"21.3x.2026", "3x.11.2026", "21.11.202x"})
+        EXPECT_EQ(Day(text, DateOrder::DayFirst), "none") << text;
 }
 
 TEST(Marks, AreReadAsOtherToolsWriteThem) {

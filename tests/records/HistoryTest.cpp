@@ -61,6 +61,15 @@ TEST_F(Draws, TakeColumnsInAnyOrderByHeaderOrByNames) {
                                                    "3|46347|1|2|3|4|5|6|7", "4|46344|1|2|3|4|5|6|7"}));
 }
 
+TEST_F(Draws, RefuseAColumnThatIsToldTwice) {
+    const std::string file = Write("t.csv", "2026-11-21,1 2 3 4 5 6,2026-11-22\n");
+    EXPECT_EQ(LinesOf(Run({"draws", "BC49", file, "--columns", "date,numbers, date"}).words).at(0),
+              file + ":1:1: \"date\" says the same as a column before it");
+    const std::string header = Write("u.csv", "date,numbers,date\n");
+    EXPECT_EQ(LinesOf(Run({"draws", "BC49", header}).words).at(0),
+              header + ":1:14: \"date\" says the same as a column before it");
+}
+
 TEST_F(Draws, WithDigitsAndKenoFollowTheirTables) {
     Do({"draws", "Ontario/Pick 3", Write("p.csv", "date,numbers,encore\n2026-11-21,482,012345\n")});
     EXPECT_EQ(Ask("SELECT * FROM WinONTPick3"), Texts{"1|ONTPick3|46347|4|8|2"});
@@ -211,6 +220,13 @@ TEST_F(Tickets, KeepToWhatTheSlipOffers) {
         Findings({"tickets", "Ontario/Lotto 6/49",
                   Write("e.csv", "date,numbers,encore,regular\n2026-11-21,1 2 3 4 5 6,12345,often\n")}),
         (Texts{"e.csv:2:24: \"12345\" has not 6 digits", "e.csv:2:30: \"often\" is neither yes nor no"}));
+}
+
+TEST_F(Tickets, RefuseAmountsAndMarksThatAreNone) {
+    EXPECT_EQ(Findings({"tickets", "BC49",
+                        Write("t.csv", "date,numbers,price,regular\n2026-11-21,1 2 3 4 5 6,much,perhaps\n"),
+                        "--spent"}),
+              (Texts{"t.csv:2:24: \"much\" is no amount", "t.csv:2:29: \"perhaps\" is neither yes nor no"}));
 }
 
 TEST_F(Tickets, BookTheUsualPriceOfEachDate) {

@@ -195,6 +195,14 @@ TEST_F(Import, CountsOnWhereTheKeyIsMissing) {
     EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49 ORDER BY rowid"), (Texts{"1", "5", "6", "9", "10"}));
 }
 
+TEST_F(Import, CountsOnBehindTheLargestKeyOfTheScratchTableToo) {
+    Make("Temp");
+    Sql("INSERT INTO Temp VALUES (1, 7, 3), (9, 8, 3)");
+    Write("in/Temp.csv", "Ball_#,Ball_Freq\n10,4\n");
+    Do({"import", Path("in")});
+    EXPECT_EQ(Ask("SELECT ID1 FROM Temp ORDER BY rowid"), (Texts{"1", "9", "10"}));
+}
+
 TEST_F(Import, WithoutAKeyThatIsLeftIsRefusedUntilTheKeysAreCountedAnew) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 VALUES (2147483647, 46000, 1,2,3,4,5,6,7)");
@@ -321,6 +329,13 @@ TEST_F(Import, RefusesAFolderWithoutCsvAndATableThatIsNotTheProgramsOwn) {
     EXPECT_TRUE(Tells(Run({"import", Path("in")}).words, "WinBC49 is not as Sorvane makes it"));
 }
 
+TEST_F(Import, RefusesATableThatLacksAnIndex) {
+    Make("WinBC49");
+    Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
+    Sql("DROP INDEX [WinBC49.Date]");
+    EXPECT_TRUE(Tells(Run({"import", Path("in")}).words, "WinBC49 is not as Sorvane makes it"));
+}
+
 TEST_F(Import, IsAllOrNothingWhateverTheDiskDoes) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 VALUES (1, 46000, 1,2,3,4,5,6,7)");
@@ -372,6 +387,23 @@ TEST_F(Import, ShowsABarThatFindingsBreak) {
     const Answer answer = Run({"import", Path("in")});
     EXPECT_TRUE(Tells(answer.words, "Importing [")) << answer.words;
     EXPECT_TRUE(Tells(answer.words, "\r\x1b[K" + Path("in/WinBC49.csv:3:26:"))) << answer.words;
+}
+
+TEST_F(Import, TheBarGrowsToTheEndOfALargeFile) {
+    std::string rows;
+    for (int key = 1; key <= 6000; ++key) rows += std::to_string(key) + ",2026-11-21,1,2,3,4,5,6,7\n";
+    ASSERT_GT(rows.size(), 150'000U);
+    Csv(rows);
+    terminal = true;
+    tick = 1001;
+    const std::string words = Do({"import", Path("in")}).words;
+    int last = -1;
+    for (std::size_t at = words.find("] "); at != std::string::npos; at = words.find("] ", at + 1)) {
+        const int percent = std::stoi(words.substr(at + 2));
+        EXPECT_GT(percent, last);
+        last = percent;
+    }
+    EXPECT_GE(last, 99);
 }
 
 TEST_F(Import, TheBarIsWipedOnceForAllFindingsOfALine) {

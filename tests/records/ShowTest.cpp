@@ -57,6 +57,18 @@ TEST_F(Show, RowsOfGamesThatNobodyKnowsAreLeftOut) {
     EXPECT_EQ(LinesOf(Do({"show"}).data).size(), 2U);
 }
 
+TEST_F(Show, FieldsAreFoundByTheirNames) {
+    Make("WinBC49");
+    Sql(R"(CREATE TABLE Spent (Lottoflag TEXT, Date DATETIME, Spent CURRENCY, ID1 LONG);
+           INSERT INTO Spent VALUES ('BC49', 46347, 3, 1);
+           CREATE TABLE Winnings (Winnings CURRENCY, Lottoflag TEXT, Date DATETIME);
+           INSERT INTO Winnings VALUES (10, 'BC49', 46348);)");
+    EXPECT_EQ(Do({"show"}).data,
+              "Game  Tickets  Draws       First        Last  Spent    Won  Difference\n"
+              "BC49        0      0  2026-11-21  2026-11-22   3.00  10.00        7.00\n"
+              "All                                            3.00  10.00        7.00\n");
+}
+
 // Somebody else's tables of the same names.
 TEST_F(Show, TablesWithoutTheFieldsThatAreReadAreLeftOut) {
     Make("WinBC49");
