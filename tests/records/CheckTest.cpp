@@ -71,6 +71,12 @@ TEST_F(Check, FindsATicketWithANumberTwice) {
     EXPECT_EQ(Findings(1)[0], "PlayedLottario ID1 1: Ball_6 \"5\" stands there twice");
 }
 
+TEST_F(Check, LooksAtATicketAsAWholeOnceItsNumbersAreRight) {
+    Make("PlayedLottario");
+    Sql("INSERT INTO PlayedLottario VALUES (1, 46347, 1,2,3,4,46,46, 0,1)");
+    for (const std::string& told : Findings(1)) EXPECT_FALSE(Tells(told, "twice")) << told;
+}
+
 TEST_F(Check, TakesKenoTicketsWithFewerBallsAndFindsAGapAmongThem) {
     Make("PlayedONTKeno");
     Sql("INSERT INTO PlayedONTKeno VALUES (1, 46347, 'ONTKeno', 5,9,0,0,0,0,0,0,0,0, 2, 2, 0),"
