@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QTest>
 #include <QWheelEvent>
 #include <fstream>
 
@@ -621,6 +622,7 @@ TEST(Picture, AnotherDrawingIsShownAtOnceInASizeOfItsOwn) {
     layout->addWidget(&picture);
     picture.SetFile(Drawing(folder, "red"));
     window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     Person::Settle();
     EXPECT_EQ(picture.size(), QSize(40, 20));
     picture.SetFile(Drawing(folder, "blue", 60, 30));
@@ -635,8 +637,7 @@ TEST(Picture, AnotherDrawingIsShownAtOnceInASizeOfItsOwn) {
     } paints;
     picture.installEventFilter(&paints);
     picture.SetFile(Drawing(folder, "lime", 60, 30));
-    Person::Settle();
-    EXPECT_EQ(paints.count, 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
 }
 
 TEST(Picture, WaitsForTheFirstFrameWithItsPlaceKept) {

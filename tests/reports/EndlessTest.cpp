@@ -100,6 +100,7 @@ TEST(EndlessPaddingTest, FourteenCharactersFit) {
     EXPECT_EQ(PadAmount("100,000,000.00"), "100,000,000.00");
     EXPECT_EQ(PadAmount(""), std::string(14, ' '));
     EXPECT_EQ(PadAmountAtLeastOnce("(999,999.99)"), "  (999,999.99)");
+    EXPECT_EQ(PadAmountAtLeastOnce("(9999,999.99)"), " (9999,999.99)");
 }
 
 TEST(EndlessPaddingTest, FifteenCharactersNeverEnd) { EXPECT_NEVER_ENDS(PadAmount("-100,000,000.00")); }

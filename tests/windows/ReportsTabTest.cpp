@@ -3,6 +3,7 @@
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <chrono>
@@ -281,6 +282,18 @@ TEST(ReportBoxTest, ThePointerIsBusyWhileTheTextOfALongReportIsPutIn) {
     });
     EXPECT_TRUE(busy);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_P(EveryReportsTab, HeadingsAreBoldAndTheReportHasAName) {
+    OpenReports(GetParam());
+    EXPECT_EQ(Reports().txtReport.accessibleName(), "Report");
+    int headings = 0;
+    for (const auto* label : Window().Pages[Tab::Reports].findChildren<QLabel*>())
+        if (label->isVisible()) {
+            ++headings;
+            EXPECT_TRUE(label->font().bold()) << label->text().toStdString();
+        }
+    EXPECT_EQ(headings, 2);
 }
 
 TEST_P(EveryReportsTab, TabGoesFromChartsToReportsToExit) {
