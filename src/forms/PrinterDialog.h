@@ -30,8 +30,8 @@ class PrinterDialog final : public Printer {
     void ShowPrinter() override;
     // Begins the document if need be (on the default printer when ShowPrinter wasn't called). A line too wide
     // for the paper is never cut: it alone is set condensed, without regard to blanks at its end. Raises 484
-    // without a printer, 482 when it fails. An error ends the document: what was sent
-    // before it comes out.
+    // without a printer, 482 when it fails. An error ends the document: what was sent before it
+    // comes out.
     void Print(std::string_view text) override;
     // Without any Print before: an empty page. Raises like Print.
     void EndDoc() override;

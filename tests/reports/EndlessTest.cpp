@@ -160,6 +160,17 @@ TEST(EndlessPaddingTest, HoldsNoLockOnTheFileMeanwhile) {
     }
 }
 
+TEST(EndlessPaddingTest, HoldsNoLockBehindARowThatCannotBeReadEither) {
+    ReportWorld world("");
+    world.Winnings(
+        {{"BC49", "2026-01-01", "1"}, {"BC49", "2026-01-02", "-1000000000"}, {"BC49", "2026-01-03", "2"}});
+    world.Plain().Do("UPDATE Winnings SET Winnings = 'lost' WHERE ID1 = 3");
+    Apart apart([&] { SumWon(world.session, {world.DbName(), "Winnings"}, world.chart, ReportMode); });
+    ASSERT_TRUE(apart.ComesToRest());
+    world.Plain().Do("BEGIN EXCLUSIVE; DELETE FROM Winnings; COMMIT");
+    EXPECT_EQ(world.Plain().One("SELECT count(*) FROM Winnings"), "0");
+}
+
 }  // namespace
 }  // namespace sorvane
 #endif
