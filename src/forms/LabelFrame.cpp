@@ -1,6 +1,7 @@
 #include "forms/LabelFrame.h"
 
 #include <QCoreApplication>
+#include <QFontMetrics>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -19,14 +20,6 @@ std::string LabelFrame::Caption() const { return ToUtf8(title()); }
 void LabelFrame::SetCaption(std::string_view caption) { setTitle(ToQt(caption)); }
 
 QRect LabelFrame::Heading() const { return {0, 0, width(), Look::Heading(*this)}; }
-
-QFont LabelFrame::FontFor(const QString& hint, int room) const {
-    constexpr double Step = 0.25, Smallest = 1;  // points
-    QFont fitting = font();
-    while (QFontMetrics(fitting).horizontalAdvance(hint) > room && fitting.pointSizeF() > Smallest)
-        fitting.setPointSizeF(fitting.pointSizeF() - Step);
-    return fitting;
-}
 
 void LabelFrame::RefreshHint() {
     if (!hint_) return;
@@ -47,7 +40,8 @@ void LabelFrame::paintEvent(QPaintEvent* event) {
     heavy.setBold(true);
     const int room = width() - QFontMetrics(heavy).horizontalAdvance(title()) - Look::Gap(*this);
     QPainter painter(this);
-    painter.setFont(FontFor(hint, room));
+    painter.setFont(Look::Fitting(
+        font(), [&](const QFontMetrics& letters) { return letters.horizontalAdvance(hint) <= room; }));
     painter.drawText(Heading(), Qt::AlignRight | Qt::AlignVCenter, hint);
 }
 

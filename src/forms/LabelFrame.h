@@ -30,8 +30,6 @@ class LabelFrame : public QGroupBox, public Control {
 
   private:
     QRect Heading() const;
-    // The font in which the hint goes into so many pixels, no larger than the frame's own.
-    QFont FontFor(const QString& hint, int room) const;
     void Tell(const QString& hint);
     std::function<std::string()> hint_;
     Control* left_ = nullptr;

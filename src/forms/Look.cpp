@@ -112,6 +112,12 @@ void Enlarge(QWidget& widget, double times) {
     widget.setFont(font);
 }
 
+QFont Fitting(QFont font, const std::function<bool(const QFontMetrics&)>& fits) {
+    constexpr double Step = 0.25, Smallest = 1;  // points
+    while (!fits(QFontMetrics(font)) && font.pointSizeF() > Smallest) font.setPointSizeF(font.pointSizeF() - Step);
+    return font;
+}
+
 QFont FixedFont(int points) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setStyleHint(QFont::TypeWriter);

@@ -5,8 +5,10 @@
 #include <QFont>
 #include <QIcon>
 #include <QPalette>
+#include <functional>
 
 class QBoxLayout;
+class QFontMetrics;
 class QGridLayout;
 class QWidget;
 
@@ -31,6 +33,9 @@ int TitleWidth(const QWidget& window);
 
 // Sets the widget's font to so many times the size of the application's.
 void Enlarge(QWidget& widget, double times);
+
+// The font, made smaller in steps of a quarter of a point until it fits, but never below a point.
+QFont Fitting(QFont font, const std::function<bool(const QFontMetrics&)>& fits);
 
 // The system's fixed-pitch font at the size of the application's font, or at so many points.
 QFont FixedFont(int points = 0);

@@ -20,10 +20,6 @@ class Array {
     }
     // Sizes to 0..upper as Redim does; elements that stay keep their contents, new ones are zero or empty.
     void RedimPreserve(int upper) { Resize(Count(upper)); }
-    void Erase() {
-        items_.clear();
-        sized_ = false;
-    }
     bool Sized() const { return sized_; }
     int UBound() const {
         if (!sized_) Raise(ErrorNumber::SubscriptOutOfRange);

@@ -63,16 +63,6 @@ TEST(ArrayTest, RefusedUpperBoundChangesNothing) {
     EXPECT_EQ(numbers(1), 5);
 }
 
-TEST(ArrayTest, EraseMakesItUnsized) {
-    Array<int> numbers;
-    numbers.Redim(2);
-    numbers.Erase();
-    EXPECT_FALSE(numbers.Sized());
-    EXPECT_EQ(ErrorOf([&] { numbers.UBound(); }), 9);
-    numbers.RedimPreserve(0);
-    EXPECT_EQ(numbers(0), 0);
-}
-
 TEST(LineListTest, KeepsLinesInTheirOrderUntilCleared) {
     LineList list;
     list.AddItem("first");

@@ -169,7 +169,7 @@ TEST_F(AddOnWindow, LottarioTakesTenEncores) {
 TEST_F(AddOnWindow, LottarioRefusesElevenEncoresAndKeepsTheOldNumber) {
     Show("mnuCANONTLOTTARIO");
     Put("txtNoOfExtra", "4");
-    global.AddOnTickets.Erase();
+    global.AddOnTickets = {};
     Type("txtNoOfExtra", "11");
     ExpectTooManyEncore();
     person.Tab();

@@ -1,6 +1,7 @@
 #include "entry/ui/EnterTicketsTab.h"
 
 #include <QAbstractButton>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -47,13 +48,9 @@ class Advice final : public QLabel {
 
     // Its lines become small enough for so many pixels, so that its row is no higher with it than without.
     void FitInto(int height) {
-        constexpr double Step = 0.25, Smallest = 1;  // points
         const int lines = static_cast<int>(text().count(u'\n')) + 1;
-        while (fontMetrics().lineSpacing() * lines > height && font().pointSizeF() > Smallest) {
-            QFont smaller = font();
-            smaller.setPointSizeF(smaller.pointSizeF() - Step);
-            setFont(smaller);
-        }
+        setFont(forms::Look::Fitting(
+            font(), [=](const QFontMetrics& letters) { return letters.lineSpacing() * lines <= height; }));
     }
 
   private:
