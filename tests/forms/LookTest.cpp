@@ -4,18 +4,27 @@
 #include <QAbstractBarSeries>
 #include <QApplication>
 #include <QBarSet>
+#include <QBoxLayout>
 #include <QCategoryAxis>
 #include <QChart>
 #include <QChartView>
+#include <QGraphicsLayout>
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QGridLayout>
 #include <QHelpEvent>
 #include <QLegendMarker>
+#include <QPointer>
+#include <QScreen>
 #include <QStyle>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QToolTip>
 #include <QValueAxis>
+#include <cmath>
+#include <functional>
+#include <memory>
 #include <set>
 
 #include "Fixture.h"
@@ -471,6 +480,335 @@ TEST_F(Bars, ColumnsDifferInLightnessToo) {
             for (int other = 0; other < one; ++other)
                 EXPECT_GE(Look::Contrast(colour, Look::Series(palette, other)), 1.2) << name << one << other;
         }
+}
+
+// Where the axis of values begins and ends, in how many steps, and how it writes them.
+TEST_F(Bars, TheAxisOfValuesEndsAtARoundNumber) {
+    chart.SetRowCount(2);
+    Open(window);
+    std::string told = "\n";
+    const std::pair<double, double> cells[] = {
+        {0, 0},       {1, 0},      {8, 0},     {9, 1},        {16, 0},     {17, 0},  {40, 0},
+        {41, 3},      {80, 2},     {81, 2},    {161, 0},      {12'345, 0}, {0.5, 0}, {0.05, 0.1},
+        {0.011, 0},   {0.3, 7.25}, {-3, 4},    {-0.5, -8},    {-100, 30},  {-16, 0}, {-17, 0.25},
+        {-0.5, 0.25}, {-0.8, 0},   {-0.08, 0}, {-0.03, 0.01}, {-0.001, 0}};
+    for (const auto& [first, second] : cells) {
+        chart.SetRow(1);
+        chart.SetData(first);
+        chart.SetRow(2);
+        chart.SetData(second);
+        Person::Settle();
+        const auto& axis = *static_cast<QValueAxis*>(View()->chart()->axes(Qt::Vertical).at(0));
+        told += QString("%1 %2: %3 to %4, %5 lines, %6\n")
+                    .arg(first)
+                    .arg(second)
+                    .arg(axis.min())
+                    .arg(axis.max())
+                    .arg(axis.tickCount())
+                    .arg(axis.labelFormat())
+                    .toStdString();
+    }
+    EXPECT_EQ(told, R"(
+0 0: 0 to 1, 2 lines, %.0f
+1 0: 0 to 1, 2 lines, %.0f
+8 0: 0 to 8, 9 lines, %.0f
+9 1: 0 to 10, 6 lines, %.0f
+16 0: 0 to 16, 9 lines, %.0f
+17 0: 0 to 20, 5 lines, %.0f
+40 0: 0 to 40, 9 lines, %.0f
+41 3: 0 to 50, 6 lines, %.0f
+80 2: 0 to 80, 9 lines, %.0f
+81 2: 0 to 100, 6 lines, %.0f
+161 0: 0 to 200, 5 lines, %.0f
+12345 0: 0 to 14000, 8 lines, %.0f
+0.5 0: 0 to 1, 2 lines, %.0f
+0.05 0.1: 0 to 1, 2 lines, %.0f
+0.011 0: 0 to 1, 2 lines, %.0f
+0.3 7.25: 0 to 8, 9 lines, %.0f
+-3 4: -3 to 4, 8 lines, %.0f
+-0.5 -8: -8 to 0, 9 lines, %.0f
+-100 30: -100 to 40, 8 lines, %.0f
+-16 0: -16 to 0, 9 lines, %.0f
+-17 0.25: -20 to 5, 6 lines, %.0f
+-0.5 0.25: -0.5 to 0.3, 9 lines, %.2f
+-0.8 0: -1 to 0, 2 lines, %.0f
+-0.08 0: -0.1 to 0, 2 lines, %.2f
+-0.03 0.01: -0.03 to 0.01, 5 lines, %.2f
+-0.001 0: -0.01 to 0, 2 lines, %.2f
+)");
+}
+
+// One below the other: how many lines the labels of so many bars stand on, 1 where the axis writes them.
+TEST_F(Bars, LabelsStandOnMoreLinesTheMoreBarsThereAre) {
+    Open(window);
+    for (const auto& [rows, lines] : {std::pair{20, 1}, {21, 2}, {50, 2}, {51, 3}}) {
+        chart.SetRowCount(rows);
+        Person::Settle();
+        std::set<int> tops;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* text = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(item);
+                text && text->text() != "Numbers Drawn")
+                tops.insert(static_cast<int>(text->pos().y() * 10));
+        EXPECT_EQ(tops.size(), lines == 1 ? 0U : static_cast<std::size_t>(lines)) << rows;
+        EXPECT_EQ(Axis().labelsVisible(), lines == 1) << rows;
+        EXPECT_EQ(Axis().titleFont().pointSizeF(), chart.font().pointSizeF() * (lines == 1 ? 1 : lines + 1))
+            << rows;
+        const QColor ink = chart.palette().color(QPalette::Text);
+        EXPECT_EQ(Axis().titleBrush().color(), lines == 1 ? ink : QColor(Qt::transparent)) << rows;
+        EXPECT_EQ(Axis().min(), -0.5) << rows;
+        EXPECT_EQ(Axis().max(), rows - 0.5) << rows;
+    }
+}
+
+TEST_F(Bars, EachLabelStandsBelowItsBarAndTheCaptionBelowThemAll) {
+    constexpr int Rows = 51, Lines = 3;
+    chart.SetRowCount(Rows);
+    for (const int width : {1300, 300}) {
+        window.resize(width, 400);
+        Open(window);
+        const QRectF plot = View()->chart()->plotArea();
+        const QFontMetricsF metrics(chart.font());
+        const double step = plot.width() / Rows, room = step * Lines * 0.85;
+        const double share = std::min(1.0, room / metrics.horizontalAdvance("48"));
+        int labels = 0;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* text = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(item)) {
+                ++labels;
+                EXPECT_EQ(text->brush().color(), chart.palette().color(QPalette::Text));
+                const QPointF top = text->pos() + QPointF(text->boundingRect().width() / 2, 0);
+                const bool caption = text->text() == "Numbers Drawn";
+                const int row = text->text().toInt() - 1;
+                const double centre = caption ? plot.center().x() : plot.left() + step * (row + 0.5);
+                const double line = caption ? Lines + 0.4 : row % Lines + 0.2;
+                EXPECT_NEAR(top.x(), centre, 0.5) << qPrintable(text->text());
+                EXPECT_NEAR(top.y(), plot.bottom() + line * metrics.height(), 0.01)
+                    << qPrintable(text->text());
+                EXPECT_NEAR(text->font().pointSizeF(), chart.font().pointSizeF() * (caption ? 1 : share),
+                            0.01);
+            }
+        EXPECT_EQ(labels, Rows + 1);
+        EXPECT_EQ(share < 1, width == 300) << share;
+    }
+}
+
+TEST_F(Bars, LettersColoursAndEdgesOfTheDrawing) {
+    chart.SetRowCount(3);
+    chart.SetColumnCount(2);
+    chart.SetColumn(2);
+    chart.SetColumnLabel("Ball 2");
+    Open(window);
+    const QPalette palette = chart.palette();
+    const QColor ink = palette.color(QPalette::Text), paper = palette.color(QPalette::Base);
+    QChart& drawn = *View()->chart();
+    QFont heading = chart.font();
+    heading.setBold(true);
+    EXPECT_EQ(drawn.titleFont(), heading);
+    EXPECT_EQ(drawn.titleBrush().color(), ink);
+    EXPECT_EQ(drawn.backgroundBrush().color(), paper);
+    EXPECT_EQ(drawn.backgroundRoundness(), 0);
+    EXPECT_EQ(drawn.layout()->contentsRect(), drawn.layout()->geometry());
+    EXPECT_EQ(View()->backgroundBrush().color(), paper);
+    EXPECT_EQ(View()->geometry(), chart.rect());
+    EXPECT_EQ(View()->frameWidth(), 0);
+    EXPECT_EQ(View()->focusPolicy(), Qt::NoFocus);
+    EXPECT_TRUE(View()->renderHints() & QPainter::Antialiasing);
+    EXPECT_TRUE(drawn.legend()->isVisible());
+    EXPECT_EQ(drawn.legend()->font(), chart.font());
+    EXPECT_EQ(drawn.legend()->labelColor(), ink);
+    EXPECT_EQ(drawn.legend()->alignment(), Qt::AlignBottom);
+    QColor grid = ink;
+    grid.setAlphaF(0.25f);
+    ASSERT_EQ(drawn.axes().size(), 2);
+    for (QAbstractAxis* axis : drawn.axes()) {
+        EXPECT_EQ(axis->labelsColor(), ink);
+        EXPECT_EQ(axis->labelsFont(), chart.font());
+        EXPECT_EQ(axis->linePenColor(), ink);
+        EXPECT_EQ(axis->gridLineColor(), grid);
+        EXPECT_EQ(axis->titleFont(), chart.font());
+        EXPECT_EQ(axis->titleBrush().color(), ink);
+        EXPECT_EQ(axis->isGridLineVisible(), axis != &Axis());
+        EXPECT_TRUE(drawn.series().at(0)->attachedAxes().contains(axis));
+    }
+    EXPECT_EQ(Axis().alignment(), Qt::AlignBottom);
+    EXPECT_EQ(Axis().labelsPosition(), QCategoryAxis::AxisLabelsPositionOnValue);
+    EXPECT_EQ(drawn.axes(Qt::Vertical).at(0)->titleText(), "Times Drawn");
+    for (int column = 0; column < 2; ++column) {
+        EXPECT_EQ(Set(column).color(), Look::Series(palette, column).toRgb()) << column;
+        EXPECT_EQ(Set(column).borderColor(), Set(column).color()) << column;
+    }
+    const auto width = [&] {
+        return static_cast<QAbstractBarSeries*>(View()->chart()->series().at(0))->barWidth();
+    };
+    EXPECT_EQ(width(), 0.8);
+    chart.SetRowCount(1);
+    Person::Settle();
+    EXPECT_EQ(width(), 0.4);
+}
+
+TEST_F(Bars, WithoutAnyLabelThereIsNoLegend) {
+    chart.SetColumnLabel("");
+    Open(window);
+    EXPECT_FALSE(View()->chart()->legend()->isVisible());
+    chart.SetColumnLabel("Frequency");
+    Person::Settle();
+    EXPECT_TRUE(View()->chart()->legend()->isVisible());
+}
+
+// In the plot, from one side to the other and half way down.
+TEST_F(Bars, TheHintIsWrittenAcrossTheMiddleOfThePlot) {
+    chart.SetHint("Press a button");
+    Open(window);
+    for (const int width : {1300, 500}) {
+        window.resize(width, 400);
+        Person::Settle();
+        const QGraphicsTextItem* hint = nullptr;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item);
+                text && text->toPlainText() == "Press a button")
+                hint = text;
+        ASSERT_NE(hint, nullptr);
+        const QRectF plot = View()->chart()->plotArea();
+        EXPECT_EQ(hint->textWidth(), plot.width());
+        EXPECT_EQ(hint->pos().x(), plot.left());
+        EXPECT_NEAR(hint->pos().y() + hint->boundingRect().height() / 2, plot.center().y(), 0.01);
+        EXPECT_EQ(hint->font(), chart.font());
+        EXPECT_EQ(hint->defaultTextColor(), Look::Hint(chart.palette()));
+        const QTextOption option = hint->document()->defaultTextOption();
+        EXPECT_EQ(option.alignment(), Qt::AlignHCenter);
+        EXPECT_EQ(option.wrapMode(), QTextOption::WordWrap);
+    }
+}
+
+// Each of them is a drawing of its own once the handler is done, and a chart that comes back is not drawn
+// anew.
+TEST_F(Bars, WhateverIsSetIsDrawnAndNothingElse) {
+    Open(window);
+    const std::function<void()> changes[] = {[&] { chart.SetTitle("Profit"); },
+                                             [&] { chart.SetAxes("Bars", "Values"); },
+                                             [&] { chart.SetHint("Press"); },
+                                             [&] { chart.SetMoney(); },
+                                             [&] { chart.SetRowCount(2); },
+                                             [&] { chart.SetColumnCount(3); },
+                                             [&] {
+                                                 chart.SetRowLabels({"a", "b"});
+                                             },
+                                             [&] { chart.SetColumnLabel("Ball"); },
+                                             [&] { chart.SetData(7); },
+                                             [&] { chart.Clear(); },
+                                             [&] { chart.setFont(QFont("DejaVu Sans", 14)); }};
+    int number = 0;
+    for (const auto& change : changes) {
+        QPointer<QChart> before = View()->chart();
+        change();
+        EXPECT_NE(before, nullptr) << number;
+        Person::Settle();
+        EXPECT_EQ(before, nullptr) << number;
+        ++number;
+    }
+    const QChart* drawn = View()->chart();
+    EXPECT_EQ(drawn->title(), "Profit");
+    EXPECT_EQ(Axis().titleText(), "Bars");
+    EXPECT_EQ(Axis().categoriesLabels(), (QStringList{"a", "b"}));
+    EXPECT_EQ(drawn->titleFont().pointSize(), 14);
+    chart.SetVisible(false);
+    chart.SetVisible(true);
+    Person::Settle();
+    EXPECT_EQ(View()->chart(), drawn);
+    chart.SetVisible(false);
+    chart.SetTitle("Loss");
+    Person::Settle();
+    EXPECT_EQ(View()->chart(), drawn);
+    chart.SetVisible(true);
+    EXPECT_EQ(View()->chart()->title(), "Loss");
+    chart.SetTitle("Gain");
+    chart.SetVisible(false);
+    Person::Settle();
+    EXPECT_EQ(View()->chart()->title(), "Loss");
+}
+
+TEST(EmptyBars, AChartOfWhichNothingWasToldIsDrawnToo) {
+    LoggingWindow window;
+    Chart chart("mscNothing");
+    window.LayOut(chart);
+    Open(window);
+    ASSERT_NE(chart.findChild<QChartView*>(), nullptr);
+    EXPECT_EQ(chart.accessibleDescription(), ": 0");
+    const int height = chart.fontMetrics().height();
+    EXPECT_EQ(chart.sizeHint(), QSize(height * 24, height * 12));
+}
+
+TEST_F(Bars, LabelsOfRowsMayBeMoreOrFewerThanTheRows) {
+    chart.SetRowCount(3);
+    chart.SetRowLabels({"a", "b", "c", "d", "e"});
+    chart.SetRowLabels({"A"});
+    Open(window);
+    EXPECT_EQ((QStringList{"A", "b", "c"}), Axis().categoriesLabels());
+    chart.SetRowCount(4);
+    Person::Settle();
+    EXPECT_EQ((QStringList{"A", "b", "c", "4"}), Axis().categoriesLabels());
+}
+
+TEST_F(Bars, CountsMayShrinkToNothingButNotBelow) {
+    chart.SetColumnCount(2);
+    chart.SetColumn(2);
+    chart.SetColumnCount(1);
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.ColumnLabel(); }));
+    chart.SetColumnCount(0);
+    EXPECT_EQ(0, chart.ColumnCount());
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.SetColumnCount(-1); }));
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { chart.SetRowCount(-1); }));
+    EXPECT_EQ(1, chart.RowCount());
+}
+
+TEST_F(Bars, ABrokenNumberIsToldWithTwoDecimals) {
+    chart.SetData(2.5);
+    Open(window);
+    EXPECT_EQ("Frequency: 2.50", Told());
+    chart.SetData(-1234);
+    Person::Settle();
+    EXPECT_EQ("Frequency: -1,234", Told());
+}
+
+TEST(Look, SizesAreInProportionToTheFont) {
+    QWidget widget;
+    for (const int pixels : {9, 12, 16, 24, 40}) {
+        QFont font = widget.font();
+        font.setPixelSize(pixels);
+        widget.setFont(font);
+        widget.setWindowTitle("Lotto 6/49");
+        const int height = widget.fontMetrics().height();
+        const auto heights = [height](double times) { return static_cast<int>(std::lround(height * times)); };
+        const bool narrow = widget.screen()->availableSize().width() < 60 * height;
+        EXPECT_EQ(Look::IsNarrow(widget), narrow);
+        EXPECT_EQ(Look::Space(widget), heights(narrow ? 0.2 : 0.4));
+        EXPECT_EQ(Look::Gap(widget), heights(narrow ? 0.4 : 0.8));
+        EXPECT_EQ(Look::Margin(widget), heights(narrow ? 0.4 : 0.8));
+        EXPECT_EQ(Look::BallSize(widget), heights(2.4));
+        EXPECT_EQ(Look::SmallestBall(widget), heights(1.7));
+        EXPECT_EQ(Look::Heading(widget), heights(4.0 / 3));
+        EXPECT_EQ(Look::TitleBar(widget), 2 * height);
+        const QFontMetrics letters = widget.fontMetrics();
+        EXPECT_EQ(Look::DigitsWidth(widget, 3), 3 * letters.horizontalAdvance('0') + heights(1.2));
+        EXPECT_EQ(Look::TitleWidth(widget), letters.horizontalAdvance("Lotto 6/49") + 9 * height);
+        const std::unique_ptr<QBoxLayout> row(Look::Row(widget));
+        EXPECT_EQ(row->direction(), narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+}
+
+TEST(Look, FontsOfASizeThatIsAskedFor) {
+    const double size = QApplication::font().pointSizeF();
+    QWidget widget;
+    Look::Enlarge(widget, 1.5);
+    EXPECT_EQ(widget.font().pointSizeF(), 1.5 * size);
+    EXPECT_EQ(Look::FixedFont().pointSizeF(), size);
+    EXPECT_EQ(Look::FixedFont(1).pointSizeF(), 1);
+    EXPECT_TRUE(Look::FixedFont(7).fixedPitch());
+    EXPECT_EQ(Look::FixedFont(7).styleHint(), QFont::TypeWriter);
+    QFont font("DejaVu Sans", 10);
+    EXPECT_EQ(Look::Fitting(font, [](const QFontMetrics&) { return true; }).pointSizeF(), 10);
+    EXPECT_EQ(Look::Fitting(font, [](const QFontMetrics&) { return false; }).pointSizeF(), 1);
+    int asked = 0;
+    EXPECT_EQ(Look::Fitting(font, [&](const QFontMetrics&) { return ++asked == 4; }).pointSizeF(), 9.25);
 }
 
 }  // namespace
