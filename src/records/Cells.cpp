@@ -15,14 +15,11 @@ namespace {
 constexpr std::array<std::string_view, 12> Months = {"january",   "february", "march",    "april",
                                                      "may",       "june",     "july",     "august",
                                                      "september", "october",  "november", "december"};
-constexpr std::array<std::string_view, 7> Weekdays = {"monday", "tuesday",  "wednesday", "thursday",
-                                                      "friday", "saturday", "sunday"};
 constexpr std::size_t ShortName = 3;
 
 // Whether the word is the name or begins it with at least three letters.
 bool Names(std::string_view word, std::string_view name) {
-    return word.size() >= ShortName && word.size() <= name.size() &&
-           SameWord(word, name.substr(0, word.size()));
+    return word.size() >= ShortName && SameWord(word, name.substr(0, word.size()));
 }
 
 // 1 to 12, or 0.
@@ -32,9 +29,13 @@ int MonthOf(std::string_view word) {
     return 0;
 }
 
+bool OneOf(std::string_view word, std::initializer_list<std::string_view> words,
+           bool (*same)(std::string_view, std::string_view) = SameWord) {
+    return std::any_of(words.begin(), words.end(), [&](std::string_view one) { return same(word, one); });
+}
+
 bool IsWeekday(std::string_view word) {
-    return std::any_of(Weekdays.begin(), Weekdays.end(),
-                       [&](std::string_view day) { return Names(word, day); });
+    return OneOf(word, {"monday", "tuesday", "wednesday", "thursday", "friday", "saturday", "sunday"}, Names);
 }
 
 // A piece of a date: figures or letters.
@@ -95,13 +96,11 @@ std::optional<Date> ReadPieces(const std::vector<Piece>& pieces, DateOrder order
     return order == DateOrder::DayFirst ? Made(c, b.Number(), a) : Made(c, a.Number(), b);
 }
 
-// Hours and minutes with or without seconds, and AM, PM or Z behind them.
+// Hours and minutes with or without seconds, and AM, PM or Z behind them. There is a colon in the text.
 bool IsTime(std::string_view text) {
     const std::size_t end = text.find_first_not_of("0123456789:.");
-    const std::string_view figures = text.substr(0, end);
     const std::string_view behind = end == std::string_view::npos ? "" : TrimBlanks(text.substr(end));
-    return std::count(figures.begin(), figures.end(), ':') > 0 && IsDigit(figures.front()) &&
-           (behind.empty() || SameWord(behind, "am") || SameWord(behind, "pm") || SameWord(behind, "z"));
+    return IsDigit(text.front()) && OneOf(behind, {"", "am", "pm", "z"});
 }
 
 std::string_view WithoutTime(std::string_view text) {
@@ -123,10 +122,9 @@ bool IsShortForm(std::string_view text) {
 
 std::optional<Date> ReadDate(std::string_view text, DateOrder order) {
     constexpr std::size_t Compact = 8;
-    const auto number = [&](std::size_t at, std::size_t size) {
-        return Piece{text.substr(at, size)}.Number();
-    };
-    if (IsShortForm(text)) return Existing(number(0, 4), number(5, 2), number(8, 2));
+    // Each goes on to the sign behind it.
+    const auto number = [&](std::size_t at) { return Piece{text.substr(at)}.Number(); };
+    if (IsShortForm(text)) return Existing(number(0), number(5), number(8));
     text = WithoutTime(TrimBlanks(text));
     const Piece whole{text};
     if (text.size() == Compact && whole.Figures())
@@ -137,10 +135,8 @@ std::optional<Date> ReadDate(std::string_view text, DateOrder order) {
 }
 
 std::optional<bool> ReadMark(std::string_view text) {
-    for (const std::string_view word : {"true", "yes", "on", "y", "t", "x", "1", "-1"})
-        if (SameWord(text, word)) return true;
-    for (const std::string_view word : {"false", "no", "off", "n", "f", "0"})
-        if (SameWord(text, word)) return false;
+    if (OneOf(text, {"true", "yes", "on", "y", "t", "x", "1", "-1"})) return true;
+    if (OneOf(text, {"false", "no", "off", "n", "f", "0"})) return false;
     return std::nullopt;
 }
 

@@ -58,15 +58,8 @@ CsvReader::CsvReader(const fs::path& path) {
     const auto size = fs::file_size(path, none);
     size_ = none ? 0 : static_cast<double>(size);
     Fill();
-    RefuseOtherEncodings();
     if (std::string_view(buffer_).starts_with(Utf8Mark)) at_ = Utf8Mark.size();
     FindSeparator();
-}
-
-void CsvReader::RefuseOtherEncodings() {
-    const std::string_view start(buffer_);
-    // The first record that is read then says so.
-    if (start.starts_with("\xFF\xFE") || start.starts_with("\xFE\xFF")) buffer_.assign(1, '\0');
 }
 
 void CsvReader::FindSeparator() {
@@ -127,7 +120,6 @@ bool CsvReader::AtLineEnd() {
 void CsvReader::EndLine() {
     const int letter = Get();
     if (letter == '\r' && Peek() == '\n') Get();
-    if (letter == End) return;
     ++line_;
     column_ = 1;
 }
@@ -149,25 +141,18 @@ void CsvReader::ReadQuoted(CsvCell& cell) {
     };
     for (;;) {
         Take(cell, GetUpTo(isStop));
-        switch (Peek()) {
-            case End:
-                Break(cell, "the quote that opens here is not closed");
-            case '\0':
-                Break(cell, NoUtf8);
-            case '\n':
-            case '\r':
-                EndLine();
-                Take(cell, "\n");
-                break;
-            case '"':
-                Get();
-                if (Peek() != '"') return;
-                Get();
-                Take(cell, "\"");
-                break;
-            default:
-                break;  // the buffer ended
-        }
+        const int stop = Peek();
+        if (stop == End) Break(cell, "the quote that opens here is not closed");
+        if (stop == '\0') Break(cell, NoUtf8);
+        if (stop == '"') {
+            Get();
+            if (Peek() != '"') return;
+            Get();
+            Take(cell, "\"");
+        } else if (AtLineEnd()) {
+            EndLine();
+            Take(cell, "\n");
+        }  // else the buffer ended
     }
 }
 

@@ -56,7 +56,6 @@ class CsvReader {
     bool AtLineEnd();
     void EndLine();
     void FindSeparator();
-    void RefuseOtherEncodings();
     [[noreturn]] void Break(const CsvCell& cell, std::string what) const;
 
     std::ifstream file_;

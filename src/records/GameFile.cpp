@@ -37,11 +37,11 @@ bool OneOf(std::string_view word, std::initializer_list<std::string_view> words)
 // Runs of digits, parted by anything that is none.
 std::vector<std::string_view> FiguresIn(std::string_view text) {
     std::vector<std::string_view> figures;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t begin = text.find_first_of("0123456789", at);
-        if (begin == std::string_view::npos) break;
-        at = std::min(text.find_first_not_of("0123456789", begin), text.size());
-        figures.push_back(text.substr(begin, at - begin));
+    constexpr std::string_view Figures = "0123456789";
+    std::size_t end = 0;
+    for (std::size_t begin; (begin = text.find_first_of(Figures, end)) != std::string_view::npos;) {
+        end = std::min(text.find_first_not_of(Figures, begin), text.size());
+        figures.push_back(text.substr(begin, end - begin));
     }
     return figures;
 }
@@ -110,7 +110,6 @@ GameFile::GameFile(const ChosenGame& game, History history, const GameFileWish& 
         ReadHeader();
     } catch (const CsvReader::Broken& bad) {
         findings_.Tell(wish_.path, {bad.line, bad.column}, bad.what);
-        broken_ = true;
     }
 }
 
@@ -132,7 +131,7 @@ void GameFile::ReadHeader() {
         std::vector<CsvCell> names;
         std::istringstream all(wish_.columns);
         for (std::string name; std::getline(all, name, ',');)
-            names.push_back({std::string(TrimBlanks(name)), false, 1, 1});
+            names.push_back({.text = std::string(TrimBlanks(name)), .line = 1, .column = 1});
         TakeNames(names);
         leftAside_.clear();
         pending_ = reader_.Next(record_) && !IsHeader(record_);
@@ -166,9 +165,9 @@ std::optional<GameFile::Column> GameFile::AddOnColumn(const std::string& essence
     const std::string key = EssenceOf(game_.addOn->ExtraFlag);
     std::string stem = essence;
     for (const std::string_view end : {"number", "no"})
-        if (stem.ends_with(end) && stem.size() > end.size()) stem.resize(stem.size() - end.size());
+        if (stem.ends_with(end)) stem.resize(stem.size() - end.size());
     if (stem != key && stem != EssenceOf(game_.addOn->Name) && stem != "addon") return std::nullopt;
-    if (number == 0) return Column{Part::AddOn, 0};
+    if (number == 0) return Column{Part::AddOn};
     if (!game_.addOn->FourNumbers || number > 4) return std::nullopt;
     return Column{Part::AddOnNumber, number};
 }
@@ -228,7 +227,6 @@ bool GameFile::Next(Entry& entry) {
             if (ReadEntry(entry)) return true;
     } catch (const CsvReader::Broken& bad) {
         findings_.Tell(wish_.path, {bad.line, bad.column}, bad.what);
-        broken_ = true;
     }
     return false;
 }

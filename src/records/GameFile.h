@@ -113,7 +113,7 @@ class GameFile {
     std::size_t numberColumns_ = 0;  // the highest number that has a column of its own
     std::string leftAside_;
     bool pending_ = false;  // the first line, read in search of a header, is an entry
-    bool broken_ = false;
+    bool broken_ = true;    // the header could not be read, or lacks something
 };
 
 }  // namespace sorvane::Records

@@ -288,7 +288,7 @@ void JudgeRow(const Table& table, const Row& row, const Complain& complain) {
     }
     if (!sound) return;
     if (table.use == Use::Played && !Numbers(table.game->in).digits) JudgeSlip(table, row, complain);
-    if (table.use == Use::AddOnPlayed && !table.addOn->FourNumbers) JudgeDigits(table, row, complain);
+    if (table.use == Use::AddOnPlayed) JudgeDigits(table, row, complain);
 }
 
 const GameKey* FindGameKey(std::string_view LottoFlag) {

@@ -47,9 +47,17 @@ TEST_F(Csv, TakesSemicolonsAndTabsWhereTheFirstLineHasThem) {
     EXPECT_EQ(Read("a;b\n1,5;2\n"), (Lines{"a|b", "1,5|2"}));
     EXPECT_EQ(Read("a\tb\n1\t\t\n"), (Lines{"a|b", "1||"}));
     EXPECT_EQ(Read("a,b;c\n"), (Lines{"a|b;c"}));
+    // Behind the mark of UTF-8 the first line is no longer than elsewhere.
+    EXPECT_EQ(Read("\xEF\xBB\xBF"
+                   "a,b\n;;;;\n"),
+              (Lines{"a|b", ";;;;"}));
 }
 
-TEST_F(Csv, LeavesBlanksAroundCellsAside) { EXPECT_EQ(Read(" a , \"b \" ,c\n"), (Lines{"a|[b ]|c"})); }
+TEST_F(Csv, LeavesBlanksAroundCellsAside) {
+    EXPECT_EQ(Read(" a , \"b \" ,c\n"), (Lines{"a|[b ]|c"}));
+    EXPECT_EQ(Read("a,b,c\n\ta\t,\t\"b\" \t,\t c\n"), (Lines{"a|b|c", "a|[b]|c"}));
+    EXPECT_EQ(Read("a\t\"b\"\t\n"), (Lines{"a|[b]|"}));
+}
 
 // The file is read a part at a time; nothing may depend on where a part ends.
 TEST_F(Csv, ReadsWhatLiesAcrossTwoParts) {
@@ -78,7 +86,24 @@ TEST_F(Csv, SaysWhereTheRestCantBeRead) {
     EXPECT_EQ(Read("a\n\"" + std::string(70'000, 'x')),
               (Lines{"a", "2:1 the quote that opens here is not closed"}));
     EXPECT_EQ(Read(std::string(70'000, 'x')), (Lines{"1:1 this line is too long"}));
-    EXPECT_EQ(Read(std::string(70'000, ',')).size(), 1U);
+    EXPECT_EQ(Read(std::string("a,b\0c", 5)), (Lines{"1:3 this is no text in UTF-8"}));
+    EXPECT_EQ(Read(std::string("a,\"b\0c\"", 7)), (Lines{"1:3 this is no text in UTF-8"}));
+    EXPECT_EQ(Read(std::string("\xFE\xFF\0a\0,\0b", 8)), (Lines{"1:1 this is no text in UTF-8"}));
+    EXPECT_EQ(Read(std::string("\xFF\xFE\"\0a\0\n\0", 8)), (Lines{"1:1 this is no text in UTF-8"}));
+}
+
+TEST_F(Csv, ALineHasNoMoreThan65536LettersAndOneMoreCells) {
+    const std::string most(65'536, 'x');
+    EXPECT_EQ(Read("a\n" + most + "\nb\n" + most + "\n"), (Lines{"a", most, "b", most}));
+    EXPECT_EQ(Read(most.substr(1) + ",y\n"), (Lines{most.substr(1) + "|y"}));
+    EXPECT_EQ(Read(most + ",y\n"), (Lines{"1:65538 this line is too long"}));
+    EXPECT_EQ(Read("x" + most + "\n"), (Lines{"1:1 this line is too long"}));
+    EXPECT_EQ(Read("a,\"" + most + "\"\n"), (Lines{"1:3 the quote that opens here is not closed"}));
+    CsvReader reader(Write("a.csv", std::string(65'536, ',')));
+    std::vector<CsvCell> record;
+    EXPECT_TRUE(reader.Next(record));
+    EXPECT_EQ(record.size(), 65'537U);
+    EXPECT_EQ(Read(std::string(65'537, ',')), (Lines{"1:65538 this line is too long"}));
 }
 
 TEST_F(Csv, CountsColumnsInCharacters) {
@@ -99,6 +124,10 @@ TEST_F(Csv, WritesWhatItReads) {
     }
     EXPECT_EQ(CsvText("plain"), "plain");
     EXPECT_EQ(CsvText(""), "\"\"");
+    EXPECT_EQ(CsvText("in the middle"), "in the middle");
+    for (const std::string text : {" before", "behind ", "a,b", "a;b", "a\tb", "a\rb", "a\nb"})
+        EXPECT_EQ(CsvText(text), "\"" + text + "\"");
+    EXPECT_EQ(CsvText("\"x\""), "\"\"\"x\"\"\"");
 }
 
 TEST(Utf8, KnowsWhatIsNone) {
@@ -148,8 +177,35 @@ TEST(Dates, AreReadInManyForms) {
                              "11/21/26 00:00:00",
                              "2026-11-21T20:15:00Z",
                              "11/21/2026 8:15 PM",
-                             "2026-11-21 20:15:00.000"})
-        EXPECT_EQ(Day(text), "2026-11-21") << text;
+                             "2026-11-21 20:15:00.000",
+                             "21 - 11 - 2026",
+                             "2026 / 11 / 21",
+                             "Nov. 21, 2026",
+                             "11/21/2026 8:15 am"})
+        EXPECT_EQ(Day(text, text[2] == ' ' ? DateOrder::DayFirst : DateOrder::MonthFirst), "2026-11-21")
+            << text;
+}
+
+TEST(Dates, KnowEveryMonthAndWeekdayByItsNameAndThreeLettersOfIt) {
+    const std::vector<std::string> months = {"January",   "February", "March",    "April",
+                                             "May",       "June",     "July",     "August",
+                                             "September", "October",  "November", "December"};
+    for (std::size_t i = 0; i < months.size(); ++i) {
+        const std::string day = (i < 9 ? "2026-0" : "2026-") + std::to_string(i + 1) + "-21";
+        for (const std::string& name : {months[i], months[i].substr(0, 3), months[i].substr(0, 4)}) {
+            EXPECT_EQ(Day(name + " 21, 2026"), day);
+            EXPECT_EQ(Day("21 " + name + " 26"), day);
+            EXPECT_EQ(Day("2026 " + name + " 21"), day);
+        }
+        EXPECT_EQ(Day(months[i].substr(0, 2) + " 21, 2026"), "none");
+        EXPECT_EQ(Day(months[i] + "s 21, 2026"), "none");
+    }
+    for (const std::string name :
+         {"Monday", "Tuesday", "Wednesday", "Thursday", "Friday", "Saturday", "Sunday"}) {
+        EXPECT_EQ(Day(name + ", 2026-11-21"), "2026-11-21");
+        EXPECT_EQ(Day("2026-11-21 " + name.substr(0, 3)), "2026-11-21");
+        EXPECT_EQ(Day(name.substr(0, 2) + " 2026-11-21"), "none");
+    }
 }
 
 TEST(Dates, TakeTheDayFirstWhereThatIsTold) {
@@ -166,20 +222,50 @@ TEST(Dates, WithTwoDigitsOfAYearLieFrom1930To2029) {
 }
 
 TEST(Dates, ThatAreNoneAreRefused) {
-    for (const char* text :
-         {"",           "soon",  "2026-13-01",    "2026-02-30",  "13/13/2020",  "2026-11",
-          "11/21",      "1/2/3", "1/2/2020/4",    "2026--11-21", "-2026-11-21", "2026-11-21x",
-          "202611211",  "46347", "2026-11-21 25", "0000-01-01",  "Nov 2026",    "Foo 21, 2026",
-          "11:21:2026", ":",     "2026-3x-21",    "2026-003-21", "11/21/202x",  "3x/21/2026"})
+    for (const char* text : {"",
+                             "soon",
+                             "2026-13-01",
+                             "2026-02-30",
+                             "13/13/2020",
+                             "2026-11",
+                             "11/21",
+                             "1/2/3",
+                             "1/2/2020/4",
+                             "2026--11-21",
+                             "-2026-11-21",
+                             "2026-11-21x",
+                             "202611211",
+                             "46347",
+                             "2026-11-21 25",
+                             "0000-01-01",
+                             "Nov 2026",
+                             "Foo 21, 2026",
+                             "11:21:2026",
+                             ":",
+                             "2026-3x-21",
+                             "2026-003-21",
+                             "11/21/202x",
+                             "3x/21/2026",
+                             "11/21/2x",
+                             "11/21/202",
+                             "2026/11/021",
+                             "2026/11/2x",
+                             "2026112x",
+                             "2026-11-21 :30",
+                             "2026-11-21 8:15 noon",
+                             "2026-11-21 8:15 a",
+                             "Nov 2x, 2026",
+                             "/2026/11/21",
+                             "x026-11-21"})
         EXPECT_EQ(Day(text), "none") << text;
     for (const char* text : {"21.3x.2026", "3x.11.2026", "21.11.202x"})
         EXPECT_EQ(Day(text, DateOrder::DayFirst), "none") << text;
 }
 
 TEST(Marks, AreReadAsOtherToolsWriteThem) {
-    for (const char* text : {"1", "-1", "Yes", "TRUE", "on", "x", "y"})
+    for (const char* text : {"1", "-1", "Yes", "TRUE", "on", "x", "y", "t"})
         EXPECT_EQ(ReadMark(text), true) << text;
-    for (const char* text : {"0", "No", "false", "Off", "n"}) EXPECT_EQ(ReadMark(text), false) << text;
+    for (const char* text : {"0", "No", "false", "Off", "n", "F"}) EXPECT_EQ(ReadMark(text), false) << text;
     for (const char* text : {"2", "", "ja", "10"}) EXPECT_EQ(ReadMark(text), std::nullopt) << text;
 }
 
@@ -200,7 +286,7 @@ TEST(Amounts, AreReadWithAndWithoutTheirSign) {
     EXPECT_EQ(amount("$1,250.00"), "1250");
     EXPECT_EQ(amount("-$2"), "-2");
     EXPECT_EQ(amount("4.0000"), "4");
-    for (const char* text : {"", "$", "1$", "1,5", "five", "$$1", "99999999999999999999"})
+    for (const char* text : {"", "$", "1$", "-2$", "$-2$", "1,5", "five", "$$1", "99999999999999999999"})
         EXPECT_EQ(amount(text), "none") << text;
 }
 
