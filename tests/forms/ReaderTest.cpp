@@ -1,0 +1,250 @@
+// Documents to be read.
+#include "forms/Reader.h"
+
+#include <QImage>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <QTextTable>
+#include <fstream>
+
+#include "Fixture.h"
+#include "forms/Look.h"
+#include "forms/Utf8.h"
+#include "support/Palettes.h"
+#include "support/TempFolder.h"
+
+namespace sorvane::test {
+namespace {
+
+using namespace forms;
+
+constexpr std::string_view Text = R"(# Title
+
+First [there](#second-part), [abroad](https://example.org/) and [beside](beside.md).
+
+## Second part
+
+- An entry
+
+  ![wide](wide.png)
+
+![wide](wide.png)
+
+![small](small.png)
+
+```
+one
+two
+```
+
+Between.
+
+```cpp
+int three;
+```
+
+```sh
+four
+```
+
+| a | b |
+|---|---|
+| 1 | 2 |
+
+### A_b-c (D, 2)!
+
+The end: title.
+)";
+
+class Reading : public ::testing::Test {
+  protected:
+    Reading() {
+        Write("guide.md", Text);
+        QImage picture(3000, 300, QImage::Format_RGB32);
+        picture.fill(Qt::red);
+        picture.save(ToQt(folder.File("wide.png")));
+        picture.scaled(50, 20).save(ToQt(folder.File("small.png")));
+        window.LayOut(reader);
+        window.resize(700, 300);
+    }
+    void Write(std::string_view name, std::string_view text) const { std::ofstream(folder / name) << text; }
+    void OpenGuide(std::string_view heading = {}) {
+        ASSERT_TRUE(reader.Open(folder.File("guide.md"), heading));
+        sorvane::test::Open(window);
+    }
+    // The block that is this text, or begins with a picture where that is asked for.
+    QTextBlock Block(const QString& text) const {
+        QTextBlock block = reader.document()->begin();
+        while (block.isValid() && block.text() != text) block = block.next();
+        EXPECT_TRUE(block.isValid()) << qPrintable(text);
+        return block;
+    }
+    QTextBlockFormat Format(const QString& text) const { return Block(text).blockFormat(); }
+    // The heading at the upper edge.
+    std::string AtTheTop() const {
+        return reader.HeadingInView() < 0
+                   ? ""
+                   : reader.Headings()[static_cast<std::size_t>(reader.HeadingInView())].text;
+    }
+
+    TempFolder folder;
+    LoggingWindow window;
+    Reader reader{"txtGuide"};
+    Person person;
+};
+
+TEST_F(Reading, LinesStandApartAndChaptersMore) {
+    OpenGuide();
+    const int margin = Look::Margin(reader), gap = Look::Gap(reader);
+    EXPECT_EQ(reader.document()->documentMargin(), margin);
+    for (const char* text : {"Title", "Second part", "An entry", "Between.", "The end: title."}) {
+        EXPECT_EQ(Format(text).lineHeightType(), QTextBlockFormat::ProportionalHeight) << text;
+        EXPECT_EQ(Format(text).lineHeight(), 125) << text;
+        EXPECT_EQ(Format(text).background().style(), Qt::NoBrush) << text;
+    }
+    for (const char* code : {"one", "two", "int three;", "four"}) {
+        EXPECT_EQ(Format(code).lineHeightType(), QTextBlockFormat::SingleHeight) << code;
+        EXPECT_EQ(Format(code).background().color(), Look::Page(reader.palette())) << code;
+        EXPECT_FALSE(Format(code).nonBreakableLines()) << code;
+    }
+    EXPECT_EQ(Format("Title").topMargin(), 0);
+    EXPECT_EQ(Format("Second part").topMargin(), 2 * margin);
+    EXPECT_EQ(Format("A_b-c (D, 2)!").topMargin(), 2 * margin);
+    // Above the first line of what is one piece of code.
+    EXPECT_EQ(Format("int three;").topMargin(), gap);
+    EXPECT_EQ(Format("four").topMargin(), gap);
+    EXPECT_EQ(Format("two").topMargin(), 0);
+    for (auto block = reader.document()->begin(); block.isValid(); block = block.next())
+        if (block.text() == QChar(QChar::ObjectReplacementCharacter)) {
+            EXPECT_EQ(block.blockFormat().lineHeightType(), QTextBlockFormat::SingleHeight);
+        }
+}
+
+TEST_F(Reading, TablesHaveThinLinesAndRoomInTheirCells) {
+    OpenGuide();
+    int tables = 0;
+    for (QTextFrame* frame : reader.document()->rootFrame()->childFrames())
+        if (const auto* table = qobject_cast<QTextTable*>(frame)) {
+            ++tables;
+            const QTextTableFormat format = table->format();
+            EXPECT_TRUE(format.borderCollapse());
+            EXPECT_EQ(format.border(), 1);
+            EXPECT_EQ(format.borderStyle(), QTextFrameFormat::BorderStyle_Solid);
+            EXPECT_EQ(format.borderBrush().color(), Look::Frame(reader.palette()));
+            EXPECT_EQ(format.cellPadding(), Look::Space(reader));
+            EXPECT_EQ(format.cellSpacing(), 0);
+        }
+    EXPECT_EQ(tables, 1);
+}
+
+TEST_F(Reading, LinksAloneHaveTheirColour) {
+    OpenGuide();
+    const auto check = [&] {
+        int links = 0;
+        for (auto block = reader.document()->begin(); block.isValid(); block = block.next())
+            for (auto piece = block.begin(); !piece.atEnd(); ++piece) {
+                const QTextCharFormat format = piece.fragment().charFormat();
+                links += format.isAnchor();
+                EXPECT_EQ(format.foreground() == reader.palette().link(), format.isAnchor())
+                    << qPrintable(piece.fragment().text());
+            }
+        EXPECT_EQ(links, 3);
+    };
+    check();
+    reader.setPalette(DarkPalette());
+    check();
+    EXPECT_EQ(Format("four").background().color(), Look::Page(DarkPalette()));
+}
+
+// As wide as the page leaves room for, also within a list; never larger than they are.
+TEST_F(Reading, PicturesShrinkToThePage) {
+    OpenGuide();
+    const double page = reader.viewport()->width() - 2 * Look::Margin(reader);
+    std::vector<double> widths;
+    for (auto block = reader.document()->begin(); block.isValid(); block = block.next())
+        if (block.text() == QChar(QChar::ObjectReplacementCharacter))
+            widths.push_back(block.layout()->lineAt(0).naturalTextWidth());
+    ASSERT_EQ(widths.size(), 3U);
+    EXPECT_NEAR(widths[0], page - reader.document()->indentWidth(), 1.01);
+    EXPECT_NEAR(widths[1], page, 1.01);
+    EXPECT_NEAR(widths[2], 50, 1.01);
+    EXPECT_EQ(reader.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Reading, HeadingsAreFoundByTheirNamesInLinks) {
+    OpenGuide("Second part");
+    EXPECT_EQ(AtTheTop(), "Second part");
+    ASSERT_EQ(reader.Headings().size(), 3U);
+    EXPECT_EQ(reader.Headings()[0].level, 1);
+    EXPECT_EQ(reader.Headings()[2].level, 3);
+    EXPECT_EQ(reader.Headings()[2].text, "A_b-c (D, 2)!");
+    reader.GoTo(2);
+    EXPECT_EQ(reader.source().fragment(), "a_b-c-d-2");
+    for (const int nowhere : {-1, 3}) {
+        reader.GoTo(nowhere);
+        EXPECT_EQ(reader.source().fragment(), "a_b-c-d-2") << nowhere;
+    }
+    reader.GoTo(0);
+    EXPECT_EQ(AtTheTop(), "Title");
+    EXPECT_EQ(reader.verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(reader.CanGoBack());
+    ASSERT_TRUE(reader.Open(folder.File("guide.md"), "No such part"));
+    EXPECT_EQ(AtTheTop(), "Title");
+}
+
+TEST_F(Reading, BeforeTheFirstHeadingNoneIsInView) {
+    Write("late.md", "Before.\n\n# Title\n");
+    ASSERT_TRUE(reader.Open(folder.File("late.md")));
+    EXPECT_EQ(reader.HeadingInView(), -1);
+    EXPECT_FALSE(reader.Open(folder.File("none.md")));
+    EXPECT_FALSE(reader.Open(folder.Path().string()));
+    EXPECT_EQ(reader.Headings().size(), 1U);
+}
+
+TEST_F(Reading, ASearchBeginsAnewBehindTheLastPlace) {
+    OpenGuide();
+    EXPECT_FALSE(reader.FindNext(""));
+    EXPECT_FALSE(reader.FindNext("nowhere"));
+    EXPECT_FALSE(reader.textCursor().hasSelection());
+    std::vector<int> places;
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_TRUE(reader.FindNext("title"));
+        places.push_back(reader.textCursor().selectionStart());
+        EXPECT_TRUE(reader.viewport()->rect().contains(reader.cursorRect())) << i;
+    }
+    EXPECT_EQ(places, (std::vector{0, Block("The end: title.").position() + 9, 0}));
+}
+
+TEST_F(Reading, AsksForRoomForItsLines) {
+    EXPECT_EQ(reader.sizeHint(),
+              QSize(Look::DigitsWidth(reader, 104), 38 * reader.fontMetrics().lineSpacing()));
+}
+
+// Whoever follows it is told of each place, and of each document once.
+TEST_F(Reading, TellsOfEachPlaceAndOfEachDocumentOnce) {
+    Write("beside.md", "# Beside\n");
+    int opened = 0, moved = 0;
+    reader.OnOpen([&] { ++opened; });
+    reader.OnMove([&] { ++moved; });
+    OpenGuide();
+    EXPECT_EQ(opened, 1);
+    moved = 0;
+    reader.GoTo(1);
+    EXPECT_EQ(opened, 1);
+    EXPECT_GT(moved, 0);
+    moved = 0;
+    reader.verticalScrollBar()->setValue(3);
+    EXPECT_EQ(moved, 1);
+    EXPECT_EQ(AtTheTop(), "Title");
+    reader.Open(folder.File("beside.md"));
+    EXPECT_EQ(opened, 2);
+    EXPECT_EQ(reader.Headings().size(), 1U);
+    reader.GoBack();
+    EXPECT_EQ(opened, 3);
+    EXPECT_EQ(reader.Headings().size(), 3U);
+    EXPECT_EQ(AtTheTop(), "Title");  // as it was left
+}
+
+}  // namespace
+}  // namespace sorvane::test
