@@ -125,7 +125,6 @@ ListBox::ListBox(std::string_view name)
       model_(std::make_unique<Model>(*this)),
       delegate_(std::make_unique<Delegate>(*this)) {
     setUniformItemSizes(true);
-    setEditTriggers(NoEditTriggers);
     setItemDelegate(delegate_.get());
     setModel(model_.get());
 }

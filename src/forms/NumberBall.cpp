@@ -11,7 +11,6 @@ namespace sorvane::forms {
 
 NumberBall::NumberBall(std::string_view name, std::string_view caption) : CheckBox(name, caption) {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
-    setAttribute(Qt::WA_Hover);
 }
 
 QSize NumberBall::sizeHint() const {

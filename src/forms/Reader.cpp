@@ -58,7 +58,7 @@ class Reader::Pictures final : public QObject, public QTextObjectInterface {
             block.blockFormat().indent() + (block.textList() ? block.textList()->format().indent() : 0);
         const double room =
             reader_.viewport()->width() - 2 * document->documentMargin() - steps * document->indentWidth();
-        return size->width() <= room ? QSizeF(*size) : QSizeF(*size) * (room / size->width());
+        return QSizeF(*size) * std::min(1.0, room / size->width());
     }
 
     void drawObject(QPainter* painter, const QRectF& place, QTextDocument*, int,
@@ -226,11 +226,9 @@ bool Reader::FindNext(std::string_view text) {
     const QString wanted = ToQt(text);
     if (wanted.isEmpty()) return false;
     if (find(wanted)) return true;
-    const QTextCursor first(document());
-    QTextCursor found = document()->find(wanted, first);
-    if (found.isNull()) return false;
-    setTextCursor(found);
-    ensureCursorVisible();
+    const QTextCursor first = document()->find(wanted);
+    if (first.isNull()) return false;
+    setTextCursor(first);  // which brings it into sight
     return true;
 }
 

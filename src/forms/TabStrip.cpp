@@ -48,7 +48,6 @@ class TabStrip::Bar : public QTabBar {
 
 TabStrip::TabStrip(std::string_view name) : Control(*this, name) {
     setTabBar(new Bar(*this));
-    setDocumentMode(false);
     AddKeys({Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::Key_PageDown}, 1);
     AddKeys({Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab,
              Qt::CTRL | Qt::Key_PageUp},

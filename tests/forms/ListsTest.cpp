@@ -179,7 +179,7 @@ TEST_F(Copying, ControlAAndControlCTakeAllRowsAsTheyAreShown) {
     const QImage before = list.viewport()->grab().toImage();
     person.Key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_NE(before, list.viewport()->grab().toImage());
-    person.Key(Qt::Key_Control);
+    for (const Qt::Key way : {Qt::Key_Control, Qt::Key_Shift, Qt::Key_Alt, Qt::Key_Meta}) person.Key(way);
     person.Key(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ("1, 2, 3\n4, 5, 6\n7, 8, 9", Copied());
     EXPECT_EQ(1, list.ListIndex());
@@ -219,6 +219,7 @@ TEST_F(Copying, TheMenuOfARowCopiesItOrAllRows) {
 }
 
 TEST_F(Copying, TheMenuOfAnEmptyListOffersNothing) {
+    person.Key(Qt::Key_A, Qt::ControlModifier);  // rows that are gone are marked no longer
     list.Clear();
     OpenMenu(0);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
@@ -420,6 +421,154 @@ TEST_F(Dates, WheelOverItChangesNothingWhileTheFocusIsElsewhere) {
     QCoreApplication::sendEvent(&date, &wheel);
     EXPECT_EQ(Log{}, window.log);
     EXPECT_TRUE(ok.HasFocus());
+}
+
+// How many times the events of a kind come to a widget.
+class Count : public QObject {
+  public:
+    Count(QObject& receiver, QEvent::Type type) : type_(type) { receiver.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == type_;
+        return false;
+    }
+    int count = 0;
+
+  private:
+    QEvent::Type type_;
+};
+
+TEST_F(List, IsPaintedAnewForAnotherHintAndForOtherMarks) {
+    list.Clear();
+    ok.SetFocus();
+    Person::Settle();
+    Count paints(*list.viewport(), QEvent::Paint);
+    list.SetHint("Check a draw");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+    list.AddItem("1, 2, 3");
+    list.SetFocus();
+    Person::Settle();
+    paints.count = 0;
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+}
+
+// In the middle, as far from the edges as groups are from each other.
+TEST_F(List, HintStandsInTheMiddleWithinAMargin) {
+    list.Clear();
+    list.setFixedSize(200, 150);
+    list.SetHint("Check a draw to see your tickets here, all that were played for this day");
+    Person::Settle();
+    const QImage seen = list.viewport()->grab().toImage();
+    const QRgb paper = seen.pixel(0, 0);
+    QRect ink;
+    for (int y = 0; y < seen.height(); ++y)
+        for (int x = 0; x < seen.width(); ++x)
+            if (seen.pixel(x, y) != paper) ink |= QRect(x, y, 1, 1);
+    const int margin = Look::Gap(list);
+    EXPECT_TRUE(seen.rect().adjusted(margin, margin, -margin, -margin).contains(ink)) << ink.left();
+    EXPECT_GT(ink.height(), 2 * list.fontMetrics().height());
+    EXPECT_GT(ink.width(), 140);
+    EXPECT_NEAR(ink.center().x(), seen.rect().center().x(), 4);
+    EXPECT_NEAR(ink.center().y(), seen.rect().center().y(), 4);
+}
+
+TEST_F(List, EveryRowIsAsWideAsTheLongestAndTheMarkAsHighAsTheFont) {
+    const auto size = [&] { return list.model()->index(0, 0).data(Qt::SizeHintRole).toSize(); };
+    const auto expected = [&](const char* longest, bool marks) {
+        QFont heavy = list.font();
+        heavy.setBold(true);
+        const QFontMetrics letters(heavy);
+        return QSize(letters.horizontalAdvance(longest) + (marks ? 2 : 1) * letters.height(),
+                     letters.height() * 7 / 5);
+    };
+    list.Clear();
+    list.AddItem("MMMMMM");
+    list.AddItem("iiiiii");
+    EXPECT_EQ(size(), expected("MMMMMM", false));
+    list.AddItem("8888888888");
+    list.AddItem("iii");
+    EXPECT_EQ(size(), expected("8888888888", false));
+    list.Clear();
+    list.AddItem("iii");
+    EXPECT_EQ(size(), expected("iii", false));
+    EXPECT_FALSE(list.model()->index(0, 0).data(Qt::DecorationRole).isValid());
+    list.SetWinners([](int row, std::string_view) { return row == 1; });
+    list.AddItem("MMMMMM");
+    EXPECT_EQ(size(), expected("MMMMMM", true));
+    for (const int points : {10, 18}) {
+        list.setFont(QFont("DejaVu Sans", points));
+        Person::Settle();
+        const int side = list.fontMetrics().height();
+        EXPECT_EQ(list.iconSize(), QSize(side, side));
+        const auto mark = [&](int row) {
+            return list.model()
+                ->index(row, 0)
+                .data(Qt::DecorationRole)
+                .value<QIcon>()
+                .pixmap(list.iconSize())
+                .toImage();
+        };
+        EXPECT_EQ(mark(1), Look::Winner(list.palette(), side).pixmap(QSize(side, side)).toImage());
+        // Where there is no mark its place is kept.
+        QImage none(side, side, QImage::Format_ARGB32_Premultiplied);
+        none.fill(Qt::transparent);
+        EXPECT_EQ(mark(0).convertToFormat(none.format()), none);
+    }
+    list.setPalette(HighContrastPalette());
+    const int side = list.fontMetrics().height();
+    EXPECT_EQ(list.model()->index(1, 0).data(Qt::DecorationRole).value<QIcon>().pixmap(side).toImage(),
+              Look::Winner(HighContrastPalette(), side).pixmap(side).toImage());
+}
+
+TEST_F(List, WinnersAreFoundAmongTheRowsThatAreThereAndThoseThatCome) {
+    list.SetWinners([](int row, std::string_view text) { return row % 2 == 0 && text != "7, 8, 9"; });
+    list.AddItem("10");
+    list.AddItem("11");
+    std::string winners;
+    for (int row = 0; row < list.ListCount(); ++row)
+        winners += list.model()->index(row, 0).data(Qt::FontRole).isValid() ? "w" : "-";
+    EXPECT_EQ(winners, "w---w");
+    list.SetWinners(nullptr);
+    for (int row = 0; row < list.ListCount(); ++row)
+        EXPECT_FALSE(list.model()->index(row, 0).data(Qt::FontRole).isValid()) << row;
+}
+
+TEST_F(List, EveryEnterKeyIsADoubleClickAndTheRightButtonIsNone) {
+    list.SetListIndex(2);
+    list.SetFocus();
+    person.Key(Qt::Key_Enter);
+    EXPECT_EQ((Log{"double-click 2"}), window.log);
+    window.log.clear();
+    const QPoint at = list.viewport()->mapTo(&window, list.visualRect(list.model()->index(0, 0)).center());
+    QTest::mouseDClick(window.windowHandle(), Qt::RightButton, Qt::NoModifier, at);
+    Person::Settle();
+    while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+    EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(Copying, ByTheKeyTheMenuComesBelowTheRowInHandAndIsGoneAfterwards) {
+    list.SetListIndex(1);
+    const auto place = [&](QContextMenuEvent::Reason reason) {
+        const QPoint at = list.viewport()->mapToGlobal(QPoint(30, 3));
+        QContextMenuEvent event(reason, QPoint(30, 3), at);
+        QApplication::sendEvent(&list, &event);
+        QWidget* menu = QApplication::activePopupWidget();
+        const QPoint shown = menu ? menu->pos() - at : QPoint();
+        person.Key(Qt::Key_Escape);
+        return shown;
+    };
+    EXPECT_EQ(place(QContextMenuEvent::Mouse), QPoint(0, 0));
+    const QRect row = list.visualRect(list.model()->index(1, 0));
+    EXPECT_EQ(place(QContextMenuEvent::Keyboard), row.bottomLeft() - QPoint(30, 3));
+    list.Clear();
+    EXPECT_EQ(place(QContextMenuEvent::Keyboard), QPoint(0, 0));
+    Person::Settle();
+    EXPECT_TRUE(list.findChildren<QMenu*>().isEmpty());
+}
+
+TEST_F(Dates, TheFocusComesByTheKeyAndByThePressOnly) {
+    EXPECT_EQ(date.focusPolicy(), Qt::StrongFocus);
+    EXPECT_EQ(date.timeSpec(), Qt::UTC);
 }
 
 }  // namespace

@@ -811,5 +811,47 @@ TEST(Look, FontsOfASizeThatIsAskedFor) {
     EXPECT_EQ(Look::Fitting(font, [&](const QFontMetrics&) { return ++asked == 4; }).pointSizeF(), 9.25);
 }
 
+// Three are ahead of the ball in hand: one straight on, one nearer but aside, one half way to the side.
+TEST(NumberBall, OneInTheSameLineComesBeforeOneThatIsNearerAside) {
+    LoggingWindow window;
+    QWidget page;
+    page.setFixedSize(400, 300);
+    ControlArray<NumberBall> balls("chkNumb");
+    const auto put = [&](int index, int x, int y) {
+        NumberBall& ball = balls.Load(index, std::to_string(index));
+        ball.setParent(&page);
+        ball.setGeometry(x, y, 20, 20);
+    };
+    put(0, 100, 100);
+    put(1, 140, 116);
+    put(2, 200, 100);
+    put(3, 130, 130);
+    window.layout()->addWidget(&page);
+    Open(window);
+    Person person;
+    const auto goes = [&](Qt::Key key, int to) {
+        balls(0).SetFocus();
+        person.Key(key);
+        EXPECT_TRUE(balls(to).HasFocus()) << to;
+    };
+    goes(Qt::Key_Right, 2);
+    balls(1).setGeometry(140, 114, 20, 20);
+    goes(Qt::Key_Right, 1);
+    // As far as the one straight on: the first of the two.
+    balls(1).setGeometry(140, 115, 20, 20);
+    goes(Qt::Key_Right, 1);
+    // Just as much aside as ahead is in no direction.
+    balls(1).SetVisible(false);
+    balls(2).SetVisible(false);
+    goes(Qt::Key_Right, 0);
+    goes(Qt::Key_Down, 0);
+    balls(3).setGeometry(130, 131, 20, 20);
+    goes(Qt::Key_Down, 3);
+    EXPECT_EQ(balls(0).sizePolicy().horizontalPolicy(), QSizePolicy::Preferred);
+    EXPECT_EQ(balls(0).sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
+    EXPECT_EQ(balls(0).minimumSizeHint(), QSize(Look::SmallestBall(balls(0)), Look::SmallestBall(balls(0))));
+    EXPECT_EQ(balls(0).sizeHint(), QSize(Look::BallSize(balls(0)), Look::BallSize(balls(0))));
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -6,6 +6,7 @@
 
 #include "Fixture.h"
 #include "forms/Look.h"
+#include "forms/Placement.h"
 
 namespace sorvane::test {
 namespace {
@@ -113,6 +114,25 @@ TEST_F(Placement, WhatHasRoomStaysWhereItIs) {
     emit screen.availableGeometryChanged(QRect(screen.availableGeometry().topLeft(), QSize(640, 400)));
     Person::Settle();
     EXPECT_EQ(window.geometry(), place);
+}
+
+// To the pixel, with room for what the desktop puts around it; and one too large begins at the corner.
+TEST_F(Placement, TheMiddleLeavesRoomForTheFrame) {
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        PutMouseOn(*screen);
+        const QRect bounds = screen->availableGeometry();
+        QWidget window;
+        const int bar = 2 * window.fontMetrics().height();
+        EXPECT_EQ(RoomFor(window), bounds.size() - QSize(bar / 2, bar));
+        window.resize(400, 200);
+        Centre(window);
+        EXPECT_EQ(window.size(), QSize(400, 200));
+        EXPECT_EQ(window.pos(), bounds.topLeft() + QPoint((bounds.width() - 400 - bar / 2) / 2,
+                                                          (bounds.height() - 200 - bar) / 2));
+        window.setMinimumSize(9000, 7000);
+        Centre(window);
+        EXPECT_EQ(window.pos(), bounds.topLeft());
+    }
 }
 
 }  // namespace

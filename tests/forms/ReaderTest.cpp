@@ -29,6 +29,8 @@ First [there](#second-part), [abroad](https://example.org/) and [beside](beside.
 
   ![wide](wide.png)
 
+- ![wide](wide.png)
+
 ![wide](wide.png)
 
 ![small](small.png)
@@ -165,10 +167,12 @@ TEST_F(Reading, PicturesShrinkToThePage) {
     for (auto block = reader.document()->begin(); block.isValid(); block = block.next())
         if (block.text() == QChar(QChar::ObjectReplacementCharacter))
             widths.push_back(block.layout()->lineAt(0).naturalTextWidth());
-    ASSERT_EQ(widths.size(), 3U);
-    EXPECT_NEAR(widths[0], page - reader.document()->indentWidth(), 1.01);
-    EXPECT_NEAR(widths[1], page, 1.01);
-    EXPECT_NEAR(widths[2], 50, 1.01);
+    ASSERT_EQ(widths.size(), 4U);
+    const double step = reader.document()->indentWidth();
+    EXPECT_NEAR(widths[0], page - step, 1.01);
+    EXPECT_NEAR(widths[1], page - 2 * step, 1.01);  // behind the dot
+    EXPECT_NEAR(widths[2], page, 1.01);
+    EXPECT_NEAR(widths[3], 50, 1.01);
     EXPECT_EQ(reader.horizontalScrollBar()->maximum(), 0);
 }
 
