@@ -132,17 +132,14 @@ class TicketSink {
 
 // What was paid for the tickets of a day.
 struct Paid {
-    int tickets = 0;
     Currency told;   // by a price or a wager in their lines
     int untold = 0;  // tickets whose lines name neither
 };
 
-// The price of a line, or the wager where the game has one.
-void Count(Paid& paid, const Entry& entry, const GameKey& key) {
-    ++paid.tickets;
-    const bool wagered = IsKeno(key.in) || IsPick(key.in);
+// The price of a line, or the wager.
+void Count(Paid& paid, const Entry& entry) {
     if (entry.price) paid.told += *entry.price;
-    else if (wagered && entry.wager) paid.told += *entry.wager;
+    else if (entry.wager) paid.told += *entry.wager;
     else ++paid.untold;
 }
 
@@ -214,7 +211,7 @@ class TicketHistory {
 
     std::string Put(Entry& entry) {
         if (std::string wrong = JudgeMoney(entry, *game_.key, spent_); !wrong.empty()) return wrong;
-        if (tickets_.Put(TicketRow(entry))) Count(days_[entry.date.Day()], entry, *game_.key);
+        if (tickets_.Put(TicketRow(entry))) Count(days_[entry.date.Day()], entry);
         if (entry.addOn.empty()) return {};
         if (!addOns_) addOns_.emplace(intake_, *FindTable(game_.addOn->Played), *game_.key);
         addOns_->Put(addOns_->Rows().Of(entry.date, entry.addOn));

@@ -45,7 +45,6 @@ std::size_t TableSink::Slot(Date day) { return static_cast<std::size_t>(day.Day(
 
 void TableSink::ReadWhatIsThere() {
     nextKey_ = before_ + 1;
-    if (before_ == 0) return;
     Dao::Rows rows = file_.AllRows(shape_, Dao::Order::Inserted);
     rows.Restart();
     while (rows.Next()) {
@@ -140,12 +139,6 @@ Intake::Intake(Outside& outside, const Place& place, bool dryRun) : place_(place
     }
     file_ = std::make_unique<Dao::RecordFile>(path, outside.vfs);
     file_->Begin(Dao::RecordFile::Hold::Write);
-}
-
-Intake::~Intake() {
-    // Undone before the file that is not to stay is removed.
-    if (file_) ErrorOf([this] { file_->Rollback(); });
-    file_.reset();
 }
 
 void Intake::MakeIfMissing(const Table& table) {

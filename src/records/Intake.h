@@ -91,7 +91,6 @@ class Intake {
     Intake(Outside& outside, const Place& place, bool dryRun);
     Intake(const Intake&) = delete;
     Intake& operator=(const Intake&) = delete;
-    ~Intake();
 
     // Makes the table where it is missing, with its pair. Refuses one that is not as the program makes it.
     TableSink Open(const Table& table);
@@ -103,6 +102,7 @@ class Intake {
     const Place& place_;
     bool dryRun_;
     std::optional<NewFile> staged_;
+    // Closed, which undoes what is not finished, before the file that is not to stay is removed.
     std::unique_ptr<Dao::RecordFile> file_;
 };
 

@@ -1,7 +1,5 @@
 #include "records/Outside.h"
 
-#include <array>
-#include <cstdio>
 #include <ctime>
 #include <iostream>
 
@@ -31,10 +29,9 @@ constexpr std::string_view WipeLine = "\r\x1b[K";
 }  // namespace
 
 std::string Stamp(const Moment& moment) {
-    std::array<char, 16> time{};
-    std::snprintf(time.data(), time.size(), "-%02d%02d%02d", moment.hour % 100, moment.minute % 100,
-                  moment.second % 100);
-    return moment.day.ToText() + time.data();
+    const std::string time =
+        std::to_string(1'000'000 + moment.hour * 10'000 + moment.minute * 100 + moment.second);
+    return moment.day.ToText() + "-" + time.substr(1);
 }
 
 Outside Outside::OfTheSystem(const fs::path& calledAs) {

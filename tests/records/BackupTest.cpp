@@ -35,6 +35,10 @@ TEST_F(Backup, IsAWholeCopyUnderANameWithDateAndTime) {
     Do({"backup"});
     EXPECT_EQ(In("data/backups"),
               (Texts{"sorvane-2026-11-21-201500-2.mdb", "sorvane-2026-11-21-201500.mdb"}));
+    now = {Date::FromYmd(2026, 2, 3), 4, 5, 6};
+    EXPECT_EQ(Do({"backup"}).data, Path("data/backups/sorvane-2026-02-03-040506.mdb") + "\n");
+    Do({"backup"});
+    EXPECT_EQ(Do({"backup"}).data, Path("data/backups/sorvane-2026-02-03-040506-3.mdb") + "\n");
 }
 
 TEST_F(Backup, GoesWhereItIsToldAndNeverOverAFileUnlessForced) {
@@ -49,6 +53,15 @@ TEST_F(Backup, GoesWhereItIsToldAndNeverOverAFileUnlessForced) {
     EXPECT_EQ(DrawsIn(Path("usb/mine.mdb")), "0");
     EXPECT_EQ(In("usb"), Texts{"mine.mdb"});
     EXPECT_TRUE(Tells(Run({"backup", File().string(), "--force"}).words, "this is the file itself"));
+    EXPECT_TRUE(Tells(Run({"backup", Path("usb"), "--force"}).words, "this is there already"));
+    EXPECT_EQ(Run({"backup", Path("usb/mine.mdb/more.mdb")}).words,
+              "sorvane-records: " + Path("usb/mine.mdb/more.mdb") + ": this can't be made (75)\n");
+    // What a copy that was cut short has left.
+    Write("usb/other.mdb.part", "old");
+    Write("usb/other.mdb.part-journal", "old");
+    Do({"backup", Path("usb/other.mdb")});
+    EXPECT_EQ(DrawsIn(Path("usb/other.mdb")), "0");
+    EXPECT_EQ(In("usb"), (Texts{"mine.mdb", "other.mdb"}));
 }
 
 TEST_F(Backup, KeepsTheNewestOfItsOwnMakingAndNothingElseIsRemoved) {
@@ -64,6 +77,38 @@ TEST_F(Backup, KeepsTheNewestOfItsOwnMakingAndNothingElseIsRemoved) {
     EXPECT_EQ(LinesOf(answer.words).size(), 2U) << answer.words;
     EXPECT_EQ(Run({"backup", "--keep", "0"}).status, 2);
     EXPECT_EQ(Run({"backup", Path("x.mdb"), "--keep", "3"}).status, 2);
+}
+
+TEST_F(Backup, KnowsItsOwnNamesToTheLetterAndWhichIsTheOlder) {
+    const Texts others = {"aorvane-2019-09-09-090909.mdb",     "sorvane-2019-09-09-090909-.mdb",
+                          "sorvane-2019-09-09-090909-1x.mdb",  "sorvane-2019-09-09-090909-3.mdb.part",
+                          "sorvane-2019-09-09-0909090.mdb",    "sorvane-2019-09-09-09090:.mdb",
+                          "sorvane-2019-09-09-09090;.mdb",     "sorvane-2019-09-09-09090..mdb",
+                          "sorvane-2019-09-09-090909.bak",     "sorvane-2019-09-09_090909.mdb",
+                          "sorvane-before-2019-09-090909.mdb", "sorvane-2019-09-09-090909x2.mdb"};
+    // The oldest first.
+    const Texts own = {"sorvane-2019-09-09-090908-2.mdb",  "sorvane-2019-09-09-090909.mdb",
+                       "sorvane-2019-09-09-090909-2.mdb",  "sorvane-2019-09-09-090909-3.mdb",
+                       "sorvane-2019-09-09-090909-10.mdb", "sorvane-2019-09-09-090909-11.mdb",
+                       "sorvane-2020-01-01-000000.mdb",    "sorvane-2026-11-21-201500.mdb"};
+    for (const Texts& names : {others, own})
+        for (const std::string& name : names)
+            if (name != own.back()) Write("data/backups/" + name, "x");
+    fs::create_directories(Path("data/backups/sorvane-2018-01-01-000000.mdb"));
+    for (std::size_t keep = own.size(); keep >= 1; --keep) {
+        fs::remove(Path("data/backups/" + own.back()));
+        const Answer answer = Do({"backup", "--keep", std::to_string(keep)});
+        Texts left = others;
+        left.push_back("sorvane-2018-01-01-000000.mdb");
+        left.insert(left.end(), own.end() - static_cast<std::ptrdiff_t>(keep), own.end());
+        std::sort(left.begin(), left.end());
+        EXPECT_EQ(In("data/backups"), left) << keep;
+        const std::string removed = keep == own.size() ? "" : own[own.size() - keep - 1];
+        EXPECT_EQ(answer.words, removed.empty() ? "" : "removed " + Path("data/backups/" + removed) + "\n");
+    }
+    fs::remove(Path("data/backups/" + own.back()));
+    Do({"backup", "--keep", "1000000"});
+    EXPECT_EQ(Run({"backup", "--keep", "1000001"}).status, 2);
 }
 
 TEST_F(Backup, OfAFileThatIsNotWholeIsRefusedAndLeavesNothing) {
@@ -119,8 +164,9 @@ TEST_F(Restore, PutsTheCopyBackAndKeepsWhatStoodThere) {
     EXPECT_EQ(DrawsIn(File().string()), "1");
     EXPECT_EQ(In("data"), (Texts{"sorvane-before-restore-2026-11-21-201500.mdb", "sorvane.mdb"}));
     EXPECT_EQ(DrawsIn(Path("data/sorvane-before-restore-2026-11-21-201500.mdb")), "2");
-    EXPECT_TRUE(
-        Tells(answer.words, "is kept as " + Path("data/sorvane-before-restore-2026-11-21-201500.mdb")));
+    EXPECT_EQ(answer.words, "the file that stood here is kept as " +
+                                Path("data/sorvane-before-restore-2026-11-21-201500.mdb") + "\nrestored " +
+                                File().string() + " from " + Path("b.mdb") + "\n");
     // And back again, in the same second.
     Do({"restore", Path("data/sorvane-before-restore-2026-11-21-201500.mdb")});
     EXPECT_EQ(DrawsIn(File().string()), "2");
@@ -217,6 +263,17 @@ TEST_F(Renumber, GivesTheKeysOneToNInTheirOrderAfterABackup) {
     EXPECT_EQ(PlainFile(Path("data/backups/sorvane-2026-11-21-201500.mdb"))
                   .One("SELECT group_concat(ID1) FROM WinBC49"),
               "-3,2,5,9");
+}
+
+TEST_F(Renumber, GivesKeysToRowsWhoseKeyIsNone) {
+    Sql("DELETE FROM WinBC49;"
+        "INSERT INTO WinBC49 VALUES (NULL, 46001, 1,2,3,4,5,6,7), (1, 46002, 1,2,3,4,5,6,7),"
+        "('x', 46003, 1,2,3,4,5,6,7)");
+    EXPECT_TRUE(Tells(Do({"renumber"}).words, "WinBC49: 3 keys counted anew\n"));
+    EXPECT_EQ(Ask("SELECT ID1, Date FROM WinBC49 ORDER BY ID1"), (Texts{"1|46001", "2|46002", "3|46003"}));
+    Sql("UPDATE WinBC49 SET ID1 = 'x' WHERE ID1 = 3");
+    EXPECT_TRUE(Tells(Do({"renumber"}).words, "WinBC49: 1 key counted anew\n"));
+    EXPECT_EQ(Ask("SELECT typeof(ID1) FROM WinBC49 WHERE ID1 = 3"), Texts{"integer"});
 }
 
 TEST_F(Renumber, LeavesAFileInOrderAloneAndMakesNoBackup) {

@@ -36,6 +36,89 @@ TEST_F(Check, FindsNumbersThatTheGameLacks) {
     EXPECT_EQ(Findings(0), Texts());
 }
 
+// Of each kind of table the ends of what its numbers may be, and their neighbours.
+TEST_F(Check, KnowsTheLowestAndHighestNumberOfEachField) {
+    struct Ends {
+        std::string table, field;
+        int low, high;
+        bool null;  // it may be empty
+    };
+    const std::vector<Ends> all = {{"PlayedBC49", "Ball_1", 1, 49, false},
+                                   {"WinBC49", "Ball_B", 1, 49, false},
+                                   {"PlayedSuper7", "Ball_7", 1, 47, false},
+                                   {"WinSuper7", "Ball_7", 1, 49, false},
+                                   {"PlayedLottario", "Ball_6", 1, 45, false},
+                                   {"WinLottario", "Ball_B", 1, 45, false},
+                                   {"PlayedONTKeno", "Ball_1", 0, 70, false},
+                                   {"PlayedONTKeno", "Wager", 0, 32'767, false},
+                                   {"PlayedONTKeno", "# of Balls", 0, 32'767, false},
+                                   {"WinONTKeno", "Ball_20", 1, 70, false},
+                                   {"WinBCClubKeno", "Ball_20", 1, 80, false},
+                                   {"PlayedONTPick3", "Ball_3", 0, 9, false},
+                                   {"WinFLAPlay4", "Ball_4", 0, 9, false},
+                                   {"PlayedExtra", "Ball_4", 1, 99, false},
+                                   {"WinExtra", "Ball_4", -32'768, 32'767, false},
+                                   {"PlayedEncore", "Number 6", 0, 9, false},
+                                   {"WinEncore", "Number 6", 0, 9, false},
+                                   {"WinEncore", "Number 7", 0, 9, true},
+                                   {"WinWESTExtra", "Number 7", 0, 9, false},
+                                   {"WinEarlyBird", "Ball_1", 1, 45, false},
+                                   {"WinEarlyBird", "Ball_3", 1, 45, false},
+                                   {"WinEarlyBird", "Ball_4", 1, 45, true},
+                                   {"WinEarlyBird", "Date", 1, 45, false},
+                                   {"Temp", "Ball_#", -32'768, 32'767, false}};
+    for (const auto& [table, field, low, high, null] : all) {
+        fs::remove_all(Path("data"));
+        Make(table);
+        Sql("INSERT INTO " + table + " (ID1) VALUES (1)");
+        const auto told = [&](const std::string& value) {
+            Sql("UPDATE " + table + " SET \"" + field + "\" = " + value);
+            std::string about;
+            for (const std::string& line : LinesOf(Run({"check"}).data))
+                if (Tells(line, ": " + field + " ")) about += line.substr(line.find(": ") + 2);
+            return about;
+        };
+        const std::string range = " is not from " + std::to_string(low) + " to " + std::to_string(high);
+        const auto odd = [&, &at = field](int value) {
+            return at == "Date" ? "Date holds no number from 1 to 45"
+                                : at + " \"" + std::to_string(value) + "\"" + range;
+        };
+        EXPECT_EQ(told(std::to_string(low)), "") << table << " " << field;
+        EXPECT_EQ(told(std::to_string(high)), "") << table << " " << field;
+        EXPECT_EQ(told(std::to_string(low - 1)), odd(low - 1)) << table;
+        EXPECT_EQ(told(std::to_string(high + 1)), odd(high + 1)) << table;
+        // The mark of an add-on that was not played is a number nowhere else.
+        EXPECT_EQ(told("99").empty(), high >= 99 || table == "PlayedEncore") << table << " " << field;
+        EXPECT_EQ(told("NULL"), null ? "" : field + " is empty") << table;
+    }
+}
+
+TEST_F(Check, ATextHasTheLengthOfItsFieldAndAWayMayBeEmptyButNotMissing) {
+    Make("PlayedONTPick3");
+    Make("Spent");
+    Sql("INSERT INTO PlayedONTPick3 VALUES (1, 'ONTPick3', 46347, 0,1,2, '', 0)");
+    const auto told = [&](const std::string& way) {
+        Sql("UPDATE PlayedONTPick3 SET \"Way Played\" = " + way);
+        const Texts lines = LinesOf(Run({"check"}).data);
+        return Tells(lines.at(0), "note: ") ? "" : lines.at(0).substr(lines.at(0).find("Way Played"));
+    };
+    const std::string most(30, 'x');
+    EXPECT_EQ(told("''"), "");
+    EXPECT_EQ(told("'Straight & Scramble'"), "");
+    EXPECT_EQ(told("'" + most + "'"), "Way Played \"" + most + "\" is no way of playing");
+    EXPECT_EQ(told("'" + most + "x'"), "Way Played \"" + most + "x\" is too long");
+    EXPECT_EQ(told("NULL"), "Way Played is empty");
+    Make("PlayedExtra");
+    Sql("DELETE FROM PlayedONTPick3; INSERT INTO PlayedExtra VALUES (1, 'BC49', 46347, 1,2,3,4, NULL, 0)");
+    EXPECT_EQ(Findings(0), Texts());
+}
+
+TEST_F(Check, AnAddOnThatIsDrawnHasNoNumberForNotPlayed) {
+    Make("WinEncore");
+    Sql("INSERT INTO WinEncore VALUES (1, 'Lotto649', 46347, 99,99,99,99,99,99, NULL)");
+    EXPECT_EQ(Findings(1).size(), 6U);
+}
+
 TEST_F(Check, KeysGoToTheLargestNumberOfTheirKind) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 VALUES (2147483647, 46347, 1,2,3,4,5,6,7)");
@@ -68,7 +151,10 @@ TEST_F(Check, ShowsFortyCharactersOfALongText) {
 TEST_F(Check, FindsATicketWithANumberTwice) {
     Make("PlayedLottario");
     Sql("INSERT INTO PlayedLottario VALUES (1, 46347, 1,2,3,4,5,5, 0,1)");
-    EXPECT_EQ(Findings(1)[0], "PlayedLottario ID1 1: Ball_6 \"5\" stands there twice");
+    const Answer answer = Run({"check"});
+    EXPECT_EQ(LinesOf(answer.data), (Texts{"PlayedLottario ID1 1: Ball_6 \"5\" stands there twice",
+                                           "note: Lottario 2026-11-21: tickets, but no row in Spent"}));
+    EXPECT_EQ(answer.words, File().string() + ": 1 finding, 1 note\n");
 }
 
 TEST_F(Check, LooksAtATicketAsAWholeOnceItsNumbersAreRight) {
@@ -124,6 +210,24 @@ TEST_F(Check, FindsWaysDatesAmountsMarksAndGamesThatAreNone) {
                                "note: Bingo 2026-11-21: a row in Spent, but no tickets"}));
 }
 
+TEST_F(Check, FindsWhatIsStoredAsAnotherType) {
+    Make("Spent");
+    Make("PlayedBC49");
+    Sql("INSERT INTO Spent VALUES (1, x'42433439', 46347, 1), (2, 'BC49', 46347.0, 1)");
+    Sql("INSERT INTO PlayedBC49 VALUES (1, 46347, 1,2,3,4,5,6, 1.5, NULL)");
+    EXPECT_EQ(Findings(1), (Texts{"Spent ID1 1: Lottoflag is stored as another type",
+                                  "PlayedBC49 ID1 1: Regular is stored as another type",
+                                  "PlayedBC49 ID1 1: EarlyBird is stored as another type"}));
+}
+
+TEST_F(Check, DigitsAndTheNumbersOfAnAddOnMayBeDrawnTwice) {
+    for (const char* table : {"WinFLAPlay4", "WinExtra", "WinEncore", "PlayedONTPick3"}) Make(table);
+    Sql("INSERT INTO WinFLAPlay4 VALUES (1, 'FLAPlay4', 46347, 9,9,0,9);"
+        "INSERT INTO WinExtra VALUES (1, 'BC49', 46347, 9,9,7,9);"
+        "INSERT INTO WinEncore VALUES (1, 'Lotto649', 46347, 9,9,0,9,1,1, NULL)");
+    EXPECT_EQ(Findings(0), Texts());
+}
+
 TEST_F(Check, TellsWhereTheKeysHaveHoles) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 SELECT value, 46000 + value, 1,2,3,4,5,6,7 FROM json_each('[2,3,7,9]')");
@@ -156,6 +260,38 @@ TEST_F(Check, FindsTablesThatAreNotAsTheProgramMakesThem) {
                      "note: Mine: not made by Sorvane, which leaves it alone",
                      "note: view Seen: not made by Sorvane, which leaves it alone",
                      "note: trigger t: not made by Sorvane, which leaves it alone"}));
+}
+
+TEST_F(Check, AnIndexOfAnotherNameOrKindIsNotTheIndex) {
+    Make("WinBC49");
+    const auto told = [&](const std::string& index, const std::string& made) {
+        Sql("DROP INDEX \"WinBC49." + index + "\"; CREATE " + made);
+        const std::string line = Finding();
+        Sql("DROP TABLE WinBC49");
+        Make("WinBC49");
+        return line;
+    };
+    const std::string date = "WinBC49: the index over Date is missing or another";
+    const std::string key = "WinBC49: the index over ID1 is missing or another";
+    EXPECT_EQ(told("Date", "UNIQUE INDEX \"WinBC49.Date\" ON WinBC49 (Date)"), date);
+    EXPECT_EQ(told("Date", "INDEX \"Date\" ON WinBC49 (Date)"), date);
+    EXPECT_EQ(told("Date", "INDEX \"WinBC49.Date\" ON WinBC49 (Date, Ball_1)"), date);
+    EXPECT_EQ(told("Date", "INDEX \"WinBC49.Date\" ON WinBC49 (Date) WHERE Date > 0"), date);
+    EXPECT_EQ(told("ID1", "INDEX \"WinBC49.ID1\" ON WinBC49 (ID1)"), key);
+    Sql("DROP INDEX \"WinBC49.Date\"; CREATE INDEX \"winbc49.DATE\" ON WinBC49 (DATE)");
+    EXPECT_EQ(Findings(0), Texts());
+}
+
+TEST_F(Check, NamesTenHolesAmongTheKeys) {
+    Make("WinBC49");
+    const auto told = [&](int rows) {
+        Sql("DELETE FROM WinBC49; WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
+            std::to_string(rows) + ") INSERT INTO WinBC49 SELECT 2 * i, 46000 + i, 1,2,3,4,5,6,7 FROM n");
+        return Finding().substr(0, 70);
+    };
+    EXPECT_EQ(told(10), "WinBC49: no row has the ID1 1, 3, 5, 7, 9, 11, 13, 15, 17, 19, so that");
+    EXPECT_EQ(told(11), "WinBC49: no row has the ID1 1, 3, 5, 7, 9, 11, 13, 15, 17, 19, ..., so");
+    EXPECT_EQ(told(12), "WinBC49: no row has the ID1 1, 3, 5, 7, 9, 11, 13, 15, 17, 19, ..., so");
 }
 
 TEST_F(Check, AnIndexOverAnotherFieldIsNotTheIndex) {

@@ -95,6 +95,7 @@ TEST_F(CommandLine, WhatTakesLongerThanASecondShowsABarToWhoeverLooks) {
         if (command.front() == "renumber") Sql("UPDATE WinBC49 SET ID1 = 9 WHERE ID1 = 2");
         const std::string shown = words(command, true, 1001);
         EXPECT_TRUE(Tells(shown, bar)) << command.front() << ": " << shown;
+        EXPECT_TRUE(Tells(shown, "] 100 %")) << command.front() << ": " << shown;
         // Nothing of it stays.
         EXPECT_GT(shown.rfind("\r\x1b[K"), shown.rfind(bar)) << command.front();
     }
@@ -126,6 +127,20 @@ TEST(Bar, ComesBehindAWholeSecondAndShowsEachPartOfAHundredOnce) {
         EXPECT_EQ(words.str(), "\r\x1b[K");
     }
     EXPECT_EQ(words.str(), "\r\x1b[K");  // once
+    // Also of one thing alone, and nothing of it is shown as well.
+    now = 0;
+    Records::Progress one(outside, "Reading");
+    now = 1000;
+    EXPECT_EQ(told(one, 0, 1), "\r\x1b[KReading [" + std::string(30, '.') + "] 0 %");
+    words.str("");
+    one.Wipe();
+    EXPECT_EQ(words.str(), "\r\x1b[K");
+    EXPECT_EQ(told(one, 0.999, 1), "\r\x1b[KReading [" + std::string(29, '#') + ".] 99 %");
+}
+
+TEST_F(CommandLine, VersionIsTold) {
+    const std::string version = Do({"--version"}).data;
+    EXPECT_EQ(std::count(version.begin(), version.end(), '.'), 2) << version;
 }
 
 }  // namespace

@@ -269,6 +269,14 @@ TEST(Marks, AreReadAsOtherToolsWriteThem) {
     for (const char* text : {"2", "", "ja", "10"}) EXPECT_EQ(ReadMark(text), std::nullopt) << text;
 }
 
+TEST(Words, AreTheSameWhateverTheCaseOfTheirLetters) {
+    EXPECT_TRUE(SameWord("AMZ amz @[`{09", "amz AMZ @[`{09"));
+    EXPECT_FALSE(SameWord("@", "`"));
+    EXPECT_FALSE(SameWord("[", "{"));
+    EXPECT_FALSE(SameWord("ab", "abc"));
+    EXPECT_EQ(EssenceOf("AZaz 0_9 #@[`{/:\xC3\xA9"), "azaz09");
+}
+
 TEST(Numbers, AreReadWhole) {
     EXPECT_EQ(ReadWhole("7"), 7);
     EXPECT_EQ(ReadWhole("+07"), 7);

@@ -105,6 +105,24 @@ TEST_F(Draws, BringTheAddOnOfTheirRegion) {
                       "columns left aside: encore"));
 }
 
+// The number of a digit add-on is drawn for all games at once.
+TEST_F(Draws, OfTwoGamesShareTheNumberOfTheirAddOn) {
+    const auto draw = [&](const std::string& game, const std::string& row) {
+        return LinesOf(Run({"draws", game, Write("e.csv", "date,numbers,bonus,encore\n" + row)}).words);
+    };
+    const std::string day = "2026-11-14,1 2 3 4 5 6,7,";
+    EXPECT_EQ(draw("Ontario/Lotto 6/49", day + "123456\n"),
+              (Texts{"WinLotto649: 1 draw added", "WinEncore: 1 draw added"}));
+    EXPECT_EQ(draw("Lottario", day + "123456\n"),
+              (Texts{"WinLottario: 1 draw added", "WinEncore: 0 draws added, 1 there already"}));
+    EXPECT_EQ(draw("Lottario", day + "123457\n").at(1),
+              "WinEncore: 0 draws added, 1 with other numbers left alone (--replace takes the file's)");
+    EXPECT_EQ(Ask("SELECT * FROM WinEncore"), Texts{"1|Lotto649|46340|1|2|3|4|5|6|NULL"});
+    const std::string next = "2026-11-15,1 2 3 4 5 6,7,";
+    EXPECT_EQ(draw("Lottario", next + "123456\n" + next + "123457\n").at(0),
+              Path("e.csv") + ":3:1: 2026-11-15 is drawn twice in this file, with other numbers");
+}
+
 TEST_F(Draws, OfADateThatIsThereAreLeftAloneOrReplaced) {
     Make("WinBC49");
     Sql("INSERT INTO WinBC49 VALUES (1, 46340, 1,2,3,4,5,6,7), (2, 46341, 1,2,3,4,5,6,7)");
@@ -246,6 +264,43 @@ TEST_F(Tickets, BookTheUsualPriceOfEachDate) {
                   Write("k.csv", "date,numbers,wager\n2026-11-21,1 2,5\n2026-11-21,1 3,2\n"), "--spent"})
                   .words,
               "Spent: 7.00 booked for 1 date"));
+}
+
+TEST_F(Tickets, ThatCameFreeWithAnotherCostNothing) {
+    const std::vector<std::string> sums = {"2.00", "2.00", "2.00", "4.00", "4.00", "4.00", "6.00"};
+    std::string rows = "date,numbers\n";
+    for (std::size_t tickets = 1; tickets <= sums.size(); ++tickets) {
+        fs::remove_all(Path("data"));
+        rows += "2026-11-21,1 2 3 4 5 6 " + std::to_string(tickets + 6) + "\n";
+        EXPECT_TRUE(Tells(Do({"tickets", "Super 7", Write("s.csv", rows), "--spent"}).words,
+                          "\nSpent: " + sums[tickets - 1] + " booked for 1 date\n"))
+            << tickets;
+    }
+}
+
+TEST_F(Tickets, AWagerOfKenoIsStoredInSixteenBits) {
+    const auto told = [&](const std::string& wager) {
+        fs::remove_all(Path("data"));
+        return LinesOf(
+            Run({"tickets", "Daily Keno", Write("k.csv", "date,1,wager\n2026-11-21,5," + wager + "\n")})
+                .words);
+    };
+    for (const char* wager : {"0", "1", "$32767.00"})
+        EXPECT_EQ(told(wager), Texts{"PlayedONTKeno: 1 ticket added"}) << wager;
+    EXPECT_EQ(Ask("SELECT Wager FROM PlayedONTKeno"), Texts{"32767"});
+    for (const char* wager : {"-1", "32768", "0.50", "1.01"})
+        EXPECT_EQ(told(wager).at(0), Path("k.csv") + ":2:1: a wager is in whole dollars") << wager;
+}
+
+TEST_F(Tickets, NeedNoWagerWhereNoMoneyIsBookedOrTheGameHasOnePrice) {
+    const std::string file = Write("f.csv", "date,numbers,way,wager,encore\n2026-11-21,909,box,,123456\n");
+    EXPECT_EQ(Do({"tickets", "Ca$h 3", file}).words,
+              "columns left aside: encore\nPlayedFLACash3: 1 ticket added\n");
+    EXPECT_EQ(LinesOf(Do({"tickets", "Ontario/Pick 3", file, "--spent"}).words).at(1),
+              "PlayedEncore: 1 ticket added");
+    EXPECT_EQ(Do({"tickets", "Ontario/Pick 3", file, "--spent"}).words,
+              "PlayedONTPick3: 0 tickets added, 1 there already\n"
+              "PlayedEncore: 0 tickets added, 1 there already\n");
 }
 
 TEST_F(Tickets, BookWhatTheFileTellsAndOnlyTicketsThatAreNew) {

@@ -134,6 +134,11 @@ TEST_F(Export, NeverWritesOverAFileUnlessForced) {
     EXPECT_EQ(BytesOf(Path("all.json")).front(), '{');
     EXPECT_EQ(Run({"export", "--json", Path("all.json"), "--force"}).words,
               "2 tables written to " + Path("all.json") + "\n");
+    // A folder is nothing to write over, and a file is no folder.
+    EXPECT_TRUE(Tells(Run({"export", "--json", Path("out"), "--force"}).words, "this is there already"));
+    EXPECT_EQ(Do({"export", Path("new")}).words, "2 tables written to " + Path("new") + "\n");
+    EXPECT_EQ(Run({"export", Path("all.json")}).words,
+              "sorvane-records: " + Path("all.json") + ": this can't be made (75)\n");
     EXPECT_EQ(Run({"export"}).status, 2);
     EXPECT_EQ(Run({"export", Path("x"), "--json", Path("y")}).status, 2);
 }
@@ -201,6 +206,40 @@ TEST_F(Import, CountsOnBehindTheLargestKeyOfTheScratchTableToo) {
     Write("in/Temp.csv", "Ball_#,Ball_Freq\n10,4\n");
     Do({"import", Path("in")});
     EXPECT_EQ(Ask("SELECT ID1 FROM Temp ORDER BY rowid"), (Texts{"1", "9", "10"}));
+}
+
+TEST_F(Import, ARowOfTheScratchTableIsThereAlreadyIfItWasThereBefore) {
+    Write("in/Temp.csv", "ID1,Ball_#,Ball_Freq\n1,7,3\n1,7,3\n");
+    EXPECT_EQ(Do({"import", Path("in")}).words, "Temp: 2 rows added\n");
+    EXPECT_EQ(Do({"import", Path("in")}).words, "Temp: 0 rows added, 2 there already\n");
+    Write("in/Temp.csv", "ID1,Ball_#,Ball_Freq\n1,7,4\n");
+    EXPECT_EQ(Do({"import", Path("in")}).words, "Temp: 1 row added\n");
+}
+
+TEST_F(Import, TheLargestKeyIsGivenToo) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (2147483646, 46000, 1,2,3,4,5,6,7)");
+    Csv(",2026-11-21,1,2,3,4,5,6,7\n");
+    Do({"import", Path("in")});
+    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49"), (Texts{"2147483646", "2147483647"}));
+}
+
+TEST_F(Import, AFileMayLackWhatTheProgramsWritersLeaveOutAndNothingElse) {
+    Write("in/WinBC49.csv", "ID1,Ball_1,Ball_2,Ball_3,Ball_4,Ball_5,Ball_B\n");
+    Write("in/Winnings.csv", "ID1,Date\n");
+    Write("in/PlayedONTPick3.csv", "Ball_1,Ball_2,Ball_3,Date\n");
+    Write("in/PlayedEncore.csv", "Date,Number 1,Number 2,Number 3,Number 4,Number 5\n");
+    Write("in/WinWESTExtra.csv", "Lottoflag,Date,Number 1,Number 2,Number 3,Number 4,Number 5,Number 6\n");
+    Write("in/WinEarlyBird.csv", "Date,Lottoflag,Ball_1,Ball_2\n");
+    EXPECT_EQ(Findings(), (Texts{"Winnings.csv:1:1: the column Lottoflag is missing",
+                                 "Winnings.csv:1:1: the column Winnings is missing",
+                                 "WinBC49.csv:1:1: the column Date is missing",
+                                 "WinBC49.csv:1:1: the column Ball_6 is missing",
+                                 "PlayedONTPick3.csv:1:1: the column Way Played is missing",
+                                 "PlayedEncore.csv:1:1: the column Lottoflag is missing",
+                                 "PlayedEncore.csv:1:1: the column Number 6 is missing",
+                                 "WinWESTExtra.csv:1:1: the column Number 7 is missing",
+                                 "WinEarlyBird.csv:1:1: the column Ball_3 is missing"}));
 }
 
 TEST_F(Import, WithoutAKeyThatIsLeftIsRefusedUntilTheKeysAreCountedAnew) {
@@ -327,6 +366,22 @@ TEST_F(Import, RefusesAFolderWithoutCsvAndATableThatIsNotTheProgramsOwn) {
     Sql("CREATE TABLE WinBC49 (ID1 LONG)");
     Csv("1,2026-11-21,1,2,3,4,5,6,7\n");
     EXPECT_TRUE(Tells(Run({"import", Path("in")}).words, "WinBC49 is not as Sorvane makes it"));
+}
+
+TEST_F(Import, RefusesATableWithAFieldOfAnotherTypeOrName) {
+    for (const char* fields : {"ID1 LONG, Lottoflag TEXT(30), Date DATETIME, Spent LONG",
+                               "ID1 LONG, Lottoflag TEXT(30), Date DATETIME, Paid CURRENCY",
+                               "ID1 LONG, Lottoflag TEXT(30), Date DATETIME, Spent CURRENCY, More LONG",
+                               "ID1 LONG, Lottoflag TEXT(30), Date DATETIME"}) {
+        fs::remove_all(Path("data"));
+        world.WithDatabase();
+        Sql("CREATE TABLE Spent (" + std::string(fields) +
+            "); CREATE UNIQUE INDEX \"Spent.ID1\" ON Spent (ID1);"
+            "CREATE INDEX \"Spent.Date\" ON Spent (Date)");
+        Write("in/Spent.csv", "Lottoflag,Date,Spent\nBC49,2026-11-21,4\n");
+        EXPECT_TRUE(Tells(Run({"import", Path("in")}).words, "Spent is not as Sorvane makes it")) << fields;
+        EXPECT_TRUE(Tells(Run({"export", Path("out")}).words, "Spent is not as Sorvane makes it")) << fields;
+    }
 }
 
 TEST_F(Import, RefusesATableThatLacksAnIndex) {

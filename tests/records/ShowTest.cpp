@@ -32,6 +32,29 @@ TEST_F(Show, TellsTheSameAsJson) {
               "    \"spent\": \"2.00\",\n    \"won\": \"0.00\",\n    \"difference\": \"-2.00\"\n  }\n]\n");
 }
 
+TEST_F(Show, AsJsonTellsTitlesAndNoMoneyOfAnAddOn) {
+    Make("WinLotto649");
+    Make("WinEncore");
+    Sql(R"(INSERT INTO WinLotto649 VALUES (1, 46347, 1,2,3,4,5,6,7), (2, 46345, 1,2,3,4,5,6,7),
+                                          (3, 46346, 1,2,3,4,5,6,7);
+           INSERT INTO WinEncore VALUES (1, 'Lotto649', 46347, 1,2,3,4,5,6, NULL);)");
+    EXPECT_EQ(Do({"show", "--json"}).data,
+              "[\n  {\n    \"game\": \"Lotto649\",\n    \"title\": \"Lotto 6/49\",\n    \"tickets\": 0,\n"
+              "    \"draws\": 3,\n    \"first\": \"2026-11-19\",\n    \"last\": \"2026-11-21\",\n"
+              "    \"spent\": \"0.00\",\n    \"won\": \"0.00\",\n    \"difference\": \"0.00\"\n  },\n"
+              "  {\n    \"game\": \"Encore\",\n    \"title\": \"Encore\",\n    \"tickets\": 0,\n"
+              "    \"draws\": 1,\n    \"first\": \"2026-11-21\",\n    \"last\": \"2026-11-21\"\n  }\n]\n");
+}
+
+TEST_F(Show, PassesOverTheTablesOfOthers) {
+    world.WithDatabase();
+    Sql("CREATE TABLE Mine (Date DATETIME, Lottoflag TEXT(30)); INSERT INTO Mine VALUES (46000, 'BC49')");
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (1, 46340, 1,2,3,4,5,6,7)");
+    EXPECT_EQ(LinesOf(Do({"show"}).data).at(1),
+              "BC49        0      1  2026-11-14  2026-11-14   0.00  0.00        0.00");
+}
+
 TEST_F(Show, TakesTheFolderThatIsTold) {
     Make("Spent");
     Sql("INSERT INTO Spent VALUES (1, 'BC49', 46347, 1)");
@@ -55,6 +78,9 @@ TEST_F(Show, RowsOfGamesThatNobodyKnowsAreLeftOut) {
     Make("Spent");
     Sql("INSERT INTO Spent VALUES (1, 'Bingo', 46347, 1), (2, NULL, 46347, 1), (3, 'BC49', 'once', 1)");
     EXPECT_EQ(LinesOf(Do({"show"}).data).size(), 2U);
+    Sql("INSERT INTO Spent VALUES (4, 'BC49', 46347, 2), (5, 'BC49', 46347, 'much')");
+    EXPECT_EQ(LinesOf(Do({"show"}).data).at(1),
+              "BC49        0      0  2026-11-21  2026-11-21   2.00  0.00       -2.00");
 }
 
 TEST_F(Show, FieldsAreFoundByTheirNames) {
