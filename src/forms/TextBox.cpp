@@ -17,10 +17,7 @@ void TextBox::SetText(std::string_view text) { setText(ToQt(text)); }
 
 void TextBox::SelectAll() { SelectWhole(); }
 
-void TextBox::SetCaret(int position) {
-    deselect();
-    setCursorPosition(position);
-}
+void TextBox::SetCaret(int position) { setCursorPosition(position); }
 
 void TextBox::SetMaxLength(int characters) { setMaxLength(characters > 0 ? characters : NoLimit); }
 int TextBox::MaxLength() const { return maxLength() == NoLimit ? 0 : maxLength(); }

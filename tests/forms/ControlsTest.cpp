@@ -666,5 +666,141 @@ TEST(Rule, IsALineAcrossThatIsSeenInEveryPalette) {
     }
 }
 
+// In the middle, in its own proportions; and nothing of it outside of its frame.
+TEST(Picture, IsAsLargeAsFitsAndHasNothingOutsideOfItsFrame) {
+    const TempFolder folder;
+    const std::string path = folder.File("wide.svg");
+    std::ofstream(path)
+        << "<svg xmlns='http://www.w3.org/2000/svg' width='40' height='20' viewBox='0 0 40 20'>"
+           "<rect x='-100' y='-100' width='300' height='300' fill='red'/></svg>";
+    Picture picture("Picture1");
+    picture.SetFile(path);
+    picture.resize(80, 80);
+    const QImage seen = picture.grab().toImage();
+    QRect red;
+    for (int y = 0; y < 80; ++y)
+        for (int x = 0; x < 80; ++x)
+            if (seen.pixelColor(x, y) == QColor(Qt::red)) red |= QRect(x, y, 1, 1);
+    EXPECT_EQ(red, QRect(0, 20, 80, 40));
+    EXPECT_EQ(picture.heightForWidth(50), 25);
+    EXPECT_EQ(Picture("picNone").heightForWidth(50), 0);
+}
+
+TEST(WindowIcon, IsDrawnInTheSizesThatAreAskedForWithNothingBesideTheDrawing) {
+    const TempFolder folder;
+    const std::string path = folder.File("icon.svg");
+    std::ofstream(path) << "<svg xmlns='http://www.w3.org/2000/svg' width='16' height='16'>"
+                           "<rect x='8' width='8' height='16' fill='blue'/></svg>";
+    const QIcon icon = WindowIcon(path);
+    EXPECT_EQ(icon.availableSizes(), (QList<QSize>{{16, 16}, {32, 32}, {64, 64}, {128, 128}}));
+    for (const int side : {16, 32, 64, 128}) {
+        const QImage drawn = icon.pixmap(side).toImage();
+        EXPECT_EQ(drawn.pixelColor(side - 2, 2), QColor(Qt::blue)) << side;
+        EXPECT_EQ(drawn.pixelColor(2, 2).alpha(), 0) << side;
+    }
+}
+
+// Beside the caption; in smaller letters where there is less room than they need.
+TEST(LabelFrame, AHintStandsAtTheRightOfTheHeading) {
+    LabelFrame frame("fraTickets", "Tickets");
+    frame.SetHint([] { return std::string("3 of 6 numbers"); });
+    QFont heavy = frame.font();
+    heavy.setBold(true);
+    const int caption = QFontMetrics(heavy).horizontalAdvance("Tickets");
+    const int hint = frame.fontMetrics().horizontalAdvance("3 of 6 numbers");
+    const int gap = Look::Gap(frame), heading = Look::Heading(frame);
+    const auto ink = [&](int width) {
+        frame.resize(width, 100);
+        const QImage seen = frame.grab().toImage();
+        const QRgb paper = seen.pixel(caption + gap / 2, heading / 2);
+        QRect found;
+        for (int y = 0; y < heading; ++y)
+            for (int x = caption + gap / 2; x < width; ++x)
+                if (seen.pixel(x, y) != paper) found |= QRect(x, y, 1, 1);
+        return found;
+    };
+    const QRect wide = ink(caption + gap + hint + 40);
+    EXPECT_NEAR(wide.right(), frame.width(), 4);
+    EXPECT_NEAR(wide.width(), hint, 4);
+    EXPECT_NEAR(wide.center().y(), heading / 2, 3);
+    EXPECT_EQ(ink(caption + gap + hint).width(), wide.width());
+    const QRect narrow = ink(caption + gap + hint - 10);
+    EXPECT_LE(narrow.width(), hint - 10);
+    EXPECT_GE(narrow.width(), hint - 30);
+    EXPECT_GE(narrow.left(), caption + gap - 2);
+    EXPECT_EQ("3 of 6 numbers", frame.accessibleDescription().toStdString());
+}
+
+TEST(LabelFrame, AHintIsToldAndPaintedAnewWhenItIsRefreshed) {
+    LoggingWindow window;
+    LabelFrame frame("fraTickets", "Tickets");
+    window.LayOut(frame);
+    Open(window);
+    frame.RefreshHint();
+    EXPECT_EQ("", frame.accessibleDescription().toStdString());
+    std::string hint = "none";
+    frame.SetHint([&] { return hint; });
+    frame.RefreshHint();
+    Person::Settle();
+    struct Paints : QObject {
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::Paint;
+            return false;
+        }
+        int count = 0;
+    } paints;
+    frame.installEventFilter(&paints);
+    hint = "1 of 6";
+    frame.RefreshHint();
+    EXPECT_EQ("1 of 6", frame.accessibleDescription().toStdString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+}
+
+TEST(ComboBox, EnterAddsNoEntry) {
+    LoggingWindow window;
+    ComboBox list("cboWager");
+    window.LayOut(list);
+    Open(window);
+    list.AddItem("1");
+    list.SetFocus();
+    Person person;
+    person.Type("7");
+    person.Enter();
+    EXPECT_EQ(1, list.count());
+    EXPECT_EQ("7", list.Text());
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { list.List(1); }));
+    EXPECT_EQ(ErrorNumber::SubscriptOutOfRange, ErrorOf([&] { list.List(-1); }));
+    EXPECT_EQ("1", list.List(0));
+}
+
+TEST_F(SelectAll, AMoveAsFarAsADragSelectsAnew) {
+    field.SetText("12345678901234567890");
+    const int far = QApplication::startDragDistance();
+    person.Press(field, QPoint(12, field.height() / 2));
+    person.MoveTo(field, QPoint(12 + far - 1, field.height() / 2));
+    EXPECT_EQ("12345678901234567890", field.selectedText());
+    person.MoveTo(field, QPoint(12 + far, field.height() / 2));
+    EXPECT_NE("12345678901234567890", field.selectedText());
+    person.Release();
+}
+
+TEST_F(FullBox, KeysThatTypeNothingStillWorkInIt) {
+    Paste(QString(32767, 'x'));
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    person.Key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().size(), 32767);
+    person.Key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(box.textCursor().position(), 32767);
+    // A letter typed with the right Alt key comes with these two.
+    QKeyEvent letter(QEvent::KeyPress, Qt::Key_E, Qt::ControlModifier | Qt::AltModifier, "e");
+    QApplication::sendEvent(&box, &letter);
+    EXPECT_TRUE(box.Text() == std::string(32767, 'x'));
+    person.Key(Qt::Key_Backspace);
+    Paste(QString::fromUtf8("\xF0\x9F\x8E\xB1"));  // one character of two halves, for which one place is free
+    EXPECT_TRUE(box.Text() == std::string(32766, 'x'));
+    QApplication::sendEvent(&box, &letter);
+    EXPECT_TRUE(box.Text() == std::string(32766, 'x') + "e");
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QClipboard>
+#include <QLayout>
 #include <QMenu>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -569,6 +570,25 @@ TEST_F(Copying, ByTheKeyTheMenuComesBelowTheRowInHandAndIsGoneAfterwards) {
 TEST_F(Dates, TheFocusComesByTheKeyAndByThePressOnly) {
     EXPECT_EQ(date.focusPolicy(), Qt::StrongFocus);
     EXPECT_EQ(date.timeSpec(), Qt::UTC);
+}
+
+TEST_F(Dates, TheCalendarHasRoomForItsRowsAndItsOutline) {
+    person.Click(date, QPoint(date.width() - 8, date.height() / 2));
+    const auto* calendar = QApplication::activePopupWidget()->findChild<QCalendarWidget*>();
+    ASSERT_TRUE(calendar);
+    QCalendarWidget plain;
+    plain.layout()->setContentsMargins(1, 1, 1, 1);
+    EXPECT_EQ(calendar->layout()->contentsMargins(), QMargins(1, 1, 1, 1));
+    EXPECT_EQ(calendar->minimumSizeHint(),
+              plain.minimumSizeHint() + QSize(2, 2 + 7 * calendar->fontMetrics().height() / 4));
+    EXPECT_EQ(calendar->sizeHint(), calendar->minimumSizeHint());
+    const QColor weekend = Look::Weekend(calendar->palette());
+    for (int day = 1; day <= 7; ++day)
+        EXPECT_EQ(
+            calendar->weekdayTextFormat(static_cast<Qt::DayOfWeek>(day)).foreground().color() == weekend,
+            day >= 6)
+            << day;
+    person.Key(Qt::Key_Escape);
 }
 
 }  // namespace

@@ -210,5 +210,21 @@ TEST_F(Tabs, TwoButtonsWithOneLetterTakeTurnsAndAreNotClicked) {
     EXPECT_EQ((Log{"-txtNoOfTickets", "+cmdCancel", "-cmdCancel"}), window.log);
 }
 
+TEST_F(Tabs, ATabThatIsDisabledIsPassedOver) {
+    window.SSTab1.setTabEnabled(1, false);
+    person.Key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(2, window.SSTab1.Tab());
+    person.Key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(0, window.SSTab1.Tab());
+    window.cmdCancel.SetEnabled(false);
+    person.AccessKey('c');  // of the second tab too
+    EXPECT_EQ(0, window.SSTab1.Tab());
+    window.SSTab1.setTabEnabled(2, false);
+    window.log.clear();
+    person.Key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(0, window.SSTab1.Tab());
+    EXPECT_EQ(Log{}, window.log);
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -9,11 +9,13 @@
 #include <QPushButton>
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 #include "Fixture.h"
 #include "forms/BusyPointer.h"
+#include "forms/Menu.h"
 #include "forms/MessageBoxes.h"
 #include "forms/TextBox.h"
 
@@ -363,6 +365,19 @@ TEST(MessageBox, TextBeginsAtTheLeftEdgeAndButtonsBearNoPictures) {
     }
 }
 
+TEST(MessageBox, TextStandsOffThePictureWhereThereIsOne) {
+    Person person;
+    person.Expect("Sorvane", "Disk error", Answer::Ok, BoxStyle::Stop, [&] {
+        QWidget& box = person.Front();
+        const auto& picture = Person::FindIn<QLabel>(box, "qt_msgboxex_icon_label");
+        const auto& text = Person::FindIn<QLabel>(box, "qt_msgbox_label");
+        EXPECT_FALSE(picture.pixmap().isNull());
+        const int between = text.mapTo(&box, QPoint(text.indent(), 0)).x() - picture.geometry().right();
+        EXPECT_GE(between, 9);
+    });
+    MessageBoxes().MsgBox("Disk error", BoxStyle::Stop);
+}
+
 TEST(MessageBox, TextIsPlainAndItsLineBreaksAreOneLineEach) {
     Person person;
     person.Expect("Sorvane", "<b>one</b>\r\n\r\ntwo ", Answer::Ok, BoxStyle::Ok, [] {
@@ -391,7 +406,9 @@ TEST(MessageBox, ALineLongerThanTheScreenIsBroken) {
         const QWidget& box = *QApplication::activeModalWidget();
         const auto& label = Person::FindIn<QLabel>(box, "qt_msgbox_label");
         EXPECT_TRUE(box.rect().contains(QRect(label.mapTo(&box, QPoint()), label.size())));
-        EXPECT_LE(box.width(), box.screen()->availableSize().width());
+        const int screen = box.screen()->availableSize().width();
+        EXPECT_LE(box.width(), screen);
+        EXPECT_EQ(box.layout()->totalMinimumSize().width(), std::min(screen - 480, 1000));
     });
     MessageBoxes().MsgBox(line);
 }
@@ -423,6 +440,16 @@ TEST(BusyPointer, GivesWayToABox) {
                   [] { EXPECT_EQ(Qt::ArrowCursor, QApplication::overrideCursor()->shape()); });
     MessageBoxes().MsgBox("Hello");
     EXPECT_EQ(Qt::WaitCursor, QApplication::overrideCursor()->shape());
+}
+
+TEST(Window, OpensAsWideAsItsMenu) {
+    LoggingWindow window;
+    MenuBar bar;
+    window.layout()->setMenuBar(&bar);
+    for (int i = 0; i < 7; ++i) bar.AddMenu("mnuFile", "Many numbers");
+    Open(window);
+    EXPECT_GE(window.width(), bar.sizeHint().width());
+    EXPECT_LT(window.width(), bar.sizeHint().width() + 100);
 }
 
 }  // namespace
