@@ -269,10 +269,10 @@ Value TableRecordset::Get(int ordinal) {
     return values_[At(ordinal)];
 }
 
-// The tallies read nothing but plain numbers, a hundred thousand at a time.
+// The tallies read nothing but plain numbers, a hundred thousand at a time. In a walk no row is in hand.
 int TableRecordset::GetInt(int ordinal) {
     const FieldType type = ColumnAt(ordinal).type;
-    if (walk_ != nullptr && !pending_ && (type == FieldType::Integer || type == FieldType::Long)) {
+    if (walk_ != nullptr && (type == FieldType::Integer || type == FieldType::Long)) {
         sqlite3_value* cell = walk_->ValueAt(ordinal + 1);
         if (sqlite3_value_type(cell) == SQLITE_INTEGER) {
             const std::int64_t number = sqlite3_value_int64(cell);
@@ -284,7 +284,7 @@ int TableRecordset::GetInt(int ordinal) {
 
 // Compares the key without copying it: a shared table has many rows to look at.
 bool TableRecordset::Holds(int ordinal, std::string_view text) {
-    if (walk_ == nullptr || pending_) return RecordsetState::Holds(ordinal, text);
+    if (walk_ == nullptr) return RecordsetState::Holds(ordinal, text);
     sqlite3_value* cell = walk_->ValueAt(ordinal + 1);
     if (sqlite3_value_type(cell) != SQLITE_TEXT) return RecordsetState::Holds(ordinal, text);
     const auto* bytes = static_cast<const char*>(sqlite3_value_blob(cell));

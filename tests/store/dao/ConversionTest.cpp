@@ -76,6 +76,10 @@ TEST_F(Conversions, IntoACurrencyField) {
                      {7, "7"},
                      {Currency::FromTenThousandths(125), "0.0125"},
                      {922337203685477L, "922337203685477"},
+                     {-922337203685477L, "-922337203685477"},
+                     {-922337203685478L, "error 3421"},
+                     {"1000000000000.5", "1000000000000.5"},
+                     {"-1000000000000.25", "-1000000000000.25"},
                      {922337203685478L, "error 3421"},
                      {"922337203685477.5807", "error 3421"},
                      {1e300, "error 3421"},
@@ -98,6 +102,10 @@ TEST_F(Conversions, IntoADateField) {
                    {"abc", "error 3421"},
                    {"BC49", "error 3421"},
                    {3000000, "error 3421"},
+                   {-657434, "-657434"},
+                   {-657435, "error 3421"},
+                   {2958465.5, "2958465.5"},
+                   {2958466, "error 3421"},
                    {Date::FromDays(1e10), "error 3421"},
                    {Infinite, "error 3421"},
                    {NoNumber, "error 3421"},
@@ -117,6 +125,36 @@ TEST_F(Conversions, IntoATextField) {
                         {"123456789012345678901234567890", "123456789012345678901234567890"},
                         {"1234567890123456789012345678901", "error 3163"},
                         {Value(), "NULL"}});
+}
+
+TEST_F(Conversions, ATextFieldWithoutALengthTakesAny) {
+    Plain().Ask("CREATE TABLE Free (a TEXT, b TEXT(1)); INSERT INTO Free VALUES ('x', 'y')");
+    Database db = Open();
+    Recordset rs = db.OpenTable("Free");
+    rs.Edit();
+    rs[0] = std::string(300, 'x');
+    EXPECT_EQ(ErrorOf([&] { rs[1] = "xy"; }), ErrorNumber::TextTooLong);
+    rs.Update();
+    EXPECT_EQ(Plain().Ask("SELECT length(a), b FROM Free"), (Cells{"300", "y"}));
+}
+
+TEST_F(Conversions, AStoredNumberIsAnAmountOrADateAsFarAsThoseReach) {
+    const auto read = [&](const char* field, const char* number) {
+        Plain().Ask("UPDATE Every SET " + std::string(field) + " = " + number);
+        Database db = Open();
+        const Value value = db.OpenTable("Every")[field];
+        return std::holds_alternative<Currency>(value.Get()) || std::holds_alternative<Date>(value.Get());
+    };
+    for (const char* amount :
+         {"922337203685477", "-922337203685477", "922337203685476.5", "-922337203685476.5"})
+        EXPECT_TRUE(read("Amount", amount)) << amount;
+    for (const char* amount :
+         {"922337203685478", "-922337203685478", "922337203685477.5", "-922337203685477.5"})
+        EXPECT_FALSE(read("Amount", amount)) << amount;
+    for (const char* day : {"-657434", "2958465", "-657433.5", "2958465.5"})
+        EXPECT_TRUE(read("Date", day)) << day;
+    for (const char* day : {"-657435", "2958466", "-657434.5", "2958466.5"})
+        EXPECT_FALSE(read("Date", day)) << day;
 }
 
 TEST_F(Conversions, TheLengthOfATextCountsCharactersNotBytes) {
@@ -255,6 +293,8 @@ TEST(Values, ReadAsAmountsDatesAndFlagsOrRaise) {
     EXPECT_EQ(Value(2.25).ToCurrency(), Currency::FromText("2.25"));
     EXPECT_EQ(ErrorOf([] { Value("x").ToCurrency(); }), ErrorNumber::TypeMismatch);
     EXPECT_EQ(ErrorOf([] { Value(1e16).ToCurrency(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(Value(922337203685476.5).ToCurrency(), Currency::FromText("922337203685476.5"));
+    EXPECT_EQ(ErrorOf([] { Value(922337203685477.0).ToCurrency(); }), ErrorNumber::Overflow);
     EXPECT_EQ(ErrorOf([] { Value(std::numeric_limits<long>::max()).ToCurrency(); }), ErrorNumber::Overflow);
     EXPECT_EQ(Value(17).ToDate(), Date::FromDays(17));
     EXPECT_EQ(Value("2026-11-21").ToDate(), Date::FromYmd(2026, 11, 21));

@@ -65,9 +65,9 @@ TEST_F(ForeignFiles, AFileOfNoBytesIsAnEmptyDatabase) {
 
 TEST_F(ForeignFiles, AFileThatIsNoDatabase) {
     for (const std::string& bytes :
-         {std::string("xy"), std::string("This is a letter, not a database.\n"), std::string(100, '\0'),
-          std::string(8192, '\xff'), std::string("SQLite format 3"), std::string("SQLite format 3\0", 16),
-          "Standard Jet DB" + std::string(4096, '\0')}) {
+         {std::string("x"), std::string("xy"), std::string("This is a letter, not a database.\n"),
+          std::string(100, '\0'), std::string(8192, '\xff'), std::string("SQLite format 3"),
+          std::string("SQLite format 3\0", 16), "Standard Jet DB" + std::string(4096, '\0')}) {
         WriteBytes(bytes);
         EXPECT_EQ(NumberOfOpening(), ErrorNumber::NotADatabase) << bytes.size();
         EXPECT_EQ(Bytes(), bytes);
@@ -319,6 +319,20 @@ TEST_F(ForeignFiles, ReckonedFieldsDoNotCountAsFields) {
     EXPECT_EQ(ErrorOf([&] { rs.Index("twice"); }), ErrorNumber::IndexNotFound);
     rs.AddNew();
     EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::NullInKey);
+}
+
+TEST_F(ForeignFiles, TablesThatBelongTogetherInAnotherToolDoNotHere) {
+    CreateWithDays({10});
+    Plain().Ask("CREATE TABLE Child (ID1 LONG REFERENCES Every (ID1) ON DELETE CASCADE)");
+    Database db = Open();
+    Recordset rs = db.OpenTable("Child");
+    for (const int id : {1, 99}) {
+        rs.AddNew();
+        rs[0] = id;
+        rs.Update();
+    }
+    db.OpenTable("Every").Delete();
+    EXPECT_EQ(rs.RecordCount(), 2);
 }
 
 TEST_F(ForeignFiles, AMisspeltFieldIsNotTakenForAText) {

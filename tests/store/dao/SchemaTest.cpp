@@ -28,6 +28,11 @@ TEST_F(Schema, AFileThatExistsIsNotMadeAgain) {
     EXPECT_EQ(Plain().One("SELECT count(*) FROM Every"), "1");
 }
 
+TEST_F(Schema, ThereIsOneWorkspace) {
+    EXPECT_EQ(ErrorOf([&] { engine_.Workspaces(1, flags_); }), ErrorNumber::NoSuchField);
+    EXPECT_EQ(ErrorOf([&] { engine_.Workspaces(-1, flags_); }), ErrorNumber::NoSuchField);
+}
+
 TEST_F(Schema, AMissingFolderIsTold) {
     path_ = folder_.File("none/sorvane.mdb");
     EXPECT_EQ(ErrorOf([&] { Create(); }), ErrorNumber::PathNotFound);

@@ -318,6 +318,104 @@ TEST_F(Verbs, AMoveDropsTheRowInHand) {
     EXPECT_EQ(rs.RecordCount(), 1);
 }
 
+TEST_F(Verbs, EveryVerbThatMovesDropsTheRowInHand) {
+    CreateWithDays({10, 20, 30});
+    for (const bool oneCommit : {false, true}) {
+        Database db = Open();
+        if (oneCommit) db.OneCommit();
+        Recordset rs = db.OpenTable("Every");
+        const std::function<void()> verbs[] = {[&] { rs.MoveLast(); },
+                                               [&] { rs.MoveLast(); },  // to the row added meanwhile
+                                               [&] { rs.MoveFirst(); },
+                                               [&] { rs.MoveNext(); },
+                                               [&] { rs.Delete(); },
+                                               [&] { rs.Index("Date"); },
+                                               [&] { EXPECT_NE(ErrorOf([&] { rs.Edit(); }), 0); },
+                                               [&] { rs.Seek(20); },
+                                               [&] { rs.Seek(99); }};
+        int id = oneCommit ? 20 : 10;
+        for (const auto& verb : verbs) {
+            if (++id % 10 == 2) Add(rs, id, 40);
+            rs.AddNew();
+            rs[0] = 77;
+            verb();
+            EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::UpdateWithoutEdit) << id;
+            EXPECT_EQ(ErrorOf([&] { rs[0] = 77; }), ErrorNumber::UpdateWithoutEdit) << id;
+        }
+        EXPECT_EQ(rs.RecordCount(), 3);
+    }
+    EXPECT_EQ(Plain().One("SELECT count(*) FROM Every WHERE ID1 = 77"), "0");
+}
+
+TEST_F(Verbs, ARowWithoutAKeyCanBeChangedInItsOtherFields) {
+    CreateWithDays({10});
+    Plain().Ask("UPDATE Every SET ID1 = NULL; CREATE UNIQUE INDEX Theirs ON Every (Lottoflag)");
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Edit();
+    rs[4] = 5;
+    rs.Update();
+    // Only what the program calls so is the primary key.
+    Add(rs, 2, 20);
+    Add(rs, 3, 20);
+    EXPECT_EQ(Plain().Ask("SELECT ID1, \"# of Balls\" FROM Every"), (Cells{"NULL", "5", "2", "0", "3", "0"}));
+}
+
+TEST_F(Verbs, NothingHoldsTheFileOnceTheDatabaseIsClosed) {
+    CreateWithDays({10, 20, 30, 40});
+    const auto handles = [&] {
+        int count = 0;
+        for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+            std::error_code none;
+            if (std::filesystem::read_symlink(entry, none) == std::filesystem::canonical(path_)) ++count;
+        }
+        return count;
+    };
+    for (int kind = 0; kind < 4; ++kind) {
+        Database db = Open();
+        Recordset rs = db.OpenTable("Every");
+        if (kind == 0) Add(rs, 9, 10);
+        if (kind == 1) rs.RecordCount();
+        if (kind == 2) rs.Delete();
+        if (kind == 3) rs.MoveNext();
+        EXPECT_EQ(handles(), 1) << kind;
+        db.Close();
+        EXPECT_EQ(handles(), 0) << kind;
+        EXPECT_EQ(ErrorOf([&] { rs.MoveFirst(); }), ErrorNumber::ObjectClosed);
+    }
+}
+
+TEST_F(Verbs, CountingTheRowsHoldsNobodyUp) {
+    CreateWithDays({10});
+    PlainTool other(path_, 0);
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    EXPECT_EQ(rs.RecordCount(), 1);
+    EXPECT_EQ(other.Result("BEGIN EXCLUSIVE; INSERT INTO Every (ID1) VALUES (2); COMMIT"), SQLITE_OK);
+    EXPECT_EQ(rs.RecordCount(), 2);
+    EXPECT_EQ(other.Result("BEGIN EXCLUSIVE; DELETE FROM Every; COMMIT"), SQLITE_OK);
+    EXPECT_EQ(rs.RecordCount(), 0);
+}
+
+TEST_F(Verbs, SqlRowsHaveTheTypesOfTheirFieldsAndWhatIsReckonedItsOwn) {
+    CreateWithDays({46347});
+    Plain().Ask("UPDATE Every SET Amount = 2.5, Regular = 7, Lottoflag = 'BC49'");
+    Database db = Open();
+    Recordset all = db.OpenSql("SELECT [Date], [Amount], [Regular], [ID1] + 1, count(*) FROM [Every]");
+    EXPECT_EQ(all[0].ToText(), "2026-11-21");
+    EXPECT_EQ(all[1].ToText(), "2.5");
+    EXPECT_EQ(all[2].ToText(), "True");
+    EXPECT_EQ(all[3].ToText(), "2");
+    EXPECT_EQ(all[4].ToText(), "1");
+    for (const char* name : {"\"Every\"", "`Every`", "[every]", "EVERY"})
+        EXPECT_EQ(db.OpenSql("SELECT 'from x', [ID1] FROM " + std::string(name))[1].ToInt(), 1) << name;
+    EXPECT_EQ(ErrorOf([&] { db.OpenSql("SELECT * FROM [Win] WHERE [ID1] IN (SELECT [ID1] FROM [Every])"); }),
+              ErrorNumber::SqlTableNotFound);
+    EXPECT_EQ(db.OpenSql("SELECT * FROM [Every] WHERE [ID1] NOT IN (SELECT [a] FROM (SELECT 5 AS [a]))")
+                  .RecordCount(),
+              1);
+}
+
 TEST_F(Verbs, ARowThatWasRefusedCanBeMendedAndWritten) {
     CreateWithDays({10});
     Database db = Open();
