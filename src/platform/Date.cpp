@@ -13,12 +13,12 @@ namespace chrono = std::chrono;
 // 1 January 1970, the first day of the library's calendar.
 constexpr long SystemDay = 25'569;
 
-// The ranges come first: the library's years, months and days keep only the low bits of a number.
+// The library's months and days keep only the low bits of a number.
 bool IsDate(int year, int month, int day) {
-    if (year < 1 || year > 9999 || month < 1 || month > 12 || day < 1 || day > 31) return false;
-    return chrono::year_month_day(chrono::year(year), chrono::month(static_cast<unsigned>(month)),
-                                  chrono::day(static_cast<unsigned>(day)))
-        .ok();
+    if (year < 1 || year > 9999) return false;
+    const chrono::year_month_day date(chrono::year(year), chrono::month(static_cast<unsigned>(month)),
+                                      chrono::day(static_cast<unsigned>(day)));
+    return date.ok() && int(unsigned(date.month())) == month && int(unsigned(date.day())) == day;
 }
 
 double DaysOf(int year, int month, int day) {

@@ -109,7 +109,7 @@ Rounded Round(Currency amount, const Section& section) {
 
 std::string WholeDigits(std::uint64_t whole, const Section& section) {
     std::string digits = whole == 0 ? std::string() : std::to_string(whole);
-    if (digits.size() < section.whole.least) digits.insert(0, section.whole.least - digits.size(), '0');
+    digits.insert(0, std::max(section.whole.least, digits.size()) - digits.size(), '0');
     if (!section.grouped) return digits;
     for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, 1, ',');
     return digits;
@@ -117,7 +117,7 @@ std::string WholeDigits(std::uint64_t whole, const Section& section) {
 
 std::string FractionDigits(std::string fraction, const Section& section) {
     fraction.erase(fraction.find_last_not_of('0') + 1);
-    if (fraction.size() < section.fraction.least) fraction.resize(section.fraction.least, '0');
+    fraction.resize(std::max(section.fraction.least, fraction.size()), '0');
     return fraction;
 }
 
@@ -146,10 +146,10 @@ double CDbl(std::string_view text) {
 }
 
 Integer CInt(std::string_view text) {
-    const std::int64_t value = WholeNumber(text).Scaled(0);
-    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
-        Raise(ErrorNumber::Overflow);
-    return Integer(static_cast<int>(value));
+    using Limits = std::numeric_limits<int>;
+    // What is cut off here is too large for 16 bits in any case.
+    return Integer(static_cast<int>(
+        std::clamp<std::int64_t>(WholeNumber(text).Scaled(0), Limits::min(), Limits::max())));
 }
 
 Integer IntegerPart(std::string_view text) {
@@ -200,8 +200,8 @@ std::string Format(Currency amount, std::string_view picture) {
 }
 
 std::string PadLeft(std::string_view text, int width) {
-    const std::size_t wanted = width < 0 ? 0 : static_cast<std::size_t>(width);
-    std::string padded(text.size() < wanted ? wanted - text.size() : 0, ' ');
+    const auto wanted = static_cast<std::size_t>(std::max(width, 0));
+    std::string padded(std::max(wanted, text.size()) - text.size(), ' ');
     return padded.append(text);
 }
 

@@ -73,6 +73,16 @@ TEST(CIntTest, LettersAreATypeMismatch) {
     EXPECT_EQ(int{CInt("1,000")}, 1'000);
 }
 
+TEST(IntegerPartTest, RoundsDownTo16Bits) {
+    EXPECT_EQ(int{IntegerPart("32767.9")}, 32'767);
+    EXPECT_EQ(int{IntegerPart("-32768")}, -32'768);
+    EXPECT_EQ(int{IntegerPart("-0.5")}, -1);
+    EXPECT_EQ(int{IntegerPart(" 1,000.99")}, 1'000);
+    for (const std::string_view text : {"32768", "-32768.1", "65536", "1000000000000", "-1000000000000"})
+        EXPECT_EQ(ErrorOf([&] { IntegerPart(text); }), 6) << text;
+    EXPECT_EQ(ErrorOf([] { IntegerPart("one"); }), 13);
+}
+
 TEST(StrTest, WritesPlainDigits) {
     EXPECT_EQ(Str(0), "0");
     EXPECT_EQ(Str(-5), "-5");
@@ -127,6 +137,8 @@ TEST(PadLeftTest, PutsBlanksBeforeShortTextsAndLeavesLongOnes) {
     EXPECT_EQ(PadLeft("", 2), "  ");
     EXPECT_EQ(PadLeft("a", 0), "a");
     EXPECT_EQ(PadLeft("a", -1), "a");
+    EXPECT_EQ(PadLeft("", 0), "");
+    EXPECT_EQ(PadLeft("", -1), "");
 }
 
 TEST(JoinNumbersTest, PutsCommaAndBlankBetween) {
