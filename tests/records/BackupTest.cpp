@@ -121,6 +121,20 @@ TEST_F(Backup, OfAFileThatIsNotWholeIsRefusedAndLeavesNothing) {
     EXPECT_EQ(In("data/backups"), Texts());
 }
 
+TEST_F(Backup, OfALargeFileIsMadeInParts) {
+    Sql("CREATE TABLE Large (a); INSERT INTO Large VALUES (zeroblob(4000000))");
+    terminal = true;
+    tick = 1001;
+    const std::string words = Do({"backup", Path("b.mdb")}).words;
+    std::vector<int> shown;
+    for (std::size_t at = words.find("] "); at != std::string::npos; at = words.find("] ", at + 1))
+        shown.push_back(std::stoi(words.substr(at + 2)));
+    // Of about a thousand pages 256 at once.
+    ASSERT_EQ(shown.size(), 4U) << words;
+    const int near[] = {26, 52, 78, 100};
+    for (std::size_t i = 0; i < 4; ++i) EXPECT_NEAR(shown[i], near[i], 2);
+}
+
 TEST_F(Backup, OfNoFileSaysSoAndMakesNoFolder) {
     fs::remove(File());
     EXPECT_EQ(Run({"backup"}).words,
@@ -291,6 +305,18 @@ TEST_F(Renumber, LeavesTablesAloneThatHaveNoKeysOfTheProgram) {
     EXPECT_TRUE(Tells(Do({"renumber"}).words, "every key is in its place"));
     EXPECT_EQ(Ask("SELECT ID1 FROM Temp UNION ALL SELECT ID1 FROM Notes UNION ALL SELECT ID1 FROM Spent"),
               (Texts{"4", "5", "6"}));
+}
+
+TEST_F(Renumber, LeavesThemAloneAlsoWhereAnotherTableIsCountedAnew) {
+    Make("Temp");
+    Sql(R"(INSERT INTO Temp VALUES (4, 7, 3);
+           CREATE TABLE Notes (ID1 LONG); INSERT INTO Notes VALUES (5);
+           CREATE TABLE Spent (Date DATETIME, ID1 LONG); INSERT INTO Spent VALUES (46347, 6);
+           UPDATE WinBC49 SET ID1 = 8;)");
+    EXPECT_EQ(LinesOf(Do({"renumber"}).words).back(), "WinBC49: 1 key counted anew");
+    EXPECT_EQ(Ask("SELECT ID1 FROM Temp UNION ALL SELECT ID1 FROM Notes UNION ALL SELECT ID1 FROM Spent"),
+              (Texts{"4", "5", "6"}));
+    EXPECT_EQ(Ask("SELECT ID1 FROM WinBC49"), Texts{"1"});
 }
 
 TEST_F(Renumber, ChangesNothingWhenTheDiskFailsInTheMiddle) {

@@ -138,6 +138,14 @@ TEST_F(Draws, OfADateThatIsThereAreLeftAloneOrReplaced) {
     EXPECT_EQ(Ask("SELECT ID1, Ball_B FROM WinBC49 ORDER BY ID1"), (Texts{"1|7", "2|8", "3|7"}));
 }
 
+TEST_F(Draws, ADayEndsWhereTheNextBegins) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (1, 46341, 1,2,3,4,5,6,9), (2, 46339, 1,2,3,4,5,6,8), "
+        "(3, 46340, 1,2,3,4,5,6,7)");
+    EXPECT_EQ(Do({"draws", "BC49", Write("d.csv", "date,numbers,bonus\n2026-11-14,1 2 3 4 5 6,7\n")}).words,
+              "WinBC49: 0 draws added, 1 there already\n");
+}
+
 TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
     Make("WinBC49");
     const std::string file =
