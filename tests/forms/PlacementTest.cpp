@@ -135,5 +135,22 @@ TEST_F(Placement, TheMiddleLeavesRoomForTheFrame) {
     }
 }
 
+// The desktop itself fits it into the screen.
+TEST_F(Placement, AWindowThatFillsItsScreenIsLeftAlone) {
+    QScreen& screen = *QGuiApplication::primaryScreen();
+    PutMouseOn(screen);
+    for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowFullScreen}) {
+        Placed window({300, 150});
+        Open(window);
+        window.setWindowState(state);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.width() > 1000; }));
+        Person::Settle();
+        const QRect place = window.geometry();
+        emit screen.availableGeometryChanged(QRect(screen.availableGeometry().topLeft(), QSize(640, 400)));
+        Person::Settle();
+        EXPECT_EQ(window.geometry(), place) << state;
+    }
+}
+
 }  // namespace
 }  // namespace sorvane::test
