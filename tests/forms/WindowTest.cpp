@@ -452,5 +452,20 @@ TEST(Window, OpensAsWideAsItsMenu) {
     EXPECT_LT(window.width(), bar.sizeHint().width() + 100);
 }
 
+// To the system, which sends the keys there.
+TEST(Window, TheOneInFrontHasTheKeysAndTheOneBelowAfterwards) {
+    LoggingWindow window;
+    auto front = std::make_unique<LoggingWindow>("frmFront");
+    const auto hasKeys = [](QWidget& one) {
+        return QTest::qWaitFor([&] { return QGuiApplication::focusWindow() == one.windowHandle(); });
+    };
+    window.Show();
+    EXPECT_TRUE(hasKeys(window));
+    front->Show();
+    EXPECT_TRUE(hasKeys(*front));
+    front.reset();
+    EXPECT_TRUE(hasKeys(window));
+}
+
 }  // namespace
 }  // namespace sorvane::test
