@@ -326,6 +326,10 @@ TEST_F(Check, FindsAFileThatIsNotWhole) {
     const Texts findings = Findings(1);
     ASSERT_GE(findings.size(), 2U);
     EXPECT_TRUE(Tells(findings.front(), "WinBC49.Date")) << findings.front();
+    // No more than a hundred places, however many there are.
+    EXPECT_EQ(std::count_if(findings.begin(), findings.end(),
+                            [](const std::string& told) { return Tells(told, "WinBC49.Date"); }),
+              100);
 }
 
 TEST_F(Check, ShowsABarOnATerminalOnceASecondHasPassed) {
