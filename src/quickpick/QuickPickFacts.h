@@ -9,9 +9,6 @@
 
 namespace sorvane::QuickPickFacts {
 
-// Where the accepted value of txtHowMany goes.
-enum class HowMany { NoOfTickets, HowManyToWheel, Nowhere };
-
 // Tickets that a wheel is taken to offer, by the text of txtHowMany; any other text: WheelSizeElse. A family
 // without texts never sets WheelSize.
 struct WheelSizeRow {
@@ -29,7 +26,6 @@ inline constexpr PerFamily<bool> WheelFrame       {{ true,  true,  true,  true, 
 inline constexpr PerFamily<bool> WheelLive        {{ false, false, true,  false, false, false, false }};  // the others show the frame and generate at random: meant
 inline constexpr PerFamily<int>  WheelLowest      {{ 7,     8,     7,     0,     0,     0,     0     }};  // of txtHowMany; 0: no lower bound
 inline constexpr PerFamily<bool> EmptyFavAsks     {{ true,  true,  false, true,  true,  false, false }};
-inline constexpr PerFamily<HowMany> HowManyGoesTo {{ HowMany::NoOfTickets, HowMany::NoOfTickets, HowMany::HowManyToWheel, HowMany::NoOfTickets, HowMany::NoOfTickets, HowMany::Nowhere, HowMany::Nowhere }};
 inline constexpr PerFamily<const WheelSizeRows*> WheelSizes{{ &SixNumberWheels, &SevenNumberWheels, &SixNumberWheels, nullptr, nullptr, nullptr, nullptr }};
 // clang-format on
 

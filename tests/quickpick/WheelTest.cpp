@@ -379,7 +379,6 @@ TEST(QuickPickFactsTest, OnlyLottariosWindowWheels) {
         EXPECT_EQ(WheelLive[family], family == Family::frm645);
         EXPECT_EQ(WheelFrame[family], !IsPick(family));
         EXPECT_EQ(WheelSizes[family] != nullptr, !IsPick(family) && !IsKeno(family));
-        EXPECT_EQ(HowManyGoesTo[family] == HowMany::HowManyToWheel, family == Family::frm645);
     }
 }
 

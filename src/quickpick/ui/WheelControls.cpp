@@ -124,8 +124,7 @@ void WheelControls::RefuseTicketCount() {
 }
 
 Integer& WheelControls::HowManyKept() {
-    return HowManyGoesTo[window_.Which] == HowMany::HowManyToWheel ? window_.State.HowManyToWheel
-                                                                   : window_.session.global.NoOfTickets;
+    return WheelLive[window_.Which] ? window_.State.HowManyToWheel : window_.session.global.NoOfTickets;
 }
 
 void WheelControls::optWheelType_Click(int Index) {

@@ -54,7 +54,7 @@ class WheelControls final : public WheelFace {
     void OpenFavourites(int howMany);
     // Looks WheelSize up, and warns when more tickets are asked for.
     void CompareWithWheelSize();
-    // Where the accepted value of txtHowMany is kept.
+    // Where the accepted value of txtHowMany is kept: where nothing is wheeled it is a number of tickets.
     Integer& HowManyKept();
 
     GameFrame& window_;
