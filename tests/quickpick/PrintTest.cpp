@@ -119,12 +119,14 @@ TEST(PrintTest, BehindADialogThatFailedThePageIsPrintedAllTheSame) {
 }
 
 TEST(PrintTest, APrinterThatFailsInThePageShowsItsBoxOnceAndWhatWasSentComesOut) {
-    PrintWorld world({"a", "b"});
-    world.printer.FailAt(Verb::Print, 14, 482);
-    world.ExpectBox(ErrorText);
-    world.Print(2);
-    EXPECT_EQ(world.Page(), PrintWorld::With({"      Ticket #1 - a"}));
-    EXPECT_EQ(world.printer.calls.back(), Verb::Print);  // no second, empty document
+    for (const auto& [number, text] : {std::pair{482, ErrorText}, {483, PropertyText}, {484, DriverText}}) {
+        PrintWorld world({"a", "b"});
+        world.printer.FailAt(Verb::Print, 14, number);
+        world.ExpectBox(text);
+        world.Print(2);
+        EXPECT_EQ(world.Page(), PrintWorld::With({"      Ticket #1 - a"})) << number;
+        EXPECT_EQ(world.printer.calls.back(), Verb::Print) << number;  // no second, empty document
+    }
 }
 
 TEST(PrintTest, APrinterThatFailsAtTheFirstLineSendsNoEmptyPage) {

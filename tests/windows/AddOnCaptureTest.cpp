@@ -34,6 +34,7 @@ TEST_F(AddOnWindow, ExtraTicketsFollowTheLastTicket) {
     EXPECT_FALSE(IsEnabled("cmdSave"));
     Click("cmdNext_Ticket");
     EXPECT_EQ(global.ExtraNo, 1);
+    EXPECT_EQ(Window().Enter.Progress(), "Add-on number 2 of 2");
     EXPECT_EQ(TextOf("txtPlay4(3)"), "");
     EXPECT_EQ(Focus(), "txtPlay4(0)");
     PutPlay4("6", "7", "8", "9");
@@ -64,6 +65,9 @@ TEST_F(AddOnWindow, EncoreNumbersFollowTheLastTicket) {
     Click("cmdNext_Ticket");
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Encore");
     EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_FALSE(IsEnabled("cmdCorrection"));
+    EXPECT_EQ(global.NumbersPicked, 0);
+    EXPECT_EQ(Window().Enter.Progress(), "Add-on number 1 of 2");
     EXPECT_FALSE(IsEnabled("chkRegular"));
     EXPECT_TRUE(IsShown("lblExtra"));
     EXPECT_TRUE(IsEnabled("txtEncore"));

@@ -101,6 +101,57 @@ TEST_F(AddOnWindow, TheCountSelectsItselfAndAnEmptyOneOfThe749BecomesZeroFirst) 
     EXPECT_EQ(TextOf("txtNoOfExtra"), "4");
 }
 
+TEST_F(AddOnWindow, ACountThatIsVisitedAgainStaysAndOutsideOfThe749AnEmptyOneToo) {
+    for (const auto* menu : {"mnuCANONTSuper7", "mnuCANONTLotto649"}) {
+        Show(menu);
+        Put("txtNoOfExtra", "4");
+        Click("txtNoOfExtra");
+        EXPECT_EQ(TextOf("txtNoOfExtra"), "4") << menu;
+        Window().Leave();
+    }
+    Show("mnuCANONTLotto649");
+    Window().Enter.AddOns.txtNoOfExtra->SetText("");
+    Click("txtNoOfExtra");
+    EXPECT_EQ(TextOf("txtNoOfExtra"), "");
+}
+
+TEST_F(AddOnWindow, TheCountIsSelectedWhenItIsReachedButOfThreeDigitsOnlyANought) {
+    for (const auto* menu : {"mnuCANONTLotto649", "mnuCANONTPICK3"}) {
+        Show(menu);
+        for (const auto* count : {"0", "12"}) {
+            Put("txtNoOfExtra", count);
+            Window().Enter.AddOns.txtNoOfExtra->deselect();
+            Click("txtNoOfExtra");
+            const bool selects = std::string(count) == "0" || Window().Which == Family::frm649;
+            EXPECT_EQ(Window().Enter.AddOns.txtNoOfExtra->selectedText().toStdString(), selects ? count : "")
+                << menu;
+        }
+        Window().Leave();
+    }
+}
+
+TEST_F(AddOnWindow, ACountLeftEmptyIsNoughtInEveryKindOfGame) {
+    for (const auto* menu : {"mnuCANBCLotto649", "mnuCANONTLOTTARIO"}) {
+        Show(menu);
+        OneSheet(1);
+        Put("txtNoOfExtra", "1");
+        Put("txtNoOfExtra", "");
+        EXPECT_EQ(TextOf("txtNoOfExtra"), "0") << menu;
+        EXPECT_EQ(global.NoOfExtra, 0) << menu;
+        Window().Leave();
+    }
+}
+
+TEST_F(AddOnWindow, AnEmptyCountThatWasNeverVisitedAddsNothingToTheSheet) {
+    Show("mnuCANBCLotto649");
+    OneSheet(1);
+    Click("dtpEnterTickets(0)");
+    Window().Enter.AddOns.txtNoOfExtra->SetText("");
+    TickSix();
+    EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+}
+
 TEST_F(AddOnWindow, MoreExtrasThanTicketsOnTheSheetAreRefusedAndTheFieldEndsAtZero) {
     Show("mnuCANBCLotto649");
     OneSheet(2);

@@ -112,6 +112,44 @@ TEST_F(AddOnWindow, LottarioWritesItsEncoreAfterTheBox) {
     EXPECT_EQ(Numbers("PlayedEncore"), Texts{"1|2|3|4|5|6|NULL"});
 }
 
+TEST_F(AddOnWindow, ASheetWithoutEncoresBehindOneOfTwoWritesNoneAndSaysNothing) {
+    Show("mnuCANONTLotto649");
+    SeveralSheets(2, 2);
+    Put("txtNoOfExtra", "2");
+    TickSix();
+    Click("cmdNext_Ticket");
+    Put("txtEncore", "123456");
+    Click("cmdNext_Ticket");
+    Put("txtEncore", "654321");
+    SaveSheet(false);
+    EXPECT_FALSE(IsShown("lblExtra"));
+    EXPECT_FALSE(IsShown("txtEncore"));
+    Put("txtNoOfExtra", "0");
+    TickSix();
+    SaveSheet(true);
+    EXPECT_EQ(Numbers("PlayedEncore"), (Texts{"1|2|3|4|5|6|NULL", "6|5|4|3|2|1|NULL"}));
+}
+
+TEST_F(AddOnWindow, FewerEncoresThanWereBegunEndTheSheetAndNextIsClosedOnTheNext) {
+    Show("mnuCANONTLotto649");
+    SeveralSheets(2, 2);
+    Put("txtNoOfExtra", "2");
+    TickSix();
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(Window().Enter.Progress(), "Add-on number 1 of 2");
+    Put("txtEncore", "123456");
+    ASSERT_TRUE(IsEnabled("cmdNext_Ticket"));
+    Put("txtNoOfExtra", "0");
+    EXPECT_EQ(Window().Enter.Progress(), "Add-on number 0 of 0");
+    Put("txtNoOfExtra", "1");
+    Put("txtEncore", "123456");
+    ASSERT_TRUE(IsEnabled("cmdSave"));
+    ASSERT_TRUE(IsEnabled("cmdNext_Ticket"));
+    SaveSheet(false);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_EQ(Numbers("PlayedEncore"), Texts{"1|2|3|4|5|6|NULL"});
+}
+
 TEST_F(AddOnWindow, OneNumberASheetIsWrittenUnderItsOwnTable) {
     const struct {
         const char* menu;

@@ -47,6 +47,21 @@ TEST_F(EnterTickets, EveryFamilyOpensWithNothingEntered) {
     }
 }
 
+TEST_F(EnterTickets, AWindowIsMadeClosedBeforeItIsLoaded) {
+    for (const Family family : AllFamilies) {
+        const GameWindow window(family, session, windows);
+        EXPECT_EQ(window.txtNoOfTickets(0).Text(), "0") << NameOf(family);
+        EXPECT_EQ(window.Enter.txtDollars.Text(), "0.00") << NameOf(family);
+        for (const auto* button :
+             {&window.Enter.cmdNext_Ticket, &window.Enter.cmdCorrection, &window.Enter.cmdSave})
+            EXPECT_FALSE(button->Enabled()) << NameOf(family) << ' ' << button->Name();
+        if (IsPick(family)) continue;
+        const auto* ball = window.findChild<QWidget*>("chkNumb(0)");
+        ASSERT_TRUE(ball);
+        EXPECT_FALSE(ball->isEnabled()) << NameOf(family);
+    }
+}
+
 TEST_F(EnterTickets, HasFourTabsAndStandsOnTheFirst) {
     Show("mnuCANONTLotto649");
     EXPECT_EQ(Window().SSTab1.Tab(), 0);
@@ -170,6 +185,8 @@ TEST_F(EnterTickets, ALetterInTheMoneyPutsItBackToNought) {
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
     EXPECT_EQ(global.Dollars, "0");
     EXPECT_EQ(Focus(), "txtDollars");
+    person.Type("7");  // before the nought
+    EXPECT_EQ(TextOf("txtDollars"), "70.00");
 }
 
 TEST_F(EnterTickets, MoneyEmptiedByHandIsNoughtAtOnce) {
@@ -178,6 +195,8 @@ TEST_F(EnterTickets, MoneyEmptiedByHandIsNoughtAtOnce) {
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
     EXPECT_EQ(global.Dollars, "0");
     EXPECT_EQ(Focus(), "txtDollars");
+    person.Type("7");  // before the nought
+    EXPECT_EQ(TextOf("txtDollars"), "70.00");
 }
 
 TEST_F(EnterTickets, TwoPointsInTheMoneyGiveTheirMessageOnce) {
@@ -359,6 +378,7 @@ TEST_F(EnterTickets, TheProgressOfTicketAndSheetIsPaintedBesideTheTitle) {
 
 TEST_F(EnterTickets, TheProgressOfDigitGamesCountsTicketsAlone) {
     GameWindow& window = Show("mnuCANQC3");
+    EXPECT_EQ(window.Enter.Progress(), "");
     OneSheet(2);
     EXPECT_EQ(window.Enter.Progress(), "Tickets filled 0 of 2");
     Visit("cboNumber(2)");

@@ -19,6 +19,22 @@ TEST_F(KenoCheck, EnterInABoxIsARefusedKeyAndNumbersEndAtSeventy) {
     EXPECT_EQ(Focus(), "txtWin20(0)");
 }
 
+TEST_F(KenoCheck, AMissingNumberLeavesTheListsAlone) {
+    Open("mnuCANONTKENO");
+    Window().Check.lstMessage.AddItem("kept");
+    Window().Check.lstNumbersPlayed.AddItem("kept");
+    Window().Check.lstEncorePlayed->AddItem("kept");
+    ExpectMissing("Missing Data. Please enter a valid number from 1 to 70 and try again.");
+    Click("cmdCheck");
+    Draw("txtWin20", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20});
+    Type("txtWinEncore", "12345");
+    ExpectMissing("Encore number is too short. Please check the number and try again.");
+    Click("cmdCheck");
+    EXPECT_EQ(Messages(), Texts{"kept"});
+    EXPECT_EQ(Played(), Texts{"kept"});
+    EXPECT_EQ(AddOn(), Texts{"kept"});
+}
+
 TEST_F(KenoCheck, BehindATicketWithoutAVerdictTheVerdictsLeadToTheWrongTickets) {
     Open("mnuCANONTKENO");
     Do("INSERT INTO PlayedONTKeno (ID1, Date, Lottoflag, Ball_1, Ball_2, Wager, [# of Balls]) VALUES (1, " +

@@ -112,6 +112,18 @@ TEST_F(LottarioCheck, EnterMovesFromBoxToBoxAndEndsAtCheck) {
     EXPECT_EQ(Focus(), "cmdCheck");
 }
 
+TEST_F(LottarioCheck, ALetterEmptiesABoxButTheEncoreTakesIt) {
+    OpenWithTickets();
+    for (const char* box : {"txtWin6(0)", "txtWin4(0)"}) {
+        Type(box, "12");
+        ExpectBadNumber();
+        person.Type("x");
+        EXPECT_EQ(TextOf(box), "") << box;
+    }
+    Type("txtWinEncore", "12x");
+    EXPECT_EQ(TextOf("txtWinEncore"), "12x");
+}
+
 TEST_F(LottarioCheck, NumbersEndAtFortyFive) {
     OpenWithTickets();
     for (const char* box : {"txtWin6(0)", "txtWin4(0)"}) {

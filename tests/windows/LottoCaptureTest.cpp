@@ -149,6 +149,74 @@ TEST_F(LottoCaptureTest, AMarkIsCutOffWithItsSlotByASmallerSheet) {
     EXPECT_EQ(Rows("SELECT Ball_1 FROM PlayedBC49 WHERE Regular"), Texts{"3"});
 }
 
+TEST_F(LottoCaptureTest, ATicketCountedTwiceOnAGridOpenedAgainEndsTheSheet) {
+    Show("mnuCANBCBC49");
+    OneSheet(2);
+    PickFrom(1, 6);
+    ASSERT_TRUE(IsEnabled("cmdNext_Ticket"));
+    OneSheet(2);  // accepted once more, which opens the grid
+    Pick({6});
+    Pick({6});
+    EXPECT_EQ(global.TicketNo, 2);
+    EXPECT_FALSE(IsEnabled("cmdNext_Ticket"));
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+}
+
+TEST_F(LottoCaptureTest, ASaveThatFailsLeavesNoNumberCounted) {
+    Show("mnuCANATLLotto649");
+    OneSheet(1);
+    PickFrom(1, 6);
+    ExpectSaveQuestion(Answer::Yes);
+    ExpectRunTimeError(9);  // the add-on's box was never ticked
+    Click("cmdSave");
+    EXPECT_EQ(global.NumbersPicked, 0);
+    EXPECT_FALSE(IsEnabled("cmdCorrection"));
+}
+
+TEST_F(LottoCaptureTest, AFurtherSheetBeginsAtTheGridWhereNoAddOnIsCounted) {
+    global.AddOnTickets.Redim(1);
+    Show("mnuCANATLLotto649");
+    SeveralSheets(2, 2);
+    PickFrom(1, 6);
+    SaveSheet(false);
+    EXPECT_EQ(Focus(), "chkNumb(0)");
+}
+
+TEST_F(LottoCaptureTest, AGameWithoutBonusTicketsInTheWindowOfSuperSevenEndsAtItsLastTicket) {
+    Show(Family::frm749, "Other", "");
+    OneSheet(1);
+    Click("chkRegular");
+    PickFrom(1, 7);
+    EXPECT_EQ(Next(), "&Next Ticket");
+    EXPECT_EQ(Window().State.BonusPhase, Off);
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+    // The last ticket of the entry is corrected like a bonus ticket: meant.
+    Click("cmdCorrection");
+    EXPECT_EQ(Next(), "&Next Bonus");
+    EXPECT_FALSE(IsTicked("chkRegular"));
+    EXPECT_FALSE(IsEnabled("chkRegular"));
+}
+
+TEST_F(LottoCaptureTest, ACorrectionBeyondTheTicketsOfTheEntryKeepsTheCaption) {
+    Show("mnuCANBCSuper7");
+    OneSheet(1);
+    TicketAndNext(1, 7);
+    PickFrom(8, 7);
+    ASSERT_EQ(global.TicketNo, 2);
+    Click("cmdCorrection");
+    EXPECT_EQ(Next(), "Next &Bonus");
+}
+
+TEST_F(LottoCaptureTest, ACorrectedTicketWithoutAMarkGetsNoneAndNoTicketsAreNotLoweredFurther) {
+    Show("mnuCANBCSuper7");
+    OneSheet(2);
+    PickFrom(1, 7);
+    global.TotalTickets = 0;
+    Click("cmdCorrection");
+    EXPECT_FALSE(IsTicked("chkRegular"));
+    EXPECT_EQ(global.TotalTickets, 0);
+}
+
 TEST_F(LottoCaptureTest, SuperSevenOffersNoFortyEightAndNoFortyNineOnceDressed) {
     Show("mnuCANBCSuper7");
     OneSheet(1);
@@ -461,11 +529,13 @@ TEST_F(LottoCaptureTest, CancelEndsAReentryAndWhatAnErrorLeftOfNextTicket) {
     Show("mnuCANONTLOTTARIO");
     OneSheet(1);
     global.Correcting = On;
+    global.TableOpened = On;
     Window().State.InNextTicket = On;
     person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
     Click("cmdCancel");
     EXPECT_EQ(global.Correcting, Off);
     EXPECT_EQ(Window().State.InNextTicket, Off);
+    EXPECT_EQ(global.TableOpened, Off);
     OneSheet(1);
     PickFrom(1, 6);
     EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Bonus Tickets");

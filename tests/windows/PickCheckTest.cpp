@@ -88,6 +88,23 @@ TEST_F(PickCheck, AWindowWithoutEncoresLeavesTheirListAlone) {
     EXPECT_EQ(AddOn(), Texts{"old"});
 }
 
+TEST_F(PickCheck, ADoubleClickOnAVerdictLeadsToItsTicket) {
+    Open("mnuCANWESTPICK3");
+    Ticket(1, "1, 2, 3", "Box");
+    Ticket(2, "3, 1, 2", "Straight");
+    Digits({3, 2, 1});
+    Click("cmdCheck");
+    ASSERT_EQ(Messages().size(), 2u);
+    person.DoubleClickRow(person.Find<QListView>("lstMessage"), 1);
+    EXPECT_EQ(Window().Check.lstNumbersPlayed.ListIndex(), 1);
+}
+
+TEST_F(PickCheck, EveryDigitCanBeChosenAndNoneIsChosenAtFirst) {
+    Open("mnuCANWESTPICK3");
+    EXPECT_EQ(ListOf("cboWin3(2)"), (Texts{"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}));
+    EXPECT_EQ(TextOf("cboWin3(2)"), "");
+}
+
 TEST_F(PickCheck, NoTicketOfTheDateEmptiesTheWayOfPlay) {
     Open("mnuCANWESTPICK3");
     global.PlayOption = "Box";

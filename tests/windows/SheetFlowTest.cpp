@@ -198,6 +198,29 @@ TEST_F(SheetFlowTest, MoreTicketsThanAreLeftAreRefusedOnALaterSheet) {
     EXPECT_EQ(Rows("SELECT ID1, Lottoflag, Spent FROM Spent"), Texts{"1|BC49|2.5"});
 }
 
+TEST_F(SheetFlowTest, ASheetThatIsNotTheLastAsksForItsTicketsEvenIfTwoAreLeft) {
+    Show("mnuCANBCBC49");
+    SeveralSheets(5, 3, 3);
+    Fill(3);
+    ExpectSaveQuestion(Answer::Yes);
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet");
+    ExpectTicketsOnSheet("1");
+    Click("cmdSave");
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
+}
+
+TEST_F(SheetFlowTest, ACountLeftAtNoughtOpensNoGridAndAsksNothing) {
+    Show("mnuCANBCBC49");
+    Visit("txtNoOfTickets(0)");
+    EXPECT_FALSE(IsEnabled("chkNumb(0)"));
+    EXPECT_EQ(Window().Enter.Progress(), "Type how many tickets, then press Tab");
+    // A sheet of no known tickets: the hint stays, too.
+    ExpectCancelled("frmHowManySheets");
+    Count("2");
+    EXPECT_TRUE(IsEnabled("chkNumb(0)"));
+    EXPECT_EQ(Window().Enter.Progress(), "Type how many tickets, then press Tab");
+}
+
 TEST_F(SheetFlowTest, DefaultAmountsFollowTheGame) {
     const std::pair<const char*, const char*> games[] = {
         {"mnuCANBCBC49", "1.50"},  {"mnuCANONTONT49", "1.50"},  {"mnuCANQCQuebec49", "1.50"},
@@ -663,6 +686,42 @@ TEST_P(EveryEntry, MakesLostTablesAgainBehindASaveButKenoOfEighty) {
     SaveSheet(false);
     const Texts again = Rows("SELECT name FROM sqlite_schema WHERE name = 'Winnings'");
     EXPECT_EQ(again, GetParam() == Family::frmKeno80 ? Texts{} : Texts{"Winnings"});
+}
+
+TEST_P(EveryEntry, BeginsAFurtherSheetLikeTheFirst) {
+    Begin();
+    FillSheet();
+    SaveSheet(false);
+    for (const char* closed : {"cmdNext_Ticket", "cmdCorrection", "cmdSave"})
+        EXPECT_FALSE(IsEnabled(closed)) << closed;
+    EXPECT_TRUE(IsEnabled("chkRegular"));
+    EXPECT_TRUE(IsEnabled("cmdCancel"));
+    EXPECT_EQ(CaptionOf("cmdNext_Ticket"), "&Next Ticket");
+    EXPECT_EQ(CaptionOf("fraTicketNumber"), "Ticket #1 - Sheet 2 of 2");
+    EXPECT_TRUE(Ticked().empty());
+    EXPECT_EQ(global.NumbersPicked, 0);
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(global.NoOfTickets, 1);
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 1);
+    EXPECT_EQ(Window().State.BonusPhase, Off);
+}
+
+TEST_P(EveryEntry, EndsWithEmptyFieldsAndClosedButtons) {
+    Begin();
+    FillSheet();
+    SaveSheet(false);
+    Ticket();
+    FillSheet();
+    SaveSheet(true);
+    const GameWindow& window = Window();
+    EXPECT_FALSE(window.IsShown());
+    for (const auto* button : {&window.Enter.cmdSave, &window.Enter.cmdCorrection, &window.Enter.cmdCancel})
+        EXPECT_FALSE(button->Enabled()) << button->Name();
+    EXPECT_EQ(window.Enter.txtDollars.Text(), "0");
+    EXPECT_EQ(window.txtNoOfTickets(0).Text(), "0");
+    EXPECT_EQ(global.Dollars, "0");
+    EXPECT_EQ(global.NoOfTickets, 0);
+    EXPECT_EQ(global.NoOfTicketsOnSheet, 0);
 }
 
 TEST_P(EveryEntry, ACorrectionBeforeAnyTicketStopsAtNoughtButInKeno) {

@@ -53,6 +53,33 @@ TEST_F(SuperSevenCheck, LeavingTheAddOnNumberShortIsRefusedAndSixLeadToCheck) {
     EXPECT_EQ(Focus(), "cmdCheck");
 }
 
+TEST_F(SuperSevenCheck, ALetterInTheAddOnNumberIsRefusedAndLeavesItAlone) {
+    Open("mnuCANATLSuper7");
+    Type("txtWinEncore", "123456");
+    ExpectBadNumber();
+    person.Type("x");
+    EXPECT_EQ(TextOf("txtWinEncore"), "123456");
+}
+
+TEST_F(SuperSevenCheck, SevenDigitsLeadOnWithTheTabKey) {
+    Open("mnuCANWESTSuper7");
+    Type("txtWinEncore", "1234567");
+    person.Tab();
+    EXPECT_EQ(Focus(), "chkStatUpdate");
+}
+
+TEST_F(SuperSevenCheck, AShortAddOnNumberLeavesTheListsAlone) {
+    Open("mnuCANWESTSuper7");
+    Window().Check.lstMessage.AddItem("kept");
+    Window().Check.lstEncorePlayed->AddItem("kept");
+    Draw("txtWin7", {1, 2, 3, 4, 5, 6, 7, 8});
+    Type("txtWinEncore", "123456");
+    ExpectMissing("Extra number is too short. Please check the number and try again.");
+    Click("cmdCheck");
+    EXPECT_EQ(Messages(), Texts{"kept"});
+    EXPECT_EQ(AddOn(), Texts{"kept"});
+}
+
 TEST_F(SuperSevenCheck, NoClickGetsPastAShortAddOnNumber) {
     Open("mnuCANATLSuper7");
     Type("txtWinEncore", "123");
