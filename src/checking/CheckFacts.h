@@ -25,8 +25,6 @@ enum class AddOnTest { Never, BeforeBoxes, AfterBoxes, AfterLists };
 enum class FourTest { Never, UnderExtra, Always };
 // When the lists are emptied.
 enum class Clearing { AfterDate, AfterBoxes, AfterAddOn };
-// What Enter in a winning box does; None where the box has no guard.
-enum class EnterKey { None, Refused, Moves };
 
 // What "Update Stats Only" disables, as a set.
 namespace StatControls {
@@ -64,10 +62,9 @@ inline constexpr PerFamily<bool>             HasEncoreList  {{ yes,        yes, 
 
 // The guards of the winning boxes, up to the highest number of the family; without a text there is none.
 inline constexpr PerFamily<std::string_view> RangeText      {{ Between49,  Between49,  From45,     Between70,  Between80,  "",         ""         }};
-inline constexpr PerFamily<EnterKey>         EnterInBox     {{ EnterKey::Refused, EnterKey::Refused, EnterKey::Moves, EnterKey::Refused, EnterKey::Refused, EnterKey::None, EnterKey::None }};
+inline constexpr PerFamily<bool>             EnterMovesOn   {{ no,         no,         yes,        no,         no,         no,         no         }};  // from a winning box to the next; elsewhere it is a refused key
 inline constexpr PerFamily<int>              FourTop        {{ 99,         0,          45,         0,          0,          0,          0          }};  // frm749 lets any number stand: meant
 inline constexpr PerFamily<std::string_view> FourRangeText  {{ Between99,  "",         From45,     "",         "",         "",         ""         }};
-inline constexpr PerFamily<EnterKey>         EnterInFour    {{ EnterKey::Refused, EnterKey::Refused, EnterKey::Moves, EnterKey::None, EnterKey::None, EnterKey::None, EnterKey::None }};
 inline constexpr PerFamily<bool>             RefusalEmptiesFour{{ no,      no,         yes,        no,         no,         no,         no         }};
 inline constexpr PerFamily<bool>             GuardsEncoreKeys{{ yes,       yes,        no,         no,         no,         no,         no         }};  // Backspace, too, moves to cmdCheck: meant
 inline constexpr PerFamily<bool>             GuardsEncoreExit{{ no,        yes,        no,         no,         no,         no,         no         }};

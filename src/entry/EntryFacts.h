@@ -11,9 +11,7 @@
 namespace sorvane::EntryFacts {
 
 // Where Enter in a field moves the focus.
-enum class Go { Stay, Extra, Make, Box0, List0 };
-// What limits the add-on count: nothing, the tickets of the sheet (under "Extra" alone), or ten.
-enum class Cap { None, Sheet, Ten };
+enum class Go { Stay, Extra, Make };
 
 // Add-on keys.
 using Keys = std::span<const std::string_view>;
@@ -43,8 +41,8 @@ inline constexpr PerFamily<bool> CheckShownAtLoad   {{ yes,   yes,   no,    no, 
 inline constexpr PerFamily<bool> ExtraFiltersKeys   {{ yes,   yes,   no,    yes,   yes,   yes,   no    }};  // Lottario's count takes any key: meant
 inline constexpr PerFamily<Go>   EnterInCount0      {{ Go::Extra, Go::Stay, Go::Stay, Go::Make, Go::Make, Go::Stay, Go::Stay }};
 inline constexpr PerFamily<Go>   EnterInCount1      {{ Go::Extra, Go::Stay, Go::Make, Go::Make, Go::Make, Go::Stay, Go::Stay }};
-inline constexpr PerFamily<Go>   EnterInExtra       {{ Go::Box0, Go::Stay, Go::Stay, Go::Box0, Go::Stay, Go::List0, Go::Stay }};
-inline constexpr PerFamily<Cap>  ExtraLimit         {{ Cap::Sheet, Cap::Sheet, Cap::Ten, Cap::Sheet, Cap::None, Cap::Sheet, Cap::None }};
+inline constexpr PerFamily<bool> EnterInExtraGoesOn {{ yes,   no,    no,    yes,   no,    yes,   no    }};  // to the first number or list
+inline constexpr PerFamily<bool> TakesTenEncores    {{ no,    no,    yes,   no,    no,    no,    no    }};  // at most; the others are bound to their sheet under "Extra", else not at all
 inline constexpr PerFamily<int>  TicketDollars      {{ 1,     2,     1,     1,     1,     1,     1     }};  // of a game that is not half the price
 inline constexpr PerFamily<std::string_view> AmountLead{{ "", "",    "",    " ",   "",    "",    ""    }};  // before the amount at the count, and before that of a lone point: meant
 inline constexpr PerFamily<bool> EmptyCountBecomesZero{{ no,  yes,   no,    no,    no,    no,    no    }};  // before the amount is reckoned; the others stay empty

@@ -337,7 +337,11 @@ TEST(FavouritesWheelTest, AMissingNumberIsAskedForAndGeneratingStaysOn) {
 }
 
 TEST(FavouritesWheelTest, ANumberBeyondSixteenBitsIsAnOverflow) {
-    WheelWorld world;
+    WheelWorld world(7, 7, 1);
+    std::fill(world.face.favourites.begin(), world.face.favourites.begin() + 7, "5");
+    world.face.favourites[0] = "32767";
+    world.Generate(WheelType::Favourites);
+    EXPECT_EQ(world.list.items, Texts{"32767, 5, 5, 5, 5, 5"});
     world.face.favourites[0] = "40000";
     EXPECT_EQ(ErrorOf([&] { world.Generate(WheelType::Favourites); }), 6);
 }

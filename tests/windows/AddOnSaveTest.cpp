@@ -124,6 +124,7 @@ TEST_F(AddOnWindow, ASheetWithoutEncoresBehindOneOfTwoWritesNoneAndSaysNothing) 
     SaveSheet(false);
     EXPECT_FALSE(IsShown("lblExtra"));
     EXPECT_FALSE(IsShown("txtEncore"));
+    EXPECT_EQ(TextOf("txtEncore"), "");
     Put("txtNoOfExtra", "0");
     TickSix();
     SaveSheet(true);

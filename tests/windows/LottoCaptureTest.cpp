@@ -163,7 +163,7 @@ TEST_F(LottoCaptureTest, ATicketCountedTwiceOnAGridOpenedAgainEndsTheSheet) {
 }
 
 TEST_F(LottoCaptureTest, ASaveThatFailsLeavesNoNumberCounted) {
-    Show("mnuCANATLLotto649");
+    Show("mnuCANQCQuebec49");
     OneSheet(1);
     PickFrom(1, 6);
     ExpectSaveQuestion(Answer::Yes);

@@ -101,6 +101,21 @@ TEST_P(EveryWheel, OtherKeysThanDigitsPutTheNumberOfNumbersToZero) {
     EXPECT_EQ(Focus(), "txtHowMany");
 }
 
+TEST_P(EveryWheel, WhatStandsInAFieldIsSelectedWhenItIsReached) {
+    OpenQuickPick(GetParam());
+    Type("txtNoOfTickets(1)", "3");
+    Click("dtpEnterTickets(1)");
+    Click("txtNoOfTickets(1)");
+    EXPECT_EQ(Window().txtNoOfTickets(1).selectedText().toStdString(), "3");
+    Window().Leave();
+    OpenForFavourites("9");
+    Type(Favs(1), "5");
+    Click(Favs(0));
+    EXPECT_EQ(Window().QuickPick.Wheel->txtFavs(0).selectedText().toStdString(), "1");
+    Click("txtHowMany");
+    EXPECT_EQ(Window().QuickPick.Wheel->txtHowMany.selectedText().toStdString(), "9");
+}
+
 TEST_P(EveryWheel, AnEmptyNumberOfNumbersIsAskedFor) {
     OpenQuickPick(GetParam());
     Type("txtHowMany", "");

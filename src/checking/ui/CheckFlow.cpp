@@ -100,7 +100,7 @@ bool CheckFlow::AddOnIsLongEnough() {
     const Global& g = window_.session.global;
     if (StatOnly()) return true;
     if (!AddOnTestedFor[family].empty() && g.ExtraFlag != AddOnTestedFor[family]) return true;
-    if (ClearsEncoreListAtTest[family] && page_.lstEncorePlayed) page_.lstEncorePlayed->Clear();
+    if (ClearsEncoreListAtTest[family]) page_.lstEncorePlayed->Clear();
     if (FourTested[family] == FourTest::UnderExtra && AddOnOf(g.ExtraFlag).FourNumbers)
         return FourAreFilled();
     if (Len(page_.txtWinEncore->Text()) >= AddOnDigits(g.ExtraFlag)) return true;
@@ -165,7 +165,7 @@ void CheckFlow::CheckAddOn(const WinningBoxes& boxes) {
     Session& session = window_.session;
     WindowState& state = window_.State;
     const AddOnPass* pass = FindAddOnPass(window_.Which, session.global.ExtraFlag);
-    if (!pass || !page_.lstEncorePlayed) return;
+    if (!pass) return;
     const AddOn& addOn = *FindAddOn(pass->ExtraFlag);
     state.TableName = addOn.Played;
     pass->Read(session, window_.At(), *page_.lstEncorePlayed);
@@ -204,7 +204,6 @@ void CheckFlow::cmdEnterWinnings_Click() {
     if (probes) MakeSureOfTable();
     FindDrawEntry(session, window_.At());
     if (session.global.WinningsDrawFound == Off) return;
-    session.global.TableOpened = Off;
     state.TableName = "Winnings";
     if (probes) MakeSureOfTable();
     session.global.Dollars = page_.txtDollarsWon.Text();

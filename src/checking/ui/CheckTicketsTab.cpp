@@ -298,7 +298,7 @@ void CheckTicketsTab::RefuseAndKeep(forms::KeyPress& key, int style) {
 
 void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
     if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
-    if (key.KeyAscii != forms::EnterKey || EnterInBox[window_.Which] != CheckFacts::EnterKey::Moves) {
+    if (key.KeyAscii != forms::EnterKey || !EnterMovesOn[window_.Which]) {
         forms::RefuseKey(window_.session.services.dialogs, txtWin(Index), key);
         return;
     }
@@ -308,8 +308,7 @@ void CheckTicketsTab::txtWin_KeyPress(int Index, forms::KeyPress& key) {
 
 void CheckTicketsTab::txtWin4_KeyPress(int Index, forms::KeyPress& key) {
     if (forms::IsDigitOrBackspace(key.KeyAscii)) return;
-    const bool moves = EnterInFour[window_.Which] == CheckFacts::EnterKey::Moves;
-    if (key.KeyAscii == forms::EnterKey && moves) {
+    if (key.KeyAscii == forms::EnterKey && EnterMovesOn[window_.Which]) {
         if (Index + 1 < FourBoxes) txtWin4(Index + 1).SetFocus();
         else cmdCheck.SetFocus();
         return;

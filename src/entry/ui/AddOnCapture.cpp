@@ -109,7 +109,7 @@ void AddOnCapture::FocusCount() {
 void AddOnCapture::txtNoOfExtra_KeyPress(forms::KeyPress& key) {
     if (!forms::IsDigitOrBackspace(key.KeyAscii) && key.KeyAscii != forms::EnterKey)
         forms::RefuseKey(window_.session.services.dialogs, *txtNoOfExtra, key);
-    else if (key.KeyAscii == forms::EnterKey && EnterInExtra[window_.Which] != Go::Stay)
+    else if (key.KeyAscii == forms::EnterKey && EnterInExtraGoesOn[window_.Which])
         window_.Enter.Capture().FocusFirst();
 }
 
@@ -119,7 +119,7 @@ void AddOnCapture::txtNoOfExtra_GotFocus() {
 }
 
 void AddOnCapture::txtNoOfExtra_LostFocus() {
-    if (ExtraLimit[window_.Which] == Cap::Ten) TakeLottarioCount();
+    if (TakesTenEncores[window_.Which]) TakeLottarioCount();
     else TakeCount();
 }
 
@@ -220,10 +220,7 @@ void AddOnCapture::Next() {
     if (caption == AddOnCaption::EnterExtra) {
         OpenPhase(AddOnCaption::NextExtra);
         lblExtra->SetVisible(true);
-        txtPlay4.ForEach([](forms::TextBox& box, int) {
-            box.SetVisible(true);
-            box.SetEnabled(true);
-        });
+        txtPlay4.ForEach([](forms::TextBox& box, int) { box.SetVisible(true); });
         txtPlay4(0).SetFocus();
     } else if (caption == AddOnCaption::EnterEncore) {
         OpenPhase(AddOnCaption::NextEncore);
@@ -269,7 +266,6 @@ void AddOnCapture::StoreAddOnTicket(int element) {
     const bool bought = IsBought();
     const std::string number = txtEncore->Text();
     const int digits = AddOnDigits(g_.ExtraFlag);
-    ticket.DrawDate = window_.dtpEnterTickets(0).Value();
     for (int slot = 0; slot < digits; ++slot)
         ticket.Numbers(slot) = bought ? CInt(Mid(number, slot + 1, 1)) : Integer(NotPlayed);
 }

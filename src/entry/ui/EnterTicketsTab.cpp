@@ -98,8 +98,7 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
         lblDollars.emplace("lblDollars", "Dollars Spent:   $");
         lblDollarsSpent.SetVisible(false);
     }
-    for (forms::CommandButton* button : {&cmdNext_Ticket, &cmdCorrection, &cmdSave})
-        button->SetEnabled(false);
+    TurnButtonsOff();
     txtDollars.OnKeyPress([this](forms::KeyPress& key) { txtDollars_KeyPress(key); });
     txtDollars.OnChange([this] { txtDollars_Change(); });
     txtDollars.OnGotFocus([this] { txtDollars.SelectAll(); });
@@ -279,7 +278,6 @@ std::string EnterTicketsTab::Progress() const {
 
 void EnterTicketsTab::PutAmount(const std::string& amount) {
     window_.session.global.Dollars = amount;
-    window_.State.DecimalCount = 1;
     txtDollars.SetText(amount);
 }
 
@@ -309,7 +307,6 @@ void EnterTicketsTab::txtDollars_KeyPress(forms::KeyPress& key) {
     window_.MsgBox("Please enter a valid dollar amount. (Even if it is 0.00)", BoxStyle::Exclamation,
                    forms::KeyErrorTitle);
     txtDollars.SetText(NoDollars);
-    window_.State.DecimalCount = 1;
     txtDollars.SetCaret(0);
     key.Swallow();
     txtDollars.SetFocus();
@@ -328,8 +325,7 @@ void EnterTicketsTab::txtDollars_Change() {
 }
 
 void EnterTicketsTab::txtDollars_LostFocus() {
-    Integer& points = window_.State.DecimalCount;
-    points = 0;
+    Integer points = 0;
     if (txtDollars.Text().starts_with('.')) {
         txtDollars.SetText(std::string(AmountLead[window_.Which]).append(NoDollars));
         points = 1;
