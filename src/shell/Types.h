@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/Date.h"
 #include "platform/Integer.h"
 
 namespace sorvane {
@@ -26,29 +27,35 @@ class Slots {
 
 // Tickets of the sheet in hand. Regular and EarlyBird are True or Off.
 struct Lotto6Ticket {
+    Date DrawDate;
     Slots<Integer, 7> Numbers;
     Integer Regular;
     Integer EarlyBird;
 };
 struct Lotto7Ticket {
+    Date DrawDate;
     Slots<Integer, 8> Numbers;
     Integer Regular;
 };
 struct KenoTicket {
+    Date DrawDate;
     Slots<Integer, 21> Numbers;
     Integer Wager;
     Integer NoOfBalls;
     Integer Regular;
 };
 struct Pick3Ticket {
+    Date DrawDate;
     Slots<Integer, 3> Numbers;
     Integer Regular;
 };
 struct Pick4Ticket {
+    Date DrawDate;
     Slots<Integer, 4> Numbers;
     Integer Regular;
 };
 struct AddOnTicket {
+    Date DrawDate;
     Slots<Integer, 7> Numbers;  // one digit each; all 99: no ticket
 };
 struct ExtraTicket {

@@ -48,7 +48,10 @@ TEST_F(WritersTest, SixNumberRowsCountTheirKeysFromOneAndCarryTheWindowsDate) {
     Open(Family::frm649, "BC49", "Extra");
     g.NoOfTicketsOnSheet = 3;
     g.Lotto6Tickets.Redim(3);
-    for (int i = 0; i < 3; ++i) Fill(g.Lotto6Tickets(i), 1 + 10 * i);
+    for (int i = 0; i < 3; ++i) {
+        Fill(g.Lotto6Tickets(i), 1 + 10 * i);
+        g.Lotto6Tickets(i).DrawDate = Date::FromYmd(1999, 1, 1);
+    }
     g.Lotto6Tickets(1).Regular = True;
     SaveLotto6Tickets(world.session, At("PlayedBC49"));
     EXPECT_EQ(All("PlayedBC49"), (Names{"1|" + Day("|1|2|3|4|5|6|0|0"), "2|" + Day("|11|12|13|14|15|16|1|0"),

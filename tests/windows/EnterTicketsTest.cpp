@@ -220,6 +220,82 @@ TEST_F(EnterTickets, MoneyThatStartsWithAPointBecomesNoughtWithTheMessage) {
     EXPECT_EQ(TextOf("txtDollars"), "0.00");
 }
 
+TEST_F(EnterTickets, ThePointsOfTheMoneyAreCountedWhenItIsLeft) {
+    Show("mnuCANONTLotto649");
+    const Integer& points = Window().State.DecimalCount;
+    EXPECT_EQ(points, 0);
+    OneSheet(1);
+    EXPECT_EQ(points, 1) << "the default amount has one";
+    Put("txtDollars", "5");
+    EXPECT_EQ(points, 0);
+    Put("txtDollars", "5.00");
+    EXPECT_EQ(points, 1);
+    Put("txtDollars", "5");
+    Type("txtDollars", "1");
+    person.Expect("Error!", "Please enter a valid dollar amount. (Even if it is 0.00)", Answer::Ok,
+                  BoxStyle::Exclamation);
+    person.Type("x");
+    EXPECT_EQ(points, 1) << "the nought that takes the place of a refused amount has one";
+    Type("txtDollars", "1.2.3");
+    person.Expect(
+        "ERROR",
+        "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.",
+        Answer::Ok, BoxStyle::Ok, [&] { EXPECT_EQ(points, 2); });
+    person.Tab();
+}
+
+TEST_F(EnterTickets, AWindowKnowsItsIndexAndItsField) {
+    Show("mnuCANONTLotto649");
+    WindowState& state = Window().State;
+    EXPECT_EQ(state.IndexName, "ID1");
+    EXPECT_EQ(state.FieldName, "Date");
+    state.IndexName = state.FieldName = "";
+    StartOver();
+    EXPECT_EQ(state.IndexName, "ID1");
+    EXPECT_EQ(state.FieldName, "Date");
+}
+
+TEST_F(EnterTickets, AWindowIsSavingWhileASheetIsWritten) {
+    Show("mnuCANONTLotto649");
+    bool& saving = Window().State.SavingSheet;
+    SeveralSheets(2, 2);
+    PickFrom(1, 6);
+    person.Expect("CONFIRM", "Save this sheet of tickets?", Answer::Yes, BoxStyle::YesNo,
+                  [&] { EXPECT_FALSE(saving); });
+    person.Expect("CONFIRMED", "Tickets Saved - Enter Next Sheet", Answer::Ok, BoxStyle::Ok,
+                  [&] { EXPECT_TRUE(saving); });
+    Click("cmdSave");
+    EXPECT_FALSE(saving);
+}
+
+TEST_F(EnterTickets, NoWindowIsSavingAfterACancelOrALoad) {
+    Show("mnuCANONTLotto649");
+    bool& saving = Window().State.SavingSheet;
+    saving = true;
+    StartOver();
+    EXPECT_FALSE(saving);
+    saving = true;
+    Window().Form_Load();
+    EXPECT_FALSE(saving);
+}
+
+TEST_F(EnterTickets, ATicketBearsTheDrawDateAtWhichItWasStored) {
+    const Date day = Date::FromYmd(2006, 3, 11);
+    const auto store = [&](const std::string& menu, int numbers) {
+        Show(menu);
+        Window().dtpEnterTickets(0).SetValue(day);
+        OneSheet(2);
+        PickFrom(1, numbers);
+        Click("cmdNext_Ticket");
+    };
+    store("mnuCANONTLotto649", 6);
+    EXPECT_EQ(global.Lotto6Tickets(0).DrawDate, day);
+    store("mnuCANBCSuper7", 7);
+    EXPECT_EQ(global.Lotto7Tickets(0).DrawDate, day);
+    store("mnuCANONTLOTTARIO", 6);
+    EXPECT_EQ(global.Lotto6Tickets(0).DrawDate, day);
+}
+
 TEST_F(EnterTickets, AnAssistiveToolThatEmptiesTheAmountBringsTheFocusToIt) {
     Show("mnuCANBCBC49");
     OneSheet(1);

@@ -50,6 +50,11 @@ class SlipWorld : public WindowWorld {
         ExpectSaveQuestion(Answer::No);
         Click("cmdSave");
     }
+    // Cancels the entry.
+    void StartOver() {
+        person.Expect("CONFIRM", "Are you sure you wish to start over?", Answer::Yes, BoxStyle::YesNo);
+        Click("cmdCancel");
+    }
     static constexpr std::string_view CleanUpText =
         "Since you've already saved some tickets, your database will be incorrect.\r\n"
         "Would you like to clean up your database?\r\n"

@@ -266,6 +266,7 @@ void AddOnCapture::StoreAddOnTicket(int element) {
     const bool bought = IsBought();
     const std::string number = txtEncore->Text();
     const int digits = AddOnDigits(g_.ExtraFlag);
+    ticket.DrawDate = window_.dtpEnterTickets(0).Value();
     for (int slot = 0; slot < digits; ++slot)
         ticket.Numbers(slot) = bought ? CInt(Mid(number, slot + 1, 1)) : Integer(NotPlayed);
 }

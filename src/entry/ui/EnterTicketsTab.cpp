@@ -98,7 +98,8 @@ EnterTicketsTab::EnterTicketsTab(GameWindow& window)
         lblDollars.emplace("lblDollars", "Dollars Spent:   $");
         lblDollarsSpent.SetVisible(false);
     }
-    TurnButtonsOff();
+    for (forms::CommandButton* button : {&cmdNext_Ticket, &cmdCorrection, &cmdSave})
+        button->SetEnabled(false);
     txtDollars.OnKeyPress([this](forms::KeyPress& key) { txtDollars_KeyPress(key); });
     txtDollars.OnChange([this] { txtDollars_Change(); });
     txtDollars.OnGotFocus([this] { txtDollars.SelectAll(); });
@@ -278,6 +279,7 @@ std::string EnterTicketsTab::Progress() const {
 
 void EnterTicketsTab::PutAmount(const std::string& amount) {
     window_.session.global.Dollars = amount;
+    window_.State.DecimalCount = 1;
     txtDollars.SetText(amount);
 }
 
@@ -307,6 +309,7 @@ void EnterTicketsTab::txtDollars_KeyPress(forms::KeyPress& key) {
     window_.MsgBox("Please enter a valid dollar amount. (Even if it is 0.00)", BoxStyle::Exclamation,
                    forms::KeyErrorTitle);
     txtDollars.SetText(NoDollars);
+    window_.State.DecimalCount = 1;
     txtDollars.SetCaret(0);
     key.Swallow();
     txtDollars.SetFocus();
@@ -325,7 +328,8 @@ void EnterTicketsTab::txtDollars_Change() {
 }
 
 void EnterTicketsTab::txtDollars_LostFocus() {
-    Integer points = 0;
+    Integer& points = window_.State.DecimalCount;
+    points = 0;
     if (txtDollars.Text().starts_with('.')) {
         txtDollars.SetText(std::string(AmountLead[window_.Which]).append(NoDollars));
         points = 1;

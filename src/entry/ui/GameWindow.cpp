@@ -74,6 +74,7 @@ void GameWindow::cmdCancel_Click() {
         session.global.TicketsSaved = Off;
     }
     session.global.TableOpened = Off;
+    State.SavingSheet = false;
     NameTables();
     session.global.StatUpdate = Off;
     session.global.RecheckAccepted = True;
@@ -92,12 +93,15 @@ void GameWindow::cmdExit_Click() {
 
 void GameWindow::ForgetSaves() {
     session.global.TicketsSaved = Off;
+    State.SavingSheet = false;
     session.global.TableOpened = Off;
     session.global.StatUpdate = Off;
 }
 
 void GameWindow::NameTables() {
     State.DbName = DatabasePath(session.global.AppPath);
+    State.IndexName = PrimaryFieldName;
+    State.FieldName = DateFieldName;
     if (const auto table = LoadTable(Which, session.global.LottoFlag)) State.TableName = *table;
 }
 
@@ -155,7 +159,7 @@ void GameWindow::txtNoOfTickets_KeyPress(int Index, forms::KeyPress& key) {
         forms::RefuseKey(session.services.dialogs, txtNoOfTickets(Index), key);
         return;
     }
-    if (key.KeyAscii != forms::EnterKey) return;
+    if (key.KeyAscii != forms::EnterKey || Index > 1) return;
     const Go go = (Index == 0 ? EnterInCount0 : EnterInCount1)[Which];
     if (go == Go::Extra) Enter.AddOns.FocusCount();
     else if (go == Go::Make) QuickPick.cmdGenerate.SetFocus();

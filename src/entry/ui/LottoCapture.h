@@ -42,7 +42,7 @@ class LottoCapture : public TicketCapture {
     virtual int NumbersWanted() const;
     // The last ticket of the sheet is complete: on to the add-ons, or to saving.
     void SheetComplete();
-    // Puts the ticked numbers in rising order into the slots; `clear` unticks them.
+    // Puts the ticked numbers in rising order into the slots, and the draw date; `clear` unticks them.
     template <class Ticket>
     void TakeNumbers(Ticket& ticket, bool clear);
     // What every storing does before and after the ticket is put into its array (`more`: further tickets
@@ -64,6 +64,7 @@ void LottoCapture::TakeNumbers(Ticket& ticket, bool clear) {
         ticket.Numbers(slot++) = i + 1;
         if (clear) grid_.chkNumb(i).SetValue(0);
     }
+    ticket.DrawDate = g_.DrawDate;
 }
 
 // Bonus tickets behind the bought ones of a sheet: two for each Super 7 ticket, one for each Lottario ticket.

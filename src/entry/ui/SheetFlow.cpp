@@ -118,6 +118,7 @@ void SheetFlow::cmdSave_Click() {
     constexpr int Style = BoxStyle::YesNo | BoxStyle::EnterIsYes;
     if (window_.MsgBox("Save this sheet of tickets?", Style, "CONFIRM") != Answer::Yes) NotSaved();
     else if (w.Enter.Capture().SheetIsFull()) SaveSheet();
+    w.State.SavingSheet = false;
     if (TablesAfterSave[w.Which]) CreateAllTables(w.session, w.Which, w.State);
     g.Msg.clear();
 }
@@ -141,6 +142,7 @@ void SheetFlow::NotSaved() {
 void SheetFlow::SaveSheet() {
     GameWindow& w = window_;
     const Global& g = w.session.global;
+    w.State.SavingSheet = true;
     w.State.SavedDate = w.State.WindowDate;
     if (const auto table = PlayedTable(w.Which, g.LottoFlag)) w.State.TableName = *table;
     if (!StoresBeforeAsk[w.Which]) w.Enter.Capture().StoreTicket();
