@@ -89,15 +89,9 @@ fs::path CsvName(const fs::path& folder, const Source& source) {
     return folder / (source.table->name + ".csv");
 }
 
-int ExportFolder(Outside& outside, const Dao::RecordFile& file, const fs::path& folder, bool overwrite) {
-    const std::vector<Source> sources = SourcesIn(file, outside);
-    for (const Source& source : sources)
-        if (fs::exists(CsvName(folder, source)) && !overwrite)
-            throw Refusal(CsvName(folder, source).string() +
-                          ": this is there already (--force writes over files)");
-    Naming(folder, [&] { MakeFolders(folder); });
+std::vector<std::unique_ptr<NewFile>> WriteFiles(Outside& outside, const Dao::RecordFile& file,
+                                                 const std::vector<Source>& sources, const fs::path& folder) {
     RowsOf rows(file, outside, sources);
-    // Every file is whole before the first takes its name.
     std::vector<std::unique_ptr<NewFile>> files;
     for (const Source& source : sources)
         Naming(CsvName(folder, source), [&] {
@@ -106,6 +100,18 @@ int ExportFolder(Outside& outside, const Dao::RecordFile& file, const fs::path& 
             if (!text) Raise(ErrorNumber::NoPermission);
             WriteCsv(text, source, rows);
         });
+    return files;
+}
+
+int ExportFolder(Outside& outside, const Dao::RecordFile& file, const fs::path& folder, bool overwrite) {
+    const std::vector<Source> sources = SourcesIn(file, outside);
+    for (const Source& source : sources)
+        if (fs::exists(CsvName(folder, source)) && !overwrite)
+            throw Refusal(CsvName(folder, source).string() +
+                          ": this is there already (--force writes over files)");
+    Naming(folder, [&] { MakeFolders(folder); });
+    // Every file is whole before the first takes its name.
+    const std::vector<std::unique_ptr<NewFile>> files = WriteFiles(outside, file, sources, folder);
     for (const auto& one : files) one->Put();
     outside.words << Counted(static_cast<long>(files.size()), "table") << " written to " << folder.string()
                   << '\n';
@@ -123,8 +129,10 @@ std::string JsonText(const Dao::Value& value) {
     return json(value.ToText()).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
-void WriteJson(std::ostream& text, const std::vector<Source>& sources, RowsOf& rows) {
+void WriteJson(std::ostream& text, Outside& outside, const Dao::RecordFile& file,
+               const std::vector<Source>& sources) {
     using nlohmann::json;
+    RowsOf rows(file, outside, sources);
     text << "{\n  \"format\": \"sorvane-records\",\n  \"version\": " << JsonVersion << ",\n  \"tables\": {";
     const char* betweenTables = "";
     for (const Source& source : sources) {
@@ -147,9 +155,8 @@ void WriteJson(std::ostream& text, const std::vector<Source>& sources, RowsOf& r
 
 int ExportJson(Outside& outside, const Dao::RecordFile& file, const fs::path& to, bool overwrite) {
     const std::vector<Source> sources = SourcesIn(file, outside);
-    RowsOf rows(file, outside, sources);
     if (to == "-") {
-        WriteJson(outside.data, sources, rows);
+        WriteJson(outside.data, outside, file, sources);
         return Done;
     }
     if (fs::exists(to) && (!overwrite || !fs::is_regular_file(to)))
@@ -158,7 +165,7 @@ int ExportJson(Outside& outside, const Dao::RecordFile& file, const fs::path& to
         NewFile made(to);
         std::ofstream text(made.Path(), std::ios::binary);
         if (!text) Raise(ErrorNumber::NoPermission);
-        WriteJson(text, sources, rows);
+        WriteJson(text, outside, file, sources);
         text.close();
         made.Put();
         outside.words << Counted(static_cast<long>(sources.size()), "table") << " written to " << to.string()

@@ -237,10 +237,9 @@ TEST_F(EnterTickets, ThePointsOfTheMoneyAreCountedWhenItIsLeft) {
     person.Type("x");
     EXPECT_EQ(points, 1) << "the nought that takes the place of a refused amount has one";
     Type("txtDollars", "1.2.3");
-    person.Expect(
-        "ERROR",
-        "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.",
-        Answer::Ok, BoxStyle::Ok, [&] { EXPECT_EQ(points, 2); });
+    person.Expect("ERROR",
+                  "Only one decimal point may be used in this field.\r\nPlease enter a valid Dollar amount.",
+                  Answer::Ok, BoxStyle::Ok, [&] { EXPECT_EQ(points, 2); });
     person.Tab();
 }
 
