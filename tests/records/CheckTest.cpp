@@ -67,21 +67,22 @@ TEST_F(Check, KnowsTheLowestAndHighestNumberOfEachField) {
                                    {"WinEarlyBird", "Ball_4", 1, 45, true},
                                    {"WinEarlyBird", "Date", 1, 45, false},
                                    {"Temp", "Ball_#", -32'768, 32'767, false}};
-    for (const auto& [table, field, low, high, null] : all) {
+    for (const Ends& ends : all) {
+        const auto& [table, field, low, high, null] = ends;
         fs::remove_all(Path("data"));
         Make(table);
         Sql("INSERT INTO " + table + " (ID1) VALUES (1)");
         const auto told = [&](const std::string& value) {
-            Sql("UPDATE " + table + " SET \"" + field + "\" = " + value);
+            Sql("UPDATE " + ends.table + " SET \"" + ends.field + "\" = " + value);
             std::string about;
             for (const std::string& line : LinesOf(Run({"check"}).data))
-                if (Tells(line, ": " + field + " ")) about += line.substr(line.find(": ") + 2);
+                if (Tells(line, ": " + ends.field + " ")) about += line.substr(line.find(": ") + 2);
             return about;
         };
         const std::string range = " is not from " + std::to_string(low) + " to " + std::to_string(high);
-        const auto odd = [&, &at = field](int value) {
-            return at == "Date" ? "Date holds no number from 1 to 45"
-                                : at + " \"" + std::to_string(value) + "\"" + range;
+        const auto odd = [&](int value) {
+            return ends.field == "Date" ? "Date holds no number from 1 to 45"
+                                        : ends.field + " \"" + std::to_string(value) + "\"" + range;
         };
         EXPECT_EQ(told(std::to_string(low)), "") << table << " " << field;
         EXPECT_EQ(told(std::to_string(high)), "") << table << " " << field;
