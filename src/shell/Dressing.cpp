@@ -60,8 +60,8 @@ constexpr auto Ontario49 =
     std::to_array({Caption("chkEncore", "Encore Played"), Caption("lblEncorePlayed", "Encore #'s Played:")});
 constexpr auto OntSuper7 = std::to_array({Hide("chkEncore")});
 constexpr auto QCExtra =
-    std::to_array({Caption("chkEncore", "Extra Played"), Caption("lblEncorePlayed", "Extra #'s:"),
-                   Caption("lblWinEncore", "Enter Extra Number:")});
+    std::to_array({Caption("chkEncore", "Extra Played"), Caption("lblWinEncore", "Enter Extra Number:")});
+constexpr auto ExtraNumbers = std::to_array({Caption("lblEncorePlayed", "Extra #'s:")});
 constexpr auto ShowCheck = std::to_array({Show("chkEncore")});
 // The one game whose add-on box is seen but can't be changed before the count of tickets is accepted.
 constexpr auto Quebec49 =
@@ -109,9 +109,9 @@ constexpr auto Dressings = std::to_array<Dressing>({
     {"mnuCANONTLotto649", {Lotto, CountedEncore, OntLotto649}},
     {"mnuCANONTONT49", {Lotto, CountedEncore, Ontario49}},
     {"mnuCANONTSuper7", {Lotto, Super7, CountedEncore, OntSuper7}},
-    {"mnuCANQCLotto649", {Lotto, OneNumber, QCExtra, ShowCheck, MoneyMoved}},
+    {"mnuCANQCLotto649", {Lotto, OneNumber, QCExtra, ExtraNumbers, ShowCheck, MoneyMoved}},
     {"mnuCANQCQuebec49", {Lotto, OneNumber, QCExtra, Quebec49, MoneyMoved}},
-    {"mnuCANQCSuper7", {Lotto, Super7, OneNumber, QCExtra, MoneyStays}},
+    {"mnuCANQCSuper7", {Lotto, Super7, OneNumber, QCExtra, ExtraNumbers, MoneyStays}},
     {"mnuCANATLLotto649", {Lotto, OneNumber, Tag, AtlLotto649, MoneyMoved}},
     {"mnuCANATLSuper7", {Lotto, Super7, OneNumber, Tag, MoneyStays}},
     {"mnuCANONTLOTTARIO", {Lottario}},

@@ -21,7 +21,7 @@ struct Setting {
     int elements = 0;            // of an array, from 0; 0: `control` is the whole name
 };
 
-// The settings of the game, in the order in which they are made; each control's last one stands.
+// The settings of the game. None is of the same property of the same control as another.
 std::vector<Setting> DressingOf(const Game& game);
 
 // The full names of the controls that the setting concerns.

@@ -55,6 +55,7 @@ TEST_F(List, HoldsLinesAsARuleHandsThemOver) {
     lines.AddItem("after");
     EXPECT_EQ("after", list.Text(0));
     EXPECT_EQ(1, list.model()->rowCount());
+    EXPECT_EQ(0, list.model()->rowCount(list.model()->index(0, 0))) << "there are no rows below a row";
 }
 
 TEST_F(List, RowSelectedByTheProgramIsNoClick) {

@@ -176,6 +176,25 @@ TEST_F(Reading, PicturesShrinkToThePage) {
     EXPECT_EQ(reader.horizontalScrollBar()->maximum(), 0);
 }
 
+TEST_F(Reading, AShrunkenPictureIsSmooth) {
+    QImage stripes(2000, 60, QImage::Format_RGB32);
+    for (int x = 0; x < stripes.width(); ++x)
+        for (int y = 0; y < stripes.height(); ++y)
+            stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    stripes.save(ToQt(folder.File("stripes.png")));
+    Write("stripes.md", "![stripes](stripes.png)\n");
+    ASSERT_TRUE(reader.Open(folder.File("stripes.md"), {}));
+    sorvane::test::Open(window);
+    const QImage shown = reader.viewport()->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+    int grey = 0;
+    for (int y = 0; y < shown.height(); ++y)
+        for (int x = 0; x < shown.width(); ++x) {
+            const int light = qGray(shown.pixel(x, y));
+            grey += light > 60 && light < 200 ? 1 : 0;
+        }
+    EXPECT_GT(grey, 1000) << "black and white run together";
+}
+
 TEST_F(Reading, HeadingsAreFoundByTheirNamesInLinks) {
     OpenGuide("Second part");
     EXPECT_EQ(AtTheTop(), "Second part");

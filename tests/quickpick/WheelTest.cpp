@@ -132,6 +132,12 @@ TEST(WheelTicketsTest, RotationLeavesTheSpareSlotAndTheSortOverwritesNumbers) {
     EXPECT_EQ(world.global.Numbers(5), 7);
 }
 
+TEST(WheelTicketsTest, TheWheelOfSevenRotatesAllNumbersOfItsPool) {
+    WheelWorld world(9, 7, 1);
+    EXPECT_EQ(ErrorOf([&] { world.Wheel({1, 2, 3, 4, 5, 6, 7, 8, 9}); }), 9);
+    EXPECT_TRUE(world.list.items.empty());
+}
+
 TEST(WheelTicketsTest, TheWheelOfEightShowsSevenNumbersAsRotatedNotAsSorted) {
     WheelWorld world(8, 8, 8);
     EXPECT_EQ(

@@ -2,11 +2,23 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <utility>
+
 namespace sorvane {
 namespace {
 
 TEST(Dressing, EveryGameHasOne) {
     for (const Game& game : Games()) EXPECT_FALSE(DressingOf(game).empty()) << game.menu;
+}
+
+TEST(Dressing, SetsNothingTwiceSoThatItsOrderIsNoMatter) {
+    for (const Game& game : Games()) {
+        std::set<std::pair<std::string, Setting::Property>> set;
+        for (const Setting& setting : DressingOf(game))
+            for (const std::string& control : ControlsOf(setting))
+                EXPECT_TRUE(set.emplace(control, setting.property).second) << game.menu << " " << control;
+    }
 }
 
 TEST(Dressing, ASettingOfAnArrayMeansItsFirstElements) {

@@ -24,6 +24,29 @@ TEST(StartSysInfo, ElseAMonitor) {
     EXPECT_EQ(world.tools.started, Paths{"/usr/bin/xfce4-taskmanager"});
 }
 
+TEST(StartSysInfo, TriesTheToolsInTheirOrder) {
+    testing::World world;
+    const Paths names = {"hardinfo2",
+                         "hardinfo",
+                         "kinfocenter",
+                         "cpu-x",
+                         "msinfo32",
+                         "gnome-system-monitor",
+                         "plasma-systemmonitor",
+                         "ksysguard",
+                         "mate-system-monitor",
+                         "xfce4-taskmanager",
+                         "lxtask",
+                         "qps",
+                         "taskmgr"};
+    for (const std::string& name : names) world.tools.programs[name] = name;
+    for (const std::string& name : names) {
+        StartSysInfo(world.services);
+        world.tools.programs.erase(name);
+    }
+    EXPECT_EQ(world.tools.started, names);
+}
+
 TEST(StartSysInfo, WithoutAnyToolGivesTheBoxAndNothingElse) {
     testing::World world;
     world.dialogs.Expect("Sorvane", "System Information Is Unavailable At This Time", Answer::Ok,

@@ -289,6 +289,14 @@ TEST_F(DigitWindow, TicketsAreWrittenWithTheirDigitsAndTheWay) {
     EXPECT_FALSE(windows.IsLoaded(Family::frmPick3));
 }
 
+TEST_F(DigitWindow, AWholeNumberOfAnyAddOnLeadsToSave) {
+    TypeTheEncoreOfATicket();
+    global.ExtraFlag = "QCExtra";  // no game of three digits has it, and the window doesn't ask
+    person.Tab();
+    EXPECT_TRUE(IsEnabled("cmdSave"));
+    EXPECT_EQ(Focus(), "cmdSave");
+}
+
 TEST_F(DigitWindow, TheWayIsFixedAfterTheFirstTicket) {
     Show("mnuCANQC3");
     OneSheet(2);

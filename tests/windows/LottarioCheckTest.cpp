@@ -56,6 +56,9 @@ TEST_F(LottarioCheck, BothRowsOfBoxesAreRequiredAndTheListsAreClearedBeforeTheEn
     Click("cmdCheck");
     EXPECT_EQ(Focus(), "txtWin6(6)");
     Type("txtWin6(6)", "7");
+    ExpectMissing("Missing Data. Please enter a valid number from 1 to 45 and try again.");
+    Click("cmdCheck");
+    EXPECT_EQ(Focus(), "txtWin4(0)");
     Draw("txtWin4", {1, 2, 3});
     ExpectMissing("Missing Data. Please enter a valid number from 1 to 45 and try again.");
     Click("cmdCheck");

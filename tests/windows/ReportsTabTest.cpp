@@ -228,6 +228,9 @@ TEST_P(EveryReportsTab, TheNumberChartHasTitleAxesLegendAndABarForEachNumber) {
     for (int row = 0; row < Rows[GetParam().family]; ++row)
         told.push_back(Number(IsDigits() ? row : row + 1));
     for (const std::string& text : told) EXPECT_TRUE(texts.contains(text)) << text;
+    for (int column = 1; column <= Columns[GetParam().family]; ++column)
+        EXPECT_EQ(Legend(Reports().mscNumberFrequency, column),
+                  IsDigits() ? "Ball " + Number(column) : "Frequency");
 }
 
 TEST_F(ReportsTabTest, TheDigitsOfAChartBeginAtNoughtAndEndAtNine) {
