@@ -289,6 +289,16 @@ TEST_F(DigitWindow, TicketsAreWrittenWithTheirDigitsAndTheWay) {
     EXPECT_FALSE(windows.IsLoaded(Family::frmPick3));
 }
 
+TEST_F(DigitWindow, TheEncoresOfASheetAreCountedFromNought) {
+    Show("mnuCANONTPICK3");
+    OneSheet(1);
+    Put("txtNoOfExtra", "1");
+    PutDigits({1, 2, 3});
+    global.ExtraNo = 5;
+    Click("cmdNext_Ticket");
+    EXPECT_EQ(global.ExtraNo, 0);
+}
+
 TEST_F(DigitWindow, AWholeNumberOfAnyAddOnLeadsToSave) {
     TypeTheEncoreOfATicket();
     global.ExtraFlag = "QCExtra";  // no game of three digits has it, and the window doesn't ask

@@ -243,6 +243,17 @@ TEST_F(EnterTickets, ThePointsOfTheMoneyAreCountedWhenItIsLeft) {
     person.Tab();
 }
 
+TEST_F(EnterTickets, AWindowKnowsHowManyNumbersItsTicketsHave) {
+    constexpr PerFamily<int> Numbers{{6, 7, 6, 20, 20, 3, 4}};
+    const PerFamily<const char*> keys{
+        {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+    for (const Family family : AllFamilies) {
+        Show(family, keys[family], "Encore");
+        EXPECT_EQ(Window().State.NumbersPerTicket, Numbers[family]) << NameOf(family);
+        Window().Leave();
+    }
+}
+
 TEST_F(EnterTickets, AWindowKnowsItsIndexAndItsField) {
     Show("mnuCANONTLotto649");
     WindowState& state = Window().State;

@@ -99,6 +99,8 @@ TEST_P(EveryWheel, OtherKeysThanDigitsPutTheNumberOfNumbersToZero) {
     EXPECT_EQ(TextOf("txtHowMany"), "0");
     EXPECT_EQ(Window().QuickPick.Wheel->txtHowMany.selectedText(), "");
     EXPECT_EQ(Focus(), "txtHowMany");
+    person.Type("1");  // before the nought
+    EXPECT_EQ(TextOf("txtHowMany"), "10");
 }
 
 TEST_P(EveryWheel, WhatStandsInAFieldIsSelectedWhenItIsReached) {
