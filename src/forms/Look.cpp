@@ -114,7 +114,8 @@ void Enlarge(QWidget& widget, double times) {
 
 QFont Fitting(QFont font, const std::function<bool(const QFontMetrics&)>& fits) {
     constexpr double Step = 0.25, Smallest = 1;  // points
-    while (!fits(QFontMetrics(font)) && font.pointSizeF() > Smallest) font.setPointSizeF(font.pointSizeF() - Step);
+    while (!fits(QFontMetrics(font)) && font.pointSizeF() > Smallest)
+        font.setPointSizeF(font.pointSizeF() - Step);
     return font;
 }
 
