@@ -29,11 +29,6 @@ int MonthOf(std::string_view word) {
     return 0;
 }
 
-bool OneOf(std::string_view word, std::initializer_list<std::string_view> words,
-           bool (*same)(std::string_view, std::string_view) = SameWord) {
-    return std::any_of(words.begin(), words.end(), [&](std::string_view one) { return same(word, one); });
-}
-
 bool IsWeekday(std::string_view word) {
     return OneOf(word, {"monday", "tuesday", "wednesday", "thursday", "friday", "saturday", "sunday"}, Names);
 }

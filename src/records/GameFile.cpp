@@ -30,10 +30,6 @@ std::pair<std::string, int> Numbered(std::string essence) {
     return {essence, number};
 }
 
-bool OneOf(std::string_view word, std::initializer_list<std::string_view> words) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
 // Runs of digits, parted by anything that is none.
 std::vector<std::string_view> FiguresIn(std::string_view text) {
     std::vector<std::string_view> figures;

@@ -226,6 +226,11 @@ bool SameWord(std::string_view a, std::string_view b) {
                       [](char x, char y) { return Small(x) == Small(y); });
 }
 
+bool OneOf(std::string_view word, std::initializer_list<std::string_view> words,
+           bool (*same)(std::string_view, std::string_view)) {
+    return std::any_of(words.begin(), words.end(), [&](std::string_view one) { return same(word, one); });
+}
+
 std::string EssenceOf(std::string_view name) {
     std::string essence;
     for (const char letter : name)

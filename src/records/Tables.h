@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -57,6 +58,9 @@ std::span<const Table> Tables();
 // Whatever the case of its letters; null when the program makes no such table.
 const Table* FindTable(std::string_view name);
 bool SameWord(std::string_view a, std::string_view b);
+// Whether the word is the same as one of these.
+bool OneOf(std::string_view word, std::initializer_list<std::string_view> words,
+           bool (*same)(std::string_view, std::string_view) = SameWord);
 constexpr bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 // Small letters and digits alone: other tools write "# of Balls" as "__of_Balls" or "#_of_balls".
 std::string EssenceOf(std::string_view name);

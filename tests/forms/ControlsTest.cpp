@@ -31,6 +31,15 @@ namespace {
 
 using namespace forms;
 
+// Counts how often what it is installed on is painted.
+struct PaintCounter : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::Paint;
+        return false;
+    }
+    int count = 0;
+};
+
 TEST(Control, NameIsQtsObjectName) {
     CommandButton button("cmdSave", "&Save Tickets");
     EXPECT_EQ("cmdSave", button.Name());
@@ -628,13 +637,7 @@ TEST(Picture, AnotherDrawingIsShownAtOnceInASizeOfItsOwn) {
     picture.SetFile(Drawing(folder, "blue", 60, 30));
     Person::Settle();
     EXPECT_EQ(picture.size(), QSize(60, 30));
-    struct Paints : QObject {
-        bool eventFilter(QObject*, QEvent* event) override {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-        int count = 0;
-    } paints;
+    PaintCounter paints;
     picture.installEventFilter(&paints);
     picture.SetFile(Drawing(folder, "lime", 60, 30));
     EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
@@ -742,13 +745,7 @@ TEST(LabelFrame, AHintIsToldAndPaintedAnewWhenItIsRefreshed) {
     frame.SetHint([&] { return hint; });
     frame.RefreshHint();
     Person::Settle();
-    struct Paints : QObject {
-        bool eventFilter(QObject*, QEvent* event) override {
-            count += event->type() == QEvent::Paint;
-            return false;
-        }
-        int count = 0;
-    } paints;
+    PaintCounter paints;
     frame.installEventFilter(&paints);
     hint = "1 of 6";
     frame.RefreshHint();

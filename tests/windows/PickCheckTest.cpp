@@ -10,15 +10,18 @@ class PickCheck : public CheckTickets {
            "(" +
            std::to_string(key) + ", 'WESTPick3', " + Day() + ", " + digits + ", '" + way + "')");
     }
+    void CheckTwoTickets() {
+        Open("mnuCANWESTPICK3");
+        Ticket(1, "1, 2, 3", "Box");
+        Ticket(2, "3, 1, 2", "Straight");
+        Digits({3, 2, 1});
+        Click("cmdCheck");
+    }
     static constexpr const char* Winner = "Congratulations! This Ticket is a Winner! ";
 };
 
 TEST_F(PickCheck, TheWayOfTheFirstRowRulesTheDate) {
-    Open("mnuCANWESTPICK3");
-    Ticket(1, "1, 2, 3", "Box");
-    Ticket(2, "3, 1, 2", "Straight");
-    Digits({3, 2, 1});
-    Click("cmdCheck");
+    CheckTwoTickets();
     EXPECT_EQ(Messages(), (Texts{Winner, Winner}));
     EXPECT_EQ(global.PlayOption, "Box");
 }
@@ -89,11 +92,7 @@ TEST_F(PickCheck, AWindowWithoutEncoresLeavesTheirListAlone) {
 }
 
 TEST_F(PickCheck, ADoubleClickOnAVerdictLeadsToItsTicket) {
-    Open("mnuCANWESTPICK3");
-    Ticket(1, "1, 2, 3", "Box");
-    Ticket(2, "3, 1, 2", "Straight");
-    Digits({3, 2, 1});
-    Click("cmdCheck");
+    CheckTwoTickets();
     ASSERT_EQ(Messages().size(), 2u);
     person.DoubleClickRow(person.Find<QListView>("lstMessage"), 1);
     EXPECT_EQ(Window().Check.lstNumbersPlayed.ListIndex(), 1);
