@@ -129,11 +129,13 @@ void GenerateFrequencyWheel(Session& session, std::string_view order, const Whee
     BuildTempTable(session, wheel.DbName, wheel.TableName, g.BallFrequency.UBound(), g.BallFrequency);
     Dao::Database Db = session.services.engine.OpenDatabase(wheel.DbName, g.Open);
     Dao::Recordset Rs = Db.OpenSql(order);
-    if (Rs.RecordCount() > 0)
+    if (Rs.RecordCount() > 0) {
+        Rs.MoveFirst();
         for (int i = 0; i < howMany; ++i) {
             pool(i) = Rs[1].ToInteger();
             Rs.MoveNext();
         }
+    }
     DeleteAllRows(session, wheel.Table());
     SortNumbers(g, pool);
     for (int i = 0; i < howMany; ++i) window.face.ShowFavourite(i, Str(pool(i)));

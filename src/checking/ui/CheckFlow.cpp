@@ -204,6 +204,7 @@ void CheckFlow::cmdEnterWinnings_Click() {
     if (probes) MakeSureOfTable();
     FindDrawEntry(session, window_.At());
     if (session.global.WinningsDrawFound == Off) return;
+    session.global.TableOpened = Off;
     state.TableName = "Winnings";
     if (probes) MakeSureOfTable();
     session.global.Dollars = page_.txtDollarsWon.Text();
