@@ -146,6 +146,13 @@ TEST_F(Draws, ADayEndsWhereTheNextBegins) {
               "WinBC49: 0 draws added, 1 there already\n");
 }
 
+TEST_F(Draws, ADayTakesInARowWithATimeOfDay) {
+    Make("WinBC49");
+    Sql("INSERT INTO WinBC49 VALUES (1, 46340.75, 1,2,3,4,5,6,9)");
+    EXPECT_EQ(Do({"draws", "BC49", Write("d.csv", "date,numbers,bonus\n2026-11-14,1 2 3 4 5 6,7\n")}).words,
+              "WinBC49: 0 draws added, 1 with other numbers left alone (--replace takes the file's)\n");
+}
+
 TEST_F(Draws, TellEveryFindingWithItsLineAndChangeNothing) {
     Make("WinBC49");
     const std::string file =
