@@ -63,7 +63,7 @@ inline constexpr PerFamily<bool>             HasEncoreList  {{ yes,        yes, 
 // The guards of the winning boxes, up to the highest number of the family; without a text there is none.
 inline constexpr PerFamily<std::string_view> RangeText      {{ Between49,  Between49,  From45,     Between70,  Between80,  "",         ""         }};
 inline constexpr PerFamily<bool>             EnterMovesOn   {{ no,         no,         yes,        no,         no,         no,         no         }};  // from a winning box to the next; elsewhere it is a refused key
-inline constexpr PerFamily<int>              FourTop        {{ 99,         0,          45,         0,          0,          0,          0          }};  // frm749 lets any number stand: meant
+inline constexpr PerFamily<int>              FourTop        {{ 99,         NoSuch,     45,         NoSuch,     NoSuch,     NoSuch,     NoSuch     }};  // frm749 lets any number stand: meant
 inline constexpr PerFamily<std::string_view> FourRangeText  {{ Between99,  "",         From45,     "",         "",         "",         ""         }};
 inline constexpr PerFamily<bool>             RefusalEmptiesFour{{ no,      no,         yes,        no,         no,         no,         no         }};
 inline constexpr PerFamily<bool>             GuardsEncoreKeys{{ yes,       yes,        no,         no,         no,         no,         no         }};  // Backspace, too, moves to cmdCheck: meant

@@ -21,11 +21,12 @@ inline constexpr std::array<std::string_view, 4> PositionSeries{"Ball 1", "Ball 
 inline constexpr std::span<const std::string_view> Pick3Series = std::span(PositionSeries).first<3>();
 
 inline constexpr int NotSized = -1;
+inline constexpr int NoRow = -1;
 
 // clang-format off
 //                                                    649    749    645    K70    K80    P3     P4
 inline constexpr PerFamily<TallyRoutine> Tally     {{ TallySixNumberFrequency, TallySevenNumberFrequency, TallySixNumberFrequency, TallyKenoFrequency, nullptr, TallyPick3Digits, TallyPick4Digits }};  // keno 80 has none
-inline constexpr PerFamily<int>  LastRow           {{ 48,    46,    44,    69,    -1,    -1,    -1    }};  // of the number report; Super 7 leaves 48 and 49 off
+inline constexpr PerFamily<int>  LastRow           {{ 48,    46,    44,    69,    NoRow, NoRow, NoRow }};  // of the number report; Super 7 leaves 48 and 49 off
 inline constexpr PerFamily<int>  NumbersUpper      {{ 49,    NotSized, 44, 70,    NotSized, 3,  3     }};  // Numbers as cmdReport sizes it; the digit games only when their table is missing
 inline constexpr PerFamily<std::string_view> ChartTitle{{ "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency", "Number Frequency by Position", "Number Frequency by Position" }};
 inline constexpr PerFamily<std::string_view> ChartAxis {{ "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers Drawn", "Numbers", "Numbers" }};

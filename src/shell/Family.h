@@ -19,6 +19,8 @@ struct PerFamily {
     T of[7];
     constexpr const T& operator[](Family family) const { return of[static_cast<std::size_t>(family)]; }
 };
+// The cell of a family that has no such number; nobody reads it.
+inline constexpr int NoSuch = 0;
 
 // The window's name, "frm649" to "frmPick4".
 constexpr std::string_view NameOf(Family family) {

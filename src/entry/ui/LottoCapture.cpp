@@ -20,7 +20,7 @@ constexpr std::string_view NextBonus = "Next &Bonus";
 // What a correction among the bonus tickets writes. It is not the caption that the click looks for: meant.
 constexpr std::string_view CorrectedBonus = "&Next Bonus";
 
-constexpr PerFamily<int> GridColumns{{10, 10, 9, 10, 10, 1, 1}};
+constexpr PerFamily<int> GridColumns{{10, 10, 9, 10, 10, NoSuch, NoSuch}};
 
 }  // namespace
 

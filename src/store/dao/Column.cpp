@@ -154,7 +154,7 @@ Column ColumnOf(std::string name, std::string_view declared) {
         std::from_chars(declared.data() + bracket + 1, declared.data() + declared.size(), size);
     for (const TypeName& entry : TypeNames) {
         if (SameName(base, entry.name) && (entry.size < 0 || entry.size == size))
-            return {std::move(name), entry.type, entry.size < 0 ? size : 0};
+            return {std::move(name), entry.type, size};
     }
     return {std::move(name), FieldType::Other, 0};
 }
