@@ -9,11 +9,14 @@
 #include <QChart>
 #include <QChartView>
 #include <QGraphicsLayout>
+#include <QGraphicsLineItem>
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsTextItem>
 #include <QGridLayout>
 #include <QHelpEvent>
+#include <QLabel>
 #include <QLegendMarker>
+#include <QPainter>
 #include <QPointer>
 #include <QScreen>
 #include <QStyle>
@@ -92,6 +95,13 @@ TEST(Look, TheMarkOfAMenuThatDoesNotFitIsMadeWhenItIsPainted) {
     const QIcon later = style.standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton);
     EXPECT_TRUE(later.availableSizes().isEmpty());
     EXPECT_FALSE(later.pixmap(16).isNull());
+    QImage painted(16, 16, QImage::Format_RGB32);
+    painted.fill(Qt::white);
+    const QImage empty = painted;
+    QPainter painter(&painted);
+    later.paint(&painter, painted.rect());
+    painter.end();
+    EXPECT_NE(painted, empty);
     EXPECT_FALSE(style.standardIcon(QStyle::SP_MessageBoxWarning).availableSizes().isEmpty());
 }
 
@@ -771,7 +781,7 @@ TEST_F(Bars, ABrokenNumberIsToldWithTwoDecimals) {
 
 TEST(Look, SizesAreInProportionToTheFont) {
     QWidget widget;
-    for (const int pixels : {9, 12, 16, 24, 40}) {
+    for (int pixels = 8; pixels < 50; ++pixels) {
         QFont font = widget.font();
         font.setPixelSize(pixels);
         widget.setFont(font);
@@ -793,6 +803,15 @@ TEST(Look, SizesAreInProportionToTheFont) {
         const std::unique_ptr<QBoxLayout> row(Look::Row(widget));
         EXPECT_EQ(row->direction(), narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     }
+}
+
+TEST(Look, InTheSmallestLettersAPixelIsLeftBetweenTwoControls) {
+    QWidget widget;
+    QFont font = widget.font();
+    font.setPixelSize(1);
+    widget.setFont(font);
+    ASSERT_LE(widget.fontMetrics().height(), 3);
+    EXPECT_EQ(Look::Space(widget), 1);
 }
 
 TEST(Look, FontsOfASizeThatIsAskedFor) {
@@ -851,6 +870,107 @@ TEST(NumberBall, OneInTheSameLineComesBeforeOneThatIsNearerAside) {
     EXPECT_EQ(balls(0).sizePolicy().verticalPolicy(), QSizePolicy::Preferred);
     EXPECT_EQ(balls(0).minimumSizeHint(), QSize(Look::SmallestBall(balls(0)), Look::SmallestBall(balls(0))));
     EXPECT_EQ(balls(0).sizeHint(), QSize(Look::BallSize(balls(0)), Look::BallSize(balls(0))));
+}
+
+// Also those that the axis can't write itself, in letters and colours that are not the application's.
+TEST_F(Bars, AllThatIsWrittenIsInTheLettersAndTheInkOfTheChart) {
+    chart.setPalette(DarkPalette());
+    chart.setFont(QFont("DejaVu Sans", 17));
+    chart.SetHint("Press a button");
+    chart.SetRowCount(21);
+    window.resize(2000, 700);
+    Open(window);
+    const QColor ink = DarkPalette().color(QPalette::Text);
+    const QChart& drawn = *View()->chart();
+    int labels = 0, hints = 0;
+    for (const QGraphicsItem* item : View()->scene()->items()) {
+        if (const auto* text = qgraphicsitem_cast<const QGraphicsSimpleTextItem*>(item)) {
+            ++labels;
+            EXPECT_EQ(text->font(), chart.font()) << qPrintable(text->text());
+            EXPECT_EQ(text->brush().color(), ink) << qPrintable(text->text());
+        }
+        if (const auto* text = dynamic_cast<const QGraphicsTextItem*>(item);
+            text && text->toPlainText() == "Press a button") {
+            ++hints;
+            EXPECT_EQ(text->font(), chart.font());
+        }
+    }
+    EXPECT_EQ(labels, 21 + 1);
+    EXPECT_EQ(hints, 1);
+    EXPECT_EQ(drawn.legend()->font(), chart.font());
+    for (const QAbstractAxis* axis : drawn.axes()) EXPECT_EQ(axis->labelsFont(), chart.font());
+    EXPECT_EQ(drawn.axes(Qt::Vertical).at(0)->titleFont(), chart.font());
+    EXPECT_EQ(drawn.titleFont().pointSize(), 17);
+}
+
+// A hairline in the ink of the chart. Where nothing is below zero the axis itself is that line.
+TEST_F(Money, TheLineAtZeroIsDrawnWhereABarIsBelowItOnly) {
+    chart.setPalette(DarkPalette());
+    Put(1, 40, "Spent");
+    Open(window);
+    const auto lines = [&] {
+        std::vector<QPen> pens;
+        for (const QGraphicsItem* item : View()->scene()->items())
+            if (const auto* line = dynamic_cast<const QGraphicsLineItem*>(item);
+                line && line->parentItem() == View()->chart())
+                pens.push_back(line->pen());
+        return pens;
+    };
+    EXPECT_TRUE(lines().empty());
+    Put(2, -25, "Won  ");
+    Person::Settle();
+    ASSERT_EQ(lines().size(), 1U);
+    EXPECT_EQ(lines()[0].color(), DarkPalette().color(QPalette::Text));
+    EXPECT_TRUE(lines()[0].isCosmetic());
+}
+
+TEST_F(Bars, RowsStandInTheirPlacesWithoutAnyColumn) {
+    chart.SetColumnCount(0);
+    chart.SetRowCount(5);
+    Open(window);
+    EXPECT_EQ(Axis().min(), -0.5);
+    EXPECT_EQ(Axis().max(), 4.5);
+}
+
+TEST_F(Bars, TheDrawingTakesTheRoomThatOthersDoNotNeed) {
+    QWidget other;
+    other.setLayout(new QVBoxLayout);
+    other.layout()->addWidget(new QLabel("Numbers"));
+    window.layout()->addWidget(&other);
+    Open(window);
+    EXPECT_EQ(other.height(), other.sizeHint().height());
+    EXPECT_EQ(chart.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+}
+
+TEST_F(Bars, ItsTitleAndItsHintAreToldBeforeItIsDrawn) {
+    EXPECT_EQ("Number Frequency", chart.accessibleName().toStdString());
+    chart.SetHint("Press a button");
+    EXPECT_EQ("Press a button", Told());
+    chart.SetData(3);
+    chart.SetHint("Press another one");
+    EXPECT_EQ("Press a button", Told());
+    Open(window);
+    EXPECT_EQ("Frequency: 3", Told());
+}
+
+TEST_F(Bars, RowsAtZeroAreToldTogetherAlsoWhereThereAreTwo) {
+    const auto put = [&](int row, double value) {
+        chart.SetRow(row);
+        chart.SetData(value);
+    };
+    chart.SetRowCount(2);
+    put(1, 3);
+    put(2, 4);
+    Open(window);
+    EXPECT_EQ("1: 3, 2: 4", Told());
+    put(2, 0);
+    Person::Settle();
+    EXPECT_EQ("1: 3, others: 0", Told());
+    chart.SetColumnCount(2);
+    chart.SetColumn(2);
+    chart.SetColumnLabel("Ball 2");
+    Person::Settle();
+    EXPECT_EQ("Frequency 1: 3, others: 0; Ball 2 all: 0", Told());
 }
 
 }  // namespace
