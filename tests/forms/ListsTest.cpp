@@ -592,5 +592,85 @@ TEST_F(Dates, TheCalendarHasRoomForItsRowsAndItsOutline) {
     person.Key(Qt::Key_Escape);
 }
 
+TEST_F(List, TheFirstRowIsClickedAndDoubleClickedLikeAnyOther) {
+    person.ClickRow(list, 0);
+    EXPECT_EQ((Log{"click 0"}), window.log);
+    person.Enter();
+    EXPECT_EQ((Log{"click 0", "double-click 0"}), window.log);
+    list.SetListIndex(1);
+    person.Key(Qt::Key_Home);
+    EXPECT_EQ((Log{"click 0", "double-click 0", "click 0"}), window.log);
+}
+
+TEST_F(List, AMarkIsThereAtOnceAndTheRowsMakeRoomForIt) {
+    list.Clear();
+    list.AddItem(std::string(400, 'W'));
+    list.AddItem("4, 5, 6");
+    Person::Settle();
+    const auto width = [&] { return list.visualRect(list.model()->index(0, 0)).width(); };
+    const int before = width(), side = list.fontMetrics().height();
+    list.SetWinners([](int row, std::string_view) { return row == 1; });
+    Person::Settle();
+    EXPECT_GT(width(), before);
+    EXPECT_EQ(list.iconSize(), QSize(side, side));
+    const QIcon mark = list.model()->index(1, 0).data(Qt::DecorationRole).value<QIcon>();
+    EXPECT_EQ(mark.pixmap(side).toImage(), Look::Winner(list.palette(), side).pixmap(side).toImage());
+}
+
+TEST_F(List, AHintIsToldAndPaintedAtOnceWhereTheListIsEmpty) {
+    list.Clear();
+    Person::Settle();
+    Count paints(*list.viewport(), QEvent::Paint);
+    list.SetHint("Check a draw");
+    EXPECT_EQ("Check a draw", list.accessibleDescription().toStdString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }));
+}
+
+TEST_F(List, AHintIsPaintedInItsOwnColourAndNotOverARow) {
+    list.Clear();
+    list.setPalette(LightPalette());
+    list.setFont(QFont("DejaVu Sans", 40, QFont::Bold));
+    list.SetHint("MMM");
+    ok.SetFocus();
+    const auto darkest = [&] {
+        const QImage shown = list.viewport()->grab().toImage();
+        QColor ink = Qt::white;
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                if (shown.pixelColor(x, y).lightness() < ink.lightness()) ink = shown.pixelColor(x, y);
+        return ink;
+    };
+    EXPECT_EQ(darkest().name(), Look::Hint(LightPalette()).name());
+    list.AddItem("");
+    EXPECT_EQ(darkest(), QColor(Qt::white));
+}
+
+TEST_F(List, ItsLettersMayAllBeOfOneWidth) {
+    list.SetFixedPitch();
+    EXPECT_EQ(list.fontMetrics().horizontalAdvance("iiii"), list.fontMetrics().horizontalAdvance("WWWW"));
+}
+
+TEST_F(Copying, TheMenuOfTheOnlyRowCopiesIt) {
+    list.Clear();
+    list.AddItem("10, 11, 12");
+    OpenMenu(0);
+    Choose("&Copy", "c");
+    EXPECT_EQ("10, 11, 12", Copied());
+    QGuiApplication::clipboard()->clear();
+    OpenMenu(0);
+    Choose("Copy &All", "a");
+    EXPECT_EQ("10, 11, 12", Copied());
+}
+
+TEST_F(Copying, InAnEmptyListNothingIsMarked) {
+    list.Clear();
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    OpenMenu(0);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    for (const QAction* action : menu->actions()) EXPECT_FALSE(action->isEnabled());
+    person.Key(Qt::Key_Escape);
+}
+
 }  // namespace
 }  // namespace sorvane::test
