@@ -6,6 +6,7 @@
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
+#include <filesystem>
 #include <fstream>
 
 #include "Fixture.h"
@@ -267,6 +268,70 @@ TEST_F(Reading, TellsOfEachPlaceAndOfEachDocumentOnce) {
     EXPECT_EQ(opened, 3);
     EXPECT_EQ(reader.Headings().size(), 3U);
     EXPECT_EQ(AtTheTop(), "Title");  // as it was left
+}
+
+TEST_F(Reading, ALinkLeadsToAHeadingOrADocumentBesideThisOneAndNeverAbroad) {
+    Write("beside.md", "# Beside\n");
+    OpenGuide();
+    const auto follow = [&](const QString& link) {
+        QTextCursor caret = reader.document()->find(link);
+        ASSERT_FALSE(caret.isNull()) << qPrintable(link);
+        caret.setPosition(caret.selectionStart() + 1);
+        person.Click(*reader.viewport(), reader.cursorRect(caret).center());
+    };
+    follow("abroad");
+    EXPECT_EQ(reader.Headings().size(), 3U);
+    EXPECT_FALSE(reader.CanGoBack());
+    follow("there");
+    EXPECT_EQ(AtTheTop(), "Second part");
+    EXPECT_TRUE(reader.CanGoBack());
+    reader.GoTo(0);
+    follow("beside");
+    ASSERT_EQ(reader.Headings().size(), 1U);
+    EXPECT_EQ(AtTheTop(), "Beside");
+}
+
+TEST_F(Reading, DocumentsOfOtherKindsAreShownAsTheyStand) {
+    Write("plain.txt", "\n# no heading\n*one*  two\n\n");
+    ASSERT_TRUE(reader.Open(folder.File("plain.txt")));
+    EXPECT_TRUE(reader.Headings().empty());
+    EXPECT_EQ(reader.toPlainText().trimmed(), "# no heading\n*one*  two");
+    reader.SetText("# none\n*two*");
+    EXPECT_EQ(reader.toPlainText(), "# none\n*two*");
+}
+
+// The way back is another one only behind the new place.
+TEST_F(Reading, TellsOfAPlaceGoneToAgainAndOfTheWayBack) {
+    OpenGuide();
+    std::vector<bool> back;
+    reader.OnMove([&] { back.push_back(reader.CanGoBack()); });
+    reader.GoTo(2);
+    ASSERT_FALSE(back.empty());
+    EXPECT_TRUE(back.back());
+    reader.verticalScrollBar()->setValue(0);
+    back.clear();
+    reader.GoTo(2);
+    EXPECT_FALSE(back.empty());
+    back.clear();
+    reader.GoBack();
+    ASSERT_FALSE(back.empty());
+    EXPECT_FALSE(back.back());
+}
+
+TEST_F(Reading, APictureThatHasBeenSeenIsNotReadAgain) {
+    Write("picture.md", "![wide](wide.png)\n");
+    ASSERT_TRUE(reader.Open(folder.File("picture.md")));
+    sorvane::test::Open(window);
+    const auto red = [&] {
+        const QImage shown = reader.viewport()->grab().toImage();
+        int found = 0;
+        for (int y = 0; y < shown.height(); ++y)
+            found += shown.pixelColor(shown.width() / 2, y) == QColor(Qt::red);
+        return found;
+    };
+    EXPECT_GT(red(), 10);
+    std::filesystem::remove(folder / "wide.png");
+    EXPECT_GT(red(), 10);
 }
 
 }  // namespace
