@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "Fixture.h"
+#include "forms/LabelFrame.h"
 #include "forms/Look.h"
 #include "forms/NumberBall.h"
 #include "support/Palettes.h"
@@ -603,6 +604,87 @@ TEST_F(BallPaint, TheNumberGrowsWithABallThatIsLargerThanItHasToBe) {
     EXPECT_GT(usual, 5);
     EXPECT_EQ(height(whole - 6), usual);
     EXPECT_NEAR(height(2 * whole), 2 * usual, 2);
+}
+
+// The tab in front goes on into its page without a line; no tab is wider than its place.
+TEST_F(Paint, WhatATabPaintsBesideItsPlace) {
+    const auto tab = [](QStyle::State state) {
+        return Picture({45, 40}, [&](QPainter& painter) {
+            QStyleOptionTab option;
+            Prepare(option, state, {36, 24});
+            QApplication::style()->drawControl(QStyle::CE_TabBarTabShape, &option, &painter);
+        });
+    };
+    const QImage front = tab(Enabled | QStyle::State_Selected), other = tab(Enabled);
+    EXPECT_EQ(Down(front, 18), "3 #2976a7, 26 #f7f7f7, 1 #9f9f9f, 10 #efefef");
+    EXPECT_EQ(Across(front, 1), "36 #2976a7, 9 #efefef");
+    EXPECT_EQ(Down(other, 18), "2 #efefef, 1 #9f9f9f, 20 #dedede, 1 #9f9f9f, 16 #efefef");
+}
+
+TEST_F(Paint, AListThatOpensHasAnArrowInABarThatScrollsNoEdge) {
+    const QSize size(60, 40);
+    const auto arrow = [&](QStyle::SubControls parts) {
+        return Picture(size, [&](QPainter& painter) {
+            QStyleOptionComboBox option;
+            Prepare(option, Enabled, size);
+            option.subControls = parts;
+            QApplication::style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter);
+        });
+    };
+    EXPECT_NE(arrow(QStyle::SC_ComboBoxFrame), arrow(QStyle::SC_ComboBoxFrame | QStyle::SC_ComboBoxArrow));
+    const std::unique_ptr<QStyle> plain(QStyleFactory::create("Fusion"));
+    const auto bar = [&](const QStyle& style) {
+        return Picture({60, 16}, [&](QPainter& painter) {
+            QStyleOptionSlider option;
+            Prepare(option, Enabled | QStyle::State_Horizontal, {60, 16});
+            option.orientation = Qt::Horizontal;
+            option.subControls = QStyle::SC_All;
+            option.maximum = 10;
+            option.pageStep = 5;
+            style.drawComplexControl(QStyle::CC_ScrollBar, &option, &painter);
+        });
+    };
+    EXPECT_EQ(bar(*QApplication::style()), bar(*plain));
+}
+
+TEST_F(Paint, TheTitleOfAGroupStandsInTheMiddleOfItsHeading) {
+    const QSize size(120, 60);
+    QStyleOptionGroupBox option;
+    Prepare(option, Enabled, size);
+    option.fontMetrics = QFontMetrics(QApplication::font());
+    option.subControls = QStyle::SC_GroupBoxLabel;
+    option.text = "Tickets";
+    const int heading = option.fontMetrics.height() * 4 / 3;
+    const QImage drawn = Picture(size, [&](QPainter& painter) {
+        painter.setFont(QApplication::font());
+        QApplication::style()->drawComplexControl(QStyle::CC_GroupBox, &option, &painter);
+    });
+    QImage expected(size, QImage::Format_RGB32);
+    expected.fill(Ground());
+    QPainter painter(&expected);
+    QFont heavy = QApplication::font();
+    heavy.setBold(true);
+    painter.setFont(heavy);
+    painter.setPen(option.palette.color(QPalette::WindowText));
+    painter.drawText(QRect(0, 0, size.width(), heading), Qt::AlignLeft | Qt::AlignVCenter, "Tickets");
+    painter.end();
+    const auto top = [](const QImage& picture) {
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixelColor(x, y) != Ground()) return y;
+        return -1;
+    };
+    EXPECT_GT(top(drawn), 0);
+    EXPECT_EQ(top(drawn), top(expected));
+}
+
+TEST(StyleSizes, AGroupIsAsWideAsItsHeavyTitle) {
+    LabelFrame frame("fraTickets", std::string(60, 'n'));
+    QFont heavy = frame.font();
+    heavy.setBold(true);
+    const int title = QFontMetrics(heavy).horizontalAdvance(QString(60, 'n'));
+    EXPECT_GE(frame.minimumSizeHint().width(), title);
+    EXPECT_LT(frame.minimumSizeHint().width(), title + 50);
 }
 
 }  // namespace
