@@ -1,11 +1,14 @@
 // Documents to be read.
 #include "forms/Reader.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QScrollBar>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextTable>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 
@@ -332,6 +335,41 @@ TEST_F(Reading, APictureThatHasBeenSeenIsNotReadAgain) {
     EXPECT_GT(red(), 10);
     std::filesystem::remove(folder / "wide.png");
     EXPECT_GT(red(), 10);
+}
+
+TEST_F(Reading, AHeadingIsAtTheUpperEdgeWhateverTheSizeOfThePage) {
+    OpenGuide("Second part");
+    const auto isAtTheEdge = [&](const char* heading) {
+        const QRectF block = reader.document()->documentLayout()->blockBoundingRect(Block(heading));
+        return QTest::qWaitFor(
+            [&] { return std::abs(reader.verticalScrollBar()->value() - block.top()) < 1; });
+    };
+    EXPECT_TRUE(isAtTheEdge("Second part"));
+    reader.GoTo(0);
+    reader.GoTo(1);
+    EXPECT_TRUE(isAtTheEdge("Second part"));
+    window.resize(400, 300);
+    Person::Settle();
+    EXPECT_TRUE(isAtTheEdge("Second part"));
+    EXPECT_GT(reader.verticalScrollBar()->value(), 0);
+}
+
+TEST_F(Reading, TheFirstHeadingIsFoundAlsoWhereItIsNotAtTheBeginning) {
+    std::string text = "Before.\n\n# Late title\n\n";
+    for (int i = 0; i < 60; ++i) text += "A line.\n\n";
+    Write("late.md", text);
+    ASSERT_TRUE(reader.Open(folder.File("late.md"), "Late title"));
+    EXPECT_EQ(AtTheTop(), "Late title");
+}
+
+TEST_F(Reading, ASearchBeginsAtTheHeadingThatWasGoneTo) {
+    OpenGuide();
+    reader.GoTo(1);
+    EXPECT_TRUE(reader.FindNext("title"));
+    EXPECT_EQ(reader.textCursor().selectionStart(), Block("The end: title.").position() + 9);
+    ASSERT_TRUE(reader.Open(folder.File("guide.md")));
+    EXPECT_TRUE(reader.FindNext("title"));
+    EXPECT_EQ(reader.textCursor().selectionStart(), 0);
 }
 
 }  // namespace
