@@ -256,5 +256,63 @@ TEST_F(Printing, SystemsDialogStandsOverTheWindowAndCanBeCancelled) {
     EXPECT_TRUE(window.isActiveWindow());
 }
 
+TEST_F(Printing, LettersAreOfTheSizeAndAtTheEdgeThatAreAskedFor) {
+    const auto place = [&](double edge, int points) {
+        printer.ShowPrinter();
+        printer.LeftEdge(edge);
+        printer.FontSize(points);
+        printer.Print("xxxxxxxxxx");
+        printer.EndDoc();
+        return Extent("x+");
+    };
+    const Place first = place(0, 12), second = place(8000, 6), large = place(0, 24);
+    EXPECT_NEAR(second.left - first.left, 400, 0.15);
+    EXPECT_NEAR(first.right - first.left, 72, 1);
+    EXPECT_NEAR(large.right - large.left, 144, 2);
+    printer.FontSize(1);
+    printer.FontSize(500);
+}
+
+TEST_F(Printing, HalfAnInchIsLeftAboveAndBelow) {
+    printer.ShowPrinter();
+    for (int i = 0; i < 200; ++i) printer.Print("ticket");
+    printer.EndDoc();
+    const double height = QRegularExpression("height=\"([0-9.]+)\"").match(Boxes()).captured(1).toDouble();
+    double top = height, bottom = 0;
+    const QRegularExpression words("yMin=\"([0-9.]+)\" xMax=\"[0-9.]+\" yMax=\"([0-9.]+)\"");
+    for (auto word = words.globalMatch(Boxes()); word.hasNext();) {
+        const auto match = word.next();
+        top = std::min(top, match.captured(1).toDouble());
+        bottom = std::max(bottom, match.captured(2).toDouble());
+    }
+    EXPECT_GE(top, 32);
+    EXPECT_LE(top, 40);
+    EXPECT_LE(bottom, height - 32);
+    EXPECT_GE(bottom, height - 36 - 18);
+}
+
+TEST_F(Printing, ALineWithABlankAtItsEndIsAsWideAsOneWithout) {
+    printer.ShowPrinter();
+    printer.Print(std::string(100, 'b') + " ");
+    printer.EndDoc();
+    EXPECT_NEAR(PageWidth() - 36 - 18, Extent("b+").right - Extent("b+").left, 1);
+}
+
+TEST_F(Printing, AnErrorEndsTheDocumentAndWhatWasSentComesOut) {
+    printer.ShowPrinter();
+    printer.Print("one");
+    const QString first = std::exchange(file, folder.filePath("second.pdf"));
+    accept = false;
+    EXPECT_EQ(ErrorNumber::DialogCancelled, ErrorOf([&] { printer.ShowPrinter(); }));
+    accept = true;
+    printer.ShowPrinter();
+    printer.Print("two");
+    printer.EndDoc();
+    ASSERT_EQ(Pages().size(), 1U);
+    EXPECT_EQ(Trimmed(Pages()[0].join(' ')), "two");
+    file = first;
+    EXPECT_EQ(Trimmed(Pages()[0].join(' ')), "one");
+}
+
 }  // namespace
 }  // namespace sorvane::test
