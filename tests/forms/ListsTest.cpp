@@ -672,5 +672,19 @@ TEST_F(Copying, InAnEmptyListNothingIsMarked) {
     person.Key(Qt::Key_Escape);
 }
 
+TEST(NewDate, ThatIsLeftAsItWasHasNotChanged) {
+    LoggingWindow window;
+    DatePicker date("dtpDraw");
+    CommandButton ok("cmdOk", "&Ok");
+    window.LayOut(date, ok);
+    date.OnChange([&] { window.Write("change"); });
+    Open(window);
+    Person person;
+    ASSERT_TRUE(date.HasFocus());
+    person.Tab();
+    EXPECT_TRUE(ok.HasFocus());
+    EXPECT_EQ(Log{}, window.log);
+}
+
 }  // namespace
 }  // namespace sorvane::test

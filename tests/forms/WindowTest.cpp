@@ -467,5 +467,27 @@ TEST(Window, TheOneInFrontHasTheKeysAndTheOneBelowAfterwards) {
     EXPECT_TRUE(hasKeys(window));
 }
 
+TEST(Window, ShownAgainItHasTheFocusAnewAndNoWishIsLeft) {
+    Small window;
+    Person person;
+    Open(window);
+    window.Unload();
+    window.Show();
+    Person::Await(window);
+    Person::Settle();
+    EXPECT_EQ((Log{"+txtCount"}), window.log);
+    window.cmdOk.OnClick([&] {
+        window.cmdCancel.SetFocus();
+        window.Unload();
+        window.Show();
+    });
+    person.Click(window.cmdOk);
+    Person::Await(window);
+    Person::Settle();
+    EXPECT_TRUE(window.txtCount.HasFocus());
+}
+
+TEST(Window, TheProgramDoesNotEndWithTheLastOne) { EXPECT_FALSE(QApplication::quitOnLastWindowClosed()); }
+
 }  // namespace
 }  // namespace sorvane::test
