@@ -799,5 +799,14 @@ TEST_F(FullBox, KeysThatTypeNothingStillWorkInIt) {
     EXPECT_TRUE(box.Text() == std::string(32766, 'x') + "e");
 }
 
+TEST_F(FullBox, SelectedLinesMakeRoomForAsManyOthers) {
+    QString lines;
+    for (int i = 0; i < 20'000; ++i) lines += "a\n";
+    Paste(lines);
+    person.Key(Qt::Key_A, Qt::ControlModifier);
+    Paste(lines.replace('a', 'b'));
+    EXPECT_EQ(32767u, box.Text().size());
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -4,7 +4,9 @@
 #include <QCalendarWidget>
 #include <QClipboard>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
@@ -684,6 +686,43 @@ TEST(NewDate, ThatIsLeftAsItWasHasNotChanged) {
     person.Tab();
     EXPECT_TRUE(ok.HasFocus());
     EXPECT_EQ(Log{}, window.log);
+}
+
+TEST_F(Dates, ADigitTypedIntoAFullMonthBeginsItAnew) {
+    date.findChild<QLineEdit*>()->setCursorPosition(6);
+    person.Type("03");
+    person.Enter();
+    EXPECT_EQ("2026-03-21", date.text().toStdString());
+}
+
+TEST_F(Dates, TheWheelTurnsTheOneThatHasTheFocus) {
+    ASSERT_TRUE(date.HasFocus());
+    QWheelEvent wheel(QPointF(5, 5), date.mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&date, &wheel);
+    EXPECT_NE(Date::FromYmd(2026, 11, 21).Days(), date.Value().Days());
+}
+
+TEST_F(Dates, OnceItWasLeftAChangeOfTheProgramFiresAtOnceAgain) {
+    person.Tab();
+    window.log.clear();
+    date.SetValue(Date::FromYmd(2027, 1, 2));
+    EXPECT_EQ((Log{"2027-01-02"}), window.log);
+}
+
+TEST_F(Dates, ItsCalendarIsMadeOnceAndItsOutlineIsThatOfAField) {
+    const auto open = [&] {
+        person.Click(date, QPoint(date.width() - 8, date.height() / 2));
+        return QPointer(QApplication::activePopupWidget()->findChild<QCalendarWidget*>());
+    };
+    const QPointer<QCalendarWidget> first = open();
+    ASSERT_FALSE(first.isNull());
+    const QImage image = QApplication::activePopupWidget()->grab().toImage();
+    EXPECT_EQ(image.pixelColor(0, image.height() / 2).name(), Look::Edge(first->palette(), true).name());
+    person.Key(Qt::Key_Escape);
+    EXPECT_EQ(open(), first);
+    EXPECT_FALSE(first.isNull());
+    person.Key(Qt::Key_Escape);
 }
 
 }  // namespace

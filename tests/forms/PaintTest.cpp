@@ -687,5 +687,19 @@ TEST(StyleSizes, AGroupIsAsWideAsItsHeavyTitle) {
     EXPECT_LT(frame.minimumSizeHint().width(), title + 50);
 }
 
+TEST_F(BallPaint, ATickedNumberIsInTheInkOfTheBallAboveItsTick) {
+    ball.SetCaption("88");
+    ball.SetValue(1);
+    for (const int side : {forms::Look::SmallestBall(ball), 2 * forms::Look::BallSize(ball)}) {
+        ball.setFixedSize(side, side);
+        Person::Settle();
+        const QImage picture = ball.grab().toImage();
+        int light = 0;
+        for (int y = side / 4; y < side / 2; ++y)
+            for (int x = side / 4; x < side * 3 / 4; ++x) light += picture.pixelColor(x, y).lightness() > 200;
+        EXPECT_GT(light, 3) << side;
+    }
+}
+
 }  // namespace
 }  // namespace sorvane::test

@@ -152,5 +152,18 @@ TEST_F(Placement, AWindowThatFillsItsScreenIsLeftAlone) {
     }
 }
 
+TEST_F(Placement, AWindowThatMovesBackEndsWhereTheScreenEnds) {
+    QScreen& screen = *QGuiApplication::primaryScreen();
+    PutMouseOn(screen);
+    Placed window({300, 150});
+    Open(window);
+    window.move(screen.availableGeometry().bottomRight() - QPoint(320, 210));
+    Person::Settle();
+    const QRect less(screen.availableGeometry().topLeft(), QSize(640, 400));
+    ASSERT_FALSE(less.contains(window.frameGeometry()));
+    emit screen.availableGeometryChanged(less);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.frameGeometry().bottomRight() == less.bottomRight(); }));
+}
+
 }  // namespace
 }  // namespace sorvane::test
