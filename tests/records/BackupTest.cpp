@@ -91,9 +91,9 @@ TEST_F(Backup, KnowsItsOwnNamesToTheLetterAndWhichIsTheOlder) {
                        "sorvane-2019-09-09-090909-2.mdb",  "sorvane-2019-09-09-090909-3.mdb",
                        "sorvane-2019-09-09-090909-10.mdb", "sorvane-2019-09-09-090909-11.mdb",
                        "sorvane-2020-01-01-000000.mdb",    "sorvane-2026-11-21-201500.mdb"};
-    for (const Texts& names : {others, own})
-        for (const std::string& name : names)
-            if (name != own.back()) Write("data/backups/" + name, "x");
+    for (const std::string& name : others) Write("data/backups/" + name, "x");
+    // Made in no order that a folder might tell them in.
+    for (const std::size_t at : {3U, 0U, 5U, 1U, 6U, 4U, 2U}) Write("data/backups/" + own[at], "x");
     fs::create_directories(Path("data/backups/sorvane-2018-01-01-000000.mdb"));
     for (std::size_t keep = own.size(); keep >= 1; --keep) {
         fs::remove(Path("data/backups/" + own.back()));
@@ -251,6 +251,37 @@ TEST_F(Restore, IsRefusedWhileAnotherProgramHoldsTheFile) {
         other.Do("ROLLBACK");
     }
     Do({"restore", Path("b.mdb")});
+}
+
+// Takes the new file away once the present one is opened, so that it can't be put in its place.
+class TakingVfs : public FileLayer {
+  public:
+    TakingVfs(const std::string& present, const fs::path& taken)
+        : FileLayer("records-taking"), present_(present), taken_(taken) {
+        Routines().xOpen = Open;
+        Routines().szOsFile = System().szOsFile;
+    }
+
+  private:
+    static int Open(sqlite3_vfs* vfs, const char* path, sqlite3_file* file, int flags, int* result) {
+        const auto& layer = static_cast<const TakingVfs&>(*static_cast<FileLayer*>(vfs->pAppData));
+        if (path != nullptr && layer.present_ == path) fs::remove(layer.taken_);
+        return layer.System().xOpen(&layer.System(), path, file, flags, result);
+    }
+    std::string present_;
+    fs::path taken_;
+};
+
+TEST_F(Restore, ThatCannotPutTheNewFileLeavesTheOldOneUnderOneName) {
+    Do({"backup", Path("b.mdb")});
+    Sql("INSERT INTO WinBC49 VALUES (2, 46348, 1,2,3,4,5,6,7)");
+    TakingVfs disk(File().string(), Path("data/sorvane.mdb.part"));
+    vfs = disk.Name();
+    const Answer answer = Run({"restore", Path("b.mdb")});
+    EXPECT_EQ(answer.status, 1);
+    EXPECT_EQ(answer.words, "sorvane-records: " + File().string() + ": the disk fails (3043)\n");
+    EXPECT_EQ(In("data"), Texts{"sorvane.mdb"});
+    EXPECT_EQ(DrawsIn(File().string()), "2");
 }
 
 TEST_F(Restore, WhatAnotherProgramHasStillOpenDoesNotReachTheNewFile) {

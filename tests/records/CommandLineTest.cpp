@@ -1,4 +1,8 @@
 #include "records/Outside.h"
+
+#include <cstdlib>
+#include <ctime>
+
 #include "records/RecordsWorld.h"
 
 namespace sorvane::testing {
@@ -138,6 +142,24 @@ TEST(Bar, ComesBehindAWholeSecondAndShowsEachPartOfAHundredOnce) {
     one.Wipe();
     EXPECT_EQ(words.str(), "\r\x1b[K");
     EXPECT_EQ(told(one, 0.999, 1), "\r\x1b[KReading [" + std::string(29, '#') + ".] 99 %");
+}
+
+TEST(OutsideTest, TheSystemsMomentIsTheOneOfItsClock) {
+    const char* zone = std::getenv("TZ");
+    const std::string before = zone == nullptr ? "" : zone;
+    setenv("TZ", "UTC", 1);
+    tzset();
+    const Records::Outside outside = Records::Outside::OfTheSystem("here/sorvane-records");
+    const std::time_t from = std::time(nullptr);
+    const Records::Moment now = outside.now();
+    const std::time_t to = std::time(nullptr);
+    const long seconds =
+        (now.day.Day() - 25'569) * 86'400L + now.hour * 3'600L + now.minute * 60L + now.second;
+    EXPECT_GE(seconds, from);
+    EXPECT_LE(seconds, to);
+    EXPECT_TRUE(now.hour < 24 && now.minute < 60 && now.second < 61);
+    zone == nullptr ? unsetenv("TZ") : setenv("TZ", before.c_str(), 1);
+    tzset();
 }
 
 TEST_F(CommandLine, VersionIsTold) {

@@ -397,6 +397,19 @@ TEST(MoneyChartTest, AnyOtherModeCountsTheRowsAndDoesNoMore) {
     EXPECT_TRUE(world.chart.calls.empty());
 }
 
+TEST(MoneyChartTest, IsToldWhetherThereIsATicketAndNothingOfWins) {
+    for (const bool any : {true, false}) {
+        MoneyWorld world("Lotto649");
+        world.Spent(any ? std::vector<ReportWorld::LedgerRow>{{"Lotto649", "2026-01-02", "3"}}
+                        : std::vector<ReportWorld::LedgerRow>{});
+        world.Winnings({{"BC49", "2026-01-02", "3"}});
+        if (!any) world.ExpectBox(NoTicketsText);
+        world.chart.found = !any;
+        world.Chart(GameMoney);
+        EXPECT_EQ(world.chart.found, any);
+    }
+}
+
 TEST(MoneyChartTest, OfAGameSpentAloneDecidesWhetherTheLedgersAreRead) {
     MoneyWorld world("Lotto649");
     world.Winnings({{"Lotto649", "2026-01-02", "3"}});

@@ -121,6 +121,17 @@ TEST(TallyTest, ATableWithoutDrawsSaysSoAndLeavesChartAndArraysAlone) {
     }
 }
 
+TEST(TallyTest, TheChartIsToldWhetherThereIsADraw) {
+    for (const bool any : {true, false}) {
+        ReportWorld world("Lotto649");
+        world.SixDraws("WinLotto649", any ? std::vector<Draw>{TwoSixDraws.front()} : std::vector<Draw>{});
+        if (!any) world.ExpectBox(NoDrawsText);
+        world.chart.found = !any;
+        TallySixNumberFrequency(world.session, {world.DbName(), "WinLotto649"}, world.chart, ChartMode);
+        EXPECT_EQ(world.chart.found, any);
+    }
+}
+
 TEST(TallyTest, AMissingTableIsNamedInTheBox) {
     ReportWorld world("ONTKeno");
     world.ExpectStoreError(3011, "Unable to open WinONTKeno table. Please advise error number to support.");
@@ -245,6 +256,13 @@ TEST(KenoTallyTest, AnUnknownGameHasNoTally) {
     world.ExpectUnexpected(9);
     TallyKenoFrequency(world.session, {world.DbName(), "WinONTKeno"}, world.chart, ChartMode);
     EXPECT_TRUE(world.chart.calls.empty());
+}
+
+TEST(KenoTallyTest, AnUnknownGameHasNoSlotForANoughtEither) {
+    ReportWorld world("Lotto649");
+    world.KenoDraws("WinONTKeno", {Draw(20, 0)});
+    world.ExpectUnexpected(9);
+    TallyKenoFrequency(world.session, {world.DbName(), "WinONTKeno"}, world.chart, ChartMode);
 }
 
 // Random draws from a fixed seed, counted once more by a plain loop.

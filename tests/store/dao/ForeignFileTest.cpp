@@ -279,6 +279,28 @@ TEST_F(ForeignFiles, ADamagedOrForeignIndexIsNotFoundOrDamage) {
     EXPECT_EQ(ErrorOf([&] { rs.Index("Part"); }), ErrorNumber::IndexNotFound);
 }
 
+TEST_F(ForeignFiles, AnIndexThatTellsARowTwiceIsDamageAndAnotherWalkBeginsAnew) {
+    CreateWithDays({10, 10, 10});
+    std::string bytes = Bytes();
+    // The entry of the third row, day 10, becomes one more of the second.
+    const std::size_t third = bytes.find("\x05\x03\x01\x01\x0A\x03");
+    ASSERT_NE(third, std::string::npos);
+    bytes[third + 5] = '\x02';
+    WriteBytes(bytes);
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    rs.Index("Date");
+    for (int walk = 0; walk < 2; ++walk) {
+        rs.Seek(10);
+        rs.MoveNext();
+        EXPECT_EQ(rs[0].ToInt(), 2);
+        EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), ErrorNumber::NotADatabase);
+        EXPECT_EQ(ErrorOf([&] { rs[0].ToInt(); }), ErrorNumber::NoCurrentRecord);
+    }
+    // Nor does it hold anybody up.
+    Plain().Ask("UPDATE Every SET Regular = 1 WHERE ID1 = 1");
+}
+
 TEST_F(ForeignFiles, RulesOfAForeignTableRefuseWithTheNearestNumber) {
     CreateWithDays({10});
     Plain().Ask(

@@ -347,6 +347,31 @@ TEST_F(Verbs, EveryVerbThatMovesDropsTheRowInHand) {
     EXPECT_EQ(Plain().One("SELECT count(*) FROM Every WHERE ID1 = 77"), "0");
 }
 
+TEST_F(Verbs, NumbersAndTextsOfARowInAWalkAreAsThoseOfAnyOther) {
+    CreateWithDays({10, 20});
+    Plain().Ask("UPDATE Every SET ID1 = 5000000000 + ID1, \"# of Balls\" = 2.6, Regular = 1, Amount = 7");
+    Database db = Open();
+    Recordset rs = db.OpenTable("Every");
+    for (int row = 0; row < 2; ++row) {
+        EXPECT_EQ(ErrorOf([&] { rs["ID1"].ToInt(); }), ErrorNumber::Overflow) << row;
+        EXPECT_EQ(rs["# of Balls"].ToInt(), 3) << row;
+        EXPECT_EQ(rs["Regular"].ToInt(), -1) << row;
+        EXPECT_EQ(rs["Amount"].ToInt(), 7) << row;
+        EXPECT_FALSE(rs["Amount"].Is("7")) << row;
+        rs.MoveNext();
+    }
+}
+
+TEST_F(Verbs, AnEditThatFindsNoRowDropsTheRowInHand) {
+    Database db = CreateEvery();
+    Recordset rs = db.OpenTable("Every");
+    rs.AddNew();
+    rs[0] = 1;
+    EXPECT_EQ(ErrorOf([&] { rs.Edit(); }), ErrorNumber::NoCurrentRecord);
+    EXPECT_EQ(ErrorOf([&] { rs.Update(); }), ErrorNumber::UpdateWithoutEdit);
+    EXPECT_EQ(rs.RecordCount(), 0);
+}
+
 TEST_F(Verbs, ARowWithoutAKeyCanBeChangedInItsOtherFields) {
     CreateWithDays({10});
     Plain().Ask("UPDATE Every SET ID1 = NULL; CREATE UNIQUE INDEX Theirs ON Every (Lottoflag)");
@@ -471,6 +496,20 @@ TEST_F(Verbs, SqlNamesItsTableByAnyLetterDigitOrUnderscoreWithoutBrackets) {
     for (const std::string name : {"azAZ09_", "_z90ZAa"})
         EXPECT_EQ(db.OpenSql("SELECT * FROM " + name)[0].ToInt(), 7) << name;
     EXPECT_EQ(db.OpenSql("SELECT * FROM [9Zz]")[0].ToInt(), 7);
+}
+
+TEST_F(Verbs, SqlKnowsItsWordsFromNamesAndTextsThatOnlyLookLikeThem) {
+    CreateWithDays({20, 10, 20});
+    Database db = Open();
+    const auto rows = [&](const char* sql) {
+        Recordset rs = db.OpenSql(sql);
+        return rs.RecordCount();
+    };
+    EXPECT_EQ(rows("SELECT [ID1] AS f, [Date] AS fro, [ID1] AS fromm FROM [Every]"), 3);
+    EXPECT_EQ(rows("SELECT [ID1] AS [from], [Date] AS \"from\" FROM [Every]"), 3);
+    EXPECT_EQ(rows("SELECT 'from x' AS a, [ID1] AS `b` FROM [Every]"), 3);
+    EXPECT_EQ(rows("SELECT [ID1] AS [order] FROM [Every] WHERE 'ORDER BY' <> 'by'"), 3);
+    EXPECT_EQ(rows("SELECT count(*) FROM [Every] GROUP BY [Date]"), 2);
 }
 
 TEST_F(Verbs, AnIndexDoesNotTurnEqualSqlRowsAround) {
