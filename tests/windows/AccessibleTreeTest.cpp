@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QGroupBox>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <algorithm>
 #include <map>
@@ -204,6 +205,36 @@ TEST_F(AccessibleState, SaysWhichNumbersAreTicked) {
     EXPECT_EQ(Told(seven, QAccessible::Name), "Number 7");
     EXPECT_TRUE(seven->state().checked);
     EXPECT_FALSE(tree.Of(Find("chkNumb(7)"))->state().checked);
+}
+
+TEST_F(AccessibleState, SaysWhichCaptionBelongsToAField) {
+    GameWindow& window = Show("mnuCANONTLOTTARIO");
+    EnterTicketsTab& enter = window.Enter;
+    CheckTicketsTab& check = window.Check;
+    QuickPickTab& picks = window.QuickPick;
+    const std::pair<const forms::Label*, const QWidget*> pairs[] = {
+        {&enter.lblDrawDate, &window.dtpEnterTickets(0)},
+        {&enter.lblNoTickets, &window.txtNoOfTickets(0)},
+        {&*enter.AddOns.lblNoOfExtra, &*enter.AddOns.txtNoOfExtra},
+        {&enter.lblDollarsSpent, &enter.txtDollars},
+        {&check.lblDrawDate, &window.dtpEnterTickets(2)},
+        {&*check.lblWinEncore, &*check.txtWinEncore},
+        {&check.lblNumbersPlayed, &check.lstNumbersPlayed},
+        {&*check.lblEncorePlayed, &*check.lstEncorePlayed},
+        {&check.lblMessage, &check.lstMessage},
+        {&check.lblDollarsWon, &check.txtDollarsWon},
+        {&picks.lblDrawDate, &window.dtpEnterTickets(1)},
+        {&picks.lblNoOfTickets, &window.txtNoOfTickets(1)},
+        {&picks.lblDisplay, &picks.lstDisplay},
+        {&picks.Wheel->lblHowMany, &picks.Wheel->txtHowMany}};
+    for (const auto& [label, field] : pairs) EXPECT_EQ(label->buddy(), field) << label->text().toStdString();
+}
+
+TEST_F(AccessibleState, SaysWhichCaptionBelongsToAListOfKeno) {
+    GameWindow& window = Show("mnuCANONTKENO");
+    EXPECT_EQ(person.Find<QLabel>("lblNoOfBalls").buddy(), &Find("cboNoOfBallsPerTicket"));
+    EXPECT_EQ(person.Find<QLabel>("lblWager").buddy(), &Find("cboWager"));
+    EXPECT_EQ(window.QuickPick.lblNumOfBalls->buddy(), &*window.QuickPick.cboNoOfQPs);
 }
 
 TEST_F(AccessibleState, SaysWhichLinesAreWinners) {

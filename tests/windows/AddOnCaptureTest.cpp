@@ -4,6 +4,36 @@
 namespace sorvane::test {
 namespace {
 
+TEST_F(AddOnWindow, TheTitleStaysOneBehindTheAddOnInHand) {
+    Show("mnuCANBCLotto649");
+    OneSheet(3);
+    Put("txtNoOfExtra", "3");
+    for (int i = 0; i < 3; ++i) {
+        TickSix();
+        Click("cmdNext_Ticket");
+    }
+    for (const auto* title : {"Extra Ticket #1 - Sheet 1 of 1", "Extra Ticket #2 - Sheet 1 of 1"}) {
+        PutPlay4("1", "2", "3", "4");
+        Click("cmdNext_Ticket");
+        EXPECT_EQ(CaptionOf("fraTicketNumber"), title);
+    }
+    Window().Leave();
+    Show("mnuCANONTLotto649");
+    OneSheet(3);
+    Put("txtNoOfExtra", "3");
+    for (int i = 0; i < 2; ++i) {
+        TickSix();
+        Click("cmdNext_Ticket");
+    }
+    TickSix();
+    Click("cmdNext_Ticket");
+    for (const auto* title : {"Encore Ticket #1 - Sheet 1 of 1", "Encore Ticket #2 - Sheet 1 of 1"}) {
+        Put("txtEncore", "123456");
+        Click("cmdNext_Ticket");
+        EXPECT_EQ(CaptionOf("fraTicketNumber"), title);
+    }
+}
+
 TEST_F(AddOnWindow, ExtraTicketsFollowTheLastTicket) {
     Show("mnuCANBCLotto649");
     OneSheet(2);

@@ -215,6 +215,19 @@ TEST_F(DigitWindow, StraightBoxMovesTheWagerToTwoUnits) {
     EXPECT_EQ(global.PlayOption, "StraightBox");
 }
 
+TEST_F(DigitWindow, TheOtherWaysLeaveTheSmallWagerAndStraightBoxChoosesNoneOfItsOwn) {
+    Show("mnuUSFLACash3");
+    OneSheet(5);
+    Click("optPlayOpt(2)");
+    EXPECT_FALSE(IsTicked("optTwoDollars"));
+    Click("optOneDollar");
+    for (const auto* way : {"optPlayOpt(0)", "optPlayOpt(1)", "optPlayOpt(3)"}) {
+        Click(way);
+        EXPECT_TRUE(IsTicked("optOneDollar")) << way;
+        EXPECT_EQ(TextOf("txtDollars"), "2.50") << way;
+    }
+}
+
 TEST_F(DigitWindow, TheSmallWagerTakesStraightBoxBackButNotItsName) {
     Show("mnuUSFLACash3");
     OneSheet(5);

@@ -254,6 +254,25 @@ TEST_F(EnterTickets, AWindowKnowsHowManyNumbersItsTicketsHave) {
     }
 }
 
+TEST_F(EnterTickets, AfterACancelAWindowKnowsAnewHowManyNumbersItsTicketsHave) {
+    constexpr PerFamily<int> Numbers{{6, 7, 6, 20, 20, 3, 4}};
+    const PerFamily<const char*> keys{
+        {"Lotto649", "Super 7", "Lottario", "ONTKeno", "PrairieKeno", "ONTPick3", "FLAPlay4"}};
+    for (const Family family : AllFamilies) {
+        Show(family, keys[family], "Encore");
+        Window().State.NumbersPerTicket = 1;
+        StartOver();
+        EXPECT_EQ(Window().State.NumbersPerTicket, Numbers[family]) << NameOf(family);
+        Window().Leave();
+    }
+}
+
+TEST_F(EnterTickets, AWindowOpensWithoutTheAmountOfTheOneBefore) {
+    global.Dollars = "7.00";
+    Show("mnuCANONTLotto649");
+    EXPECT_EQ(global.Dollars, "0.00");
+}
+
 TEST_F(EnterTickets, AWindowKnowsItsIndexAndItsField) {
     Show("mnuCANONTLotto649");
     WindowState& state = Window().State;

@@ -164,6 +164,33 @@ TEST_F(FirstLook, EachMarkPaintsTheProgressAnew) {
     }
 }
 
+// Leaves the field by Tab; whether what stands beside the title was painted anew.
+class FirstLookAtAField : public FirstLook {
+  public:
+    bool LeavingPaintsTheProgress() {
+        const QWidget& frame = Find("fraTicketNumber");
+        Person::Settle();
+        const Repainted painted(Find("fraTicketNumber"));
+        person.Tab();
+        Person::Settle();
+        return painted.Region().contains({frame.width() - 2, forms::Look::Heading(frame) / 2});
+    }
+};
+
+TEST_F(FirstLookAtAField, ATicketOfDigitsPaintsTheProgressAnew) {
+    Show("mnuCANONTPICK3");
+    OneSheet(2);
+    Choose("cboNumber(2)", "5");
+    EXPECT_TRUE(LeavingPaintsTheProgress());
+}
+
+TEST_F(FirstLookAtAField, AChoiceOfBallsPaintsTheProgressAnew) {
+    Show("mnuCANONTKENO");
+    OneSheet(1);
+    Type("cboNoOfBallsPerTicket", "5");
+    EXPECT_TRUE(LeavingPaintsTheProgress());
+}
+
 TEST_F(FirstLook, ProgressCountsTheFourNumbersOfAnExtraAsOne) {
     Show("mnuCANBCBC49");
     OneSheet(2);

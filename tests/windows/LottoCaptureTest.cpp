@@ -1,4 +1,8 @@
 // Tickets picked on the grid: six numbers, Super 7 with its bonus tickets, Lottario.
+#include <QLayout>
+#include <memory>
+
+#include "entry/ui/NumberGrid.h"
 #include "windows/Slip.h"
 
 namespace sorvane::test {
@@ -464,6 +468,16 @@ TEST_F(Lottario, ARegularMarkCarriesOverToTheNextBoughtTicket) {
     EXPECT_EQ(global.RegularMarked, True);
 }
 
+TEST_F(Lottario, AMarkThatCarriesOverComesBackIntoReach) {
+    Open(2);
+    Click("chkRegular");
+    PickFrom(1, 6);
+    Window().Enter.chkRegular.SetEnabled(false);
+    Click("cmdNext_Ticket");
+    EXPECT_TRUE(IsTicked("chkRegular"));
+    EXPECT_TRUE(IsEnabled("chkRegular"));
+}
+
 TEST_F(Lottario, MarksAreWrittenBothWaysOnEveryTicket) {
     Show("mnuCANONTLOTTARIO");
     ExpectSheets("2");
@@ -506,6 +520,23 @@ TEST_F(Lottario, TheGridEndsAtFortyFive) {
     Open(1);
     PickFrom(40, 6);
     EXPECT_EQ(Next(), "&Bonus Tickets");
+}
+
+TEST(NumberGrid, GivesItsBallsOutOfItsLayoutOneByOne) {
+    NumberGrid grid(4, 2);
+    QLayout& balls = *grid.layout();
+    EXPECT_EQ(balls.count(), 4);
+    for (const int outside : {-1, 4}) {
+        EXPECT_EQ(balls.itemAt(outside), nullptr) << outside;
+        EXPECT_EQ(balls.takeAt(outside), nullptr) << outside;
+    }
+    const std::unique_ptr<QLayoutItem> second(balls.takeAt(1));
+    ASSERT_NE(second, nullptr);
+    EXPECT_EQ(second->widget(), &grid.chkNumb(1));
+    ASSERT_EQ(balls.count(), 3);
+    EXPECT_EQ(balls.itemAt(0)->widget(), &grid.chkNumb(0));
+    EXPECT_EQ(balls.itemAt(1)->widget(), &grid.chkNumb(2));
+    EXPECT_EQ(balls.itemAt(2)->widget(), &grid.chkNumb(3));
 }
 
 // Once a ticket was being entered anew when a window was left: no button of the next window came on, for the

@@ -1,4 +1,7 @@
 
+#include <QAbstractItemView>
+#include <QApplication>
+
 #include "ReportsWorld.h"
 
 namespace sorvane::test {
@@ -216,6 +219,22 @@ TEST_F(QuickPickTabTest, TheLargestCountIsGenerated) {
     EXPECT_EQ(Window().QuickPick.lstDisplay.ListCount(), 32767);
 }
 
+TEST_F(QuickPickTabTest, ThePointerIsBusyWhileMoreThanTenThousandTicketsAreMade) {
+    for (const bool many : {false, true}) {
+        OpenQuickPick(DailyKeno);
+        Type("txtNoOfTickets(1)", many ? "10040" : "10000");
+        person.Tab();
+        bool busy = false;
+        const auto* rows = person.Find<QAbstractItemView>("lstDisplay").model();
+        QObject::connect(rows, &QAbstractItemModel::rowsInserted, rows,
+                         [&] { busy = busy || QApplication::overrideCursor(); });
+        Click("cmdGenerate");
+        EXPECT_EQ(busy, many);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        Window().Leave();
+    }
+}
+
 TEST_F(QuickPickTabTest, KenoWithoutBallsShowsAnEmptyLineForEachTicket) {
     OpenQuickPick(DailyKeno);
     Generate("3");
@@ -296,6 +315,20 @@ TEST_F(QuickPickTabTest, PrintsWhatTheGeneratorLeft) {
                      "        ========================================================", "", "",
                      "      Ticket #1 - " + display[0], "      Ticket #2 - " + display[1]}));
     EXPECT_EQ(printer.documents[0][6].fontSize, 12);
+}
+
+TEST_F(QuickPickTabTest, ThePointerIsBusyWhileMoreThanTwoAndAHalfThousandTicketsArePrinted) {
+    for (const bool many : {false, true}) {
+        OpenQuickPick(SixFortyNine);
+        Generate(many ? "2510" : "2500");
+        printer.FailAt(testing::RecordingPrinter::Verb::ShowPrinter, 1, 484);
+        bool busy = !many;
+        person.Expect("PRINTER ERROR!", "Printer driver unavailable.", Answer::Ok, BoxStyle::Ok,
+                      [&] { busy = QApplication::overrideCursor() != nullptr; });
+        Click("cmdPrint");
+        EXPECT_EQ(busy, many);
+        Window().Leave();
+    }
 }
 
 TEST_F(QuickPickTabTest, PrintsKenoTicketsWithNothingBehindTheirNumber) {

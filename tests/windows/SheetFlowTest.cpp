@@ -453,6 +453,15 @@ TEST_F(HalfSaved, NoLeavesTheRowsAndTheWindow) {
     EXPECT_EQ(CountOf("Spent"), "0");
 }
 
+TEST_F(HalfSaved, ACountOfNoughtQuickPicksLeavesNothingToCleanUp) {
+    Begin("mnuCANBCBC49");
+    person.ClickTab("&Quick Pick");
+    Put("txtNoOfTickets(1)", "0");
+    Click("cmdExit(1)");
+    EXPECT_FALSE(Window().IsShown());
+    EXPECT_EQ(CountOf("PlayedBC49"), "1");
+}
+
 TEST_F(HalfSaved, TheCloseBoxAsksToCleanUpAsTheExitDoesFromAnyTab) {
     Begin("mnuCANBCBC49");
     Window().SSTab1.SetTab(Tab::Check);
