@@ -34,6 +34,34 @@ TEST_F(AddOnWindow, TheTitleStaysOneBehindTheAddOnInHand) {
     }
 }
 
+TEST_F(AddOnWindow, OnceTheAddOnsBeginNoTicketIsReEnteredAndNoNumberCounted) {
+    for (const auto* menu : {"mnuCANBCLotto649", "mnuCANONTLotto649"}) {
+        Show(menu);
+        OneSheet(1);
+        Put("txtNoOfExtra", "1");
+        TickSix();
+        ASSERT_TRUE(IsEnabled("cmdCorrection"));
+        ASSERT_EQ(global.NumbersPicked, 6);
+        Click("cmdNext_Ticket");
+        EXPECT_FALSE(IsEnabled("cmdCorrection")) << menu;
+        EXPECT_EQ(global.NumbersPicked, 0) << menu;
+        Window().Leave();
+    }
+}
+
+TEST_F(AddOnWindow, AfterTheLastSheetTheFieldsOfExtraAreEmptyThoughNobodyWasLedToThem) {
+    AddOnCapture& addOns = Show("mnuCANBCLotto649").Enter.AddOns;
+    OneSheet(1);
+    TickSix();
+    addOns.txtNoOfExtra->SetText("2");
+    addOns.txtPlay4(0).SetText("5");
+    addOns.txtPlay4(3).SetText("8");
+    SaveSheet(true);
+    EXPECT_EQ(addOns.txtNoOfExtra->Text(), "0");
+    EXPECT_EQ(addOns.txtPlay4(0).Text(), "");
+    EXPECT_EQ(addOns.txtPlay4(3).Text(), "");
+}
+
 TEST_F(AddOnWindow, ExtraTicketsFollowTheLastTicket) {
     Show("mnuCANBCLotto649");
     OneSheet(2);

@@ -415,6 +415,29 @@ TEST_F(SheetFlowTest, CancelAsksAndStartsOverWithoutTouchingTheStore) {
     EXPECT_FALSE(Window().IsShown());
 }
 
+TEST_F(SheetFlowTest, CancelLeavesNothingCountedMarkedOrOpen) {
+    Show("mnuCANBCLotto649");
+    OneSheet(1);
+    Put("txtNoOfExtra", "1");
+    PickFrom(1, 6);
+    Click("cmdNext_Ticket");
+    ASSERT_TRUE(IsShown("txtPlay4(0)"));
+    Window().Enter.cmdCorrection.SetEnabled(true);
+    global.TicketNo = global.ExtraNo = global.NoOfExtra = global.NumbersPicked = 3;
+    ASSERT_EQ(Ticked().size(), 6u);
+    StartOver();
+    EXPECT_EQ(global.TicketNo, 0);
+    EXPECT_EQ(global.ExtraNo, 0);
+    EXPECT_EQ(global.NoOfExtra, 0);
+    EXPECT_EQ(global.NumbersPicked, 0);
+    EXPECT_EQ(Ticked(), std::vector<int>{});
+    EXPECT_FALSE(IsEnabled("cmdCorrection"));
+    EXPECT_EQ(TextOf("txtNoOfTickets(0)"), "0");
+    EXPECT_EQ(TextOf("txtNoOfExtra"), "0");
+    EXPECT_FALSE(IsShown("lblExtra"));
+    EXPECT_FALSE(IsShown("txtPlay4(3)"));
+}
+
 TEST_F(SheetFlowTest, LeavingBeforeAnySheetWasSavedAsksNothing) {
     Show("mnuCANBCBC49");
     OneSheet(2);
