@@ -449,6 +449,18 @@ TEST_F(DeletionTest, TheLastRowsOfTheTableCanBelongToTheDate) {
     EXPECT_EQ(world.global.Open.DbOpen, 0);
 }
 
+TEST_F(DeletionTest, TheOnlyRowOfTheTableCanBelongToTheDate) {
+    Put(1, "Lotto649", monday);
+    DeleteRowsForDate(world.session, {world.DbName(), "PlayedEncore"}, monday);
+    EXPECT_TRUE(Left().empty());
+}
+
+TEST_F(DeletionTest, TheOnlyRowGoesWithAllRows) {
+    Put(1, "Lotto649", monday);
+    DeleteAllRows(world.session, {world.DbName(), "PlayedEncore"});
+    EXPECT_TRUE(Left().empty());
+}
+
 TEST_F(DeletionTest, AllRowsGo) {
     for (int key = 1; key <= 5; ++key) Put(key, "Lotto649", key % 2 ? monday : tuesday);
     DeleteAllRows(world.session, {world.DbName(), "PlayedEncore"});
