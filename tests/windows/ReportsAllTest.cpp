@@ -47,6 +47,8 @@ TEST_F(AllReportsTest, OpensOnAnEmptyChart) {
     EXPECT_EQ(Bar(Money(), 2, 1), 0);
     EXPECT_EQ(Legend(Money(), 1), "Spent");
     EXPECT_EQ(Legend(Money(), 2), "Won  ");
+    EXPECT_EQ(Money().accessibleDescription().toStdString(),
+              "Nothing to see yet: press a button beside the chart");
     EXPECT_EQ(CaptionOf("cmdProfitLoss"), "&Profit/Loss");
     EXPECT_EQ(CaptionOf("cmdPLReport"), "Profit/&Loss");
     EXPECT_EQ(CaptionOf("cmdExit"), "E&xit");

@@ -1,3 +1,5 @@
+#include <QPointer>
+
 #include "support/WindowWorld.h"
 
 namespace sorvane::test {
@@ -13,6 +15,12 @@ TEST_F(WindowWorld, ShowsAWindowInItsOwnLoop) {
     });
     EXPECT_TRUE(acted);
     EXPECT_FALSE(windows.IsLoaded(Family::frm649));
+}
+
+TEST_F(WindowWorld, AWindowThatWasLeftIsThrownAway) {
+    QPointer<QWidget> left;
+    ShowModal("mnuCANBCBC49", [&](GameWindow& window) { left = &window; });
+    EXPECT_TRUE(left.isNull());
 }
 
 }  // namespace
