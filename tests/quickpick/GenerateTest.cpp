@@ -220,6 +220,15 @@ TEST(QuickPickTest, EveryLineOfMoreThanTwentyKenoNumbersStartsWithItsNoughts) {
     }
 }
 
+TEST(QuickPickTest, KenoWithoutADrawShowsAllThatWasLeft) {
+    PickWorld world("FLACash3");
+    world.global.LottoFlag = "WESTPick3";
+    world.global.NoOfBallsPerTicket = 5;
+    world.global.Numbers.Redim(4);
+    for (int position = 0; position < 5; ++position) world.global.Numbers(position) = 7 + position;
+    EXPECT_EQ(world.Generate(20, 1), Texts{"7, 8, 9, 10, 11"});
+}
+
 TEST(QuickPickTest, TheWesternKeyDrawsNothingAndShowsWhatWasLeft) {
     PickWorld world("FLACash3");
     const std::string last = world.Generate(3, 2).back();
