@@ -36,6 +36,7 @@ TEST_F(CommandLine, WrongUseIsToldByTheNameOfWhatIsMissingOrUnknown) {
     };
     told({}, "a command is missing");
     told({"sing"}, "\"sing\" is no command");
+    told({"sing", "loud"}, "\"sing\" is no command");
     told({"draws"}, "GAME is required");
     told({"draws", "BC49"}, "FILE is required");
     told({"tickets"}, "GAME is required");

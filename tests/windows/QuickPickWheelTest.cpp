@@ -206,6 +206,7 @@ TEST_P(EveryWheel, ANumberBeyondTheGameIsRefused) {
     Click("cmdGenerate");
     EXPECT_EQ(Focus(), Favs(1));
     EXPECT_EQ(TextOf(Favs(1)), Number(Limit() + 1));
+    EXPECT_EQ(global.Favourites(1), 0);
     Put(Favs(1), Number(Limit()));
     EXPECT_EQ(global.Favourites(1), Limit());
     EXPECT_EQ(Focus(), Favs(2));

@@ -287,6 +287,17 @@ TEST(Values, ReadAsNumbersAndTextOrRaise) {
     }
 }
 
+TEST(Values, TheLowestAndTheHighestNumberAreReadAndTheirNeighboursRaise) {
+    EXPECT_EQ(Value(-2147483648.0).ToInt(), std::numeric_limits<int>::min());
+    EXPECT_EQ(Value(2147483647.0).ToInt(), std::numeric_limits<int>::max());
+    EXPECT_EQ(ErrorOf([] { Value(-2147483649.0).ToInt(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([] { Value(2147483648.0).ToInt(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(Value(-2147483648LL).ToInt(), std::numeric_limits<int>::min());
+    EXPECT_EQ(Value(2147483647LL).ToInt(), std::numeric_limits<int>::max());
+    EXPECT_EQ(ErrorOf([] { Value(-2147483649LL).ToInt(); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([] { Value(2147483648LL).ToInt(); }), ErrorNumber::Overflow);
+}
+
 TEST(Values, ReadAsAmountsDatesAndFlagsOrRaise) {
     EXPECT_EQ(Value(5).ToCurrency(), Currency::FromInt(5));
     EXPECT_EQ(Value("1,000.5").ToCurrency(), Currency::FromText("1000.5"));
