@@ -287,6 +287,16 @@ TEST(Values, ReadAsNumbersAndTextOrRaise) {
     }
 }
 
+TEST(Values, FieldTypesHaveTheNumbersOfTheEngine) {
+    EXPECT_EQ(static_cast<int>(FieldType::Other), 0);
+    EXPECT_EQ(static_cast<int>(FieldType::Boolean), 1);
+    EXPECT_EQ(static_cast<int>(FieldType::Integer), 3);
+    EXPECT_EQ(static_cast<int>(FieldType::Long), 4);
+    EXPECT_EQ(static_cast<int>(FieldType::Currency), 5);
+    EXPECT_EQ(static_cast<int>(FieldType::Date), 8);
+    EXPECT_EQ(static_cast<int>(FieldType::Text), 10);
+}
+
 TEST(Values, TheLowestAndTheHighestNumberAreReadAndTheirNeighboursRaise) {
     EXPECT_EQ(Value(-2147483648.0).ToInt(), std::numeric_limits<int>::min());
     EXPECT_EQ(Value(2147483647.0).ToInt(), std::numeric_limits<int>::max());
