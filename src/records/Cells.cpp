@@ -66,7 +66,9 @@ std::vector<Piece> PiecesOf(std::string_view text) {
 }
 
 std::optional<Date> Existing(int year, int month, int day) {
+    constexpr int FirstYear = 100;  // that the file holds
     Date date;
+    if (year < FirstYear) return std::nullopt;
     if (ErrorOf([&] { date = Date::FromYmd(year, month, day); }) != 0) return std::nullopt;
     return date;
 }

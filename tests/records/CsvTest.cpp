@@ -221,6 +221,12 @@ TEST(Dates, WithTwoDigitsOfAYearLieFrom1930To2029) {
     EXPECT_EQ(Day("01/02/00"), "2000-01-02");
 }
 
+// The file holds none before.
+TEST(Dates, BeginWithTheYear100) {
+    EXPECT_EQ(Records::ReadDate("0100-01-01"), Date::FromYmd(100, 1, 1));
+    EXPECT_EQ(Records::ReadDate("0099-12-31"), std::nullopt);
+}
+
 TEST(Dates, ThatAreNoneAreRefused) {
     for (const char* text : {"",
                              "soon",
@@ -238,6 +244,8 @@ TEST(Dates, ThatAreNoneAreRefused) {
                              "46347",
                              "2026-11-21 25",
                              "0000-01-01",
+                             "0099-12-31",
+                             "31 December 0099",
                              "Nov 2026",
                              "Foo 21, 2026",
                              "11:21:2026",
